@@ -47,11 +47,15 @@ public:
     std::int32_t Columns() const { return columns_; }
 
     decltype(auto) operator()(std::int32_t row, std::int32_t column) { return cells_[Place(row, column)]; }
-    decltype(auto) operator()(std::int32_t row, std::int32_t column) const { return cells_[Place(row, column)]; }
+    decltype(auto) operator()(std::int32_t row, std::int32_t column) const {
+        return cells_[Place(row, column)];
+    }
 
     // The cells of one row, Columns() of them, for loops that have checked their bounds.
     T* Row(std::int32_t row) { return cells_.data() + std::size_t(row - 1) * std::size_t(columns_); }
-    const T* Row(std::int32_t row) const { return cells_.data() + std::size_t(row - 1) * std::size_t(columns_); }
+    const T* Row(std::int32_t row) const {
+        return cells_.data() + std::size_t(row - 1) * std::size_t(columns_);
+    }
 
     std::vector<T>& Cells() { return cells_; }
     const std::vector<T>& Cells() const { return cells_; }

@@ -12,7 +12,8 @@ namespace dorvan {
 // a value that rounds to zero carries no minus sign. No grouping, any number of digits before the separator.
 std::string FormatPattern(double value, std::string_view pattern, char decimalSeparator);
 
-// The plain text of a 32-bit float: at most 7 significant digits, no trailing zeros; the form with an exponent
+// The plain text of a 32-bit float: at most 7 significant digits, no trailing zeros; the form with an
+// exponent
 // ("1E+07", "1.234568E-05") when the decimal exponent of the rounded value is below -4 or above 6.
 std::string PlainText(float value, char decimalSeparator);
 
@@ -33,7 +34,8 @@ std::int16_t StrictInt16(std::string_view text, char decimalSeparator); // round
 // the other.
 float ParseSheetNumber(std::string_view text, char decimalSeparator);
 
-// The separator that the process's locale-aware number formatting writes for 1.234: '.' or ','; '.' if neither.
+// The separator that the process's locale-aware number formatting writes for 1.234: '.' or ','; '.' if
+// neither.
 char FindDecimalSeparator();
 
 } // namespace dorvan

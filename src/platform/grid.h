@@ -1,0 +1,82 @@
+#pragma once
+
+#include "platform/controls.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace dorvan {
+
+// A grid of cells with text or a picture, some fixed rows and columns, and a current cell. Rows and columns
+// count from 0; an index outside fails with SubscriptOutOfRange. Lengths in twips.
+class Grid : public Control {
+public:
+    static constexpr int DefaultColumnWidth = 960;
+    static constexpr int DefaultRowHeight = 255;
+
+    explicit Grid(std::string name) : Control(std::move(name)) {}
+
+    // Cells that stay inside keep their contents; new ones are empty. Widths, heights and alignments
+    // likewise. The current cell is moved inside.
+    void SetSize(int rows, int columns);
+    void Clear(); // empties texts and pictures
+    int Rows() const { return rows_; }
+    int Columns() const { return columns_; }
+
+    int FixedRows = 1;
+    int FixedColumns = 1;
+    bool GridLines = true;
+    int FontSize = 8; // points
+
+    int Row() const { return row_; }
+    int Column() const { return column_; }
+    void SetCurrent(int row, int column);
+
+    const std::string& Text(int row, int column) const { return texts_[Place(row, column)]; }
+    void SetText(int row, int column, std::string text);
+
+    // A picture is a small number that the grid's owner gives a meaning to; 0 is none.
+    std::uint8_t Picture(int row, int column) const { return pictures_[Place(row, column)]; }
+    void SetPicture(int row, int column, std::uint8_t picture);
+
+    int ColumnWidth(int column) const { return widths_[ColumnPlace(column)]; }
+    void SetColumnWidth(int column, int width);
+    int RowHeight(int row) const { return heights_[RowPlace(row)]; }
+    void SetRowHeight(int row, int height);
+    Alignment ColumnAlignment(int column) const { return alignments_[ColumnPlace(column)]; }
+    void SetColumnAlignment(int column, Alignment alignment);
+    Alignment HeaderAlignment(int column) const {
+        return headerAlignments_[ColumnPlace(column)];
+    } // fixed rows
+    void SetHeaderAlignment(int column, Alignment alignment);
+
+    void RemoveRow(int row);
+
+    // One step of the current cell by an arrow key code, not into the fixed cells and not over the edge.
+    void ArrowKey(int keyCode);
+
+    // Grows with every change: a face that has painted a revision need not paint it again.
+    std::uint64_t Revision() const { return revision_; }
+
+private:
+    std::size_t Place(int row, int column) const {
+        return RowPlace(row) * std::size_t(columns_) + ColumnPlace(column);
+    }
+    std::size_t RowPlace(int row) const;
+    std::size_t ColumnPlace(int column) const;
+
+    int rows_ = 0;
+    int columns_ = 0;
+    int row_ = 0;
+    int column_ = 0;
+    std::uint64_t revision_ = 0;
+    std::vector<std::string> texts_;
+    std::vector<std::uint8_t> pictures_;
+    std::vector<int> widths_;
+    std::vector<int> heights_;
+    std::vector<Alignment> alignments_;
+    std::vector<Alignment> headerAlignments_;
+};
+
+} // namespace dorvan

@@ -1,0 +1,21 @@
+#pragma once
+
+// Key codes (key down) and character codes (key press) as the windows' handlers know them. A handler that
+// swallows a key sets its code to 0.
+namespace dorvan::key {
+
+inline constexpr int None = 0;
+inline constexpr int Backspace = 8;
+inline constexpr int Tab = 9;
+inline constexpr int Enter = 13;
+inline constexpr int Escape = 27;
+inline constexpr int Space = 32;
+inline constexpr int End = 35;
+inline constexpr int Home = 36;
+inline constexpr int Left = 37;
+inline constexpr int Up = 38;
+inline constexpr int Right = 39;
+inline constexpr int Down = 40;
+inline constexpr int F2 = 113;
+
+} // namespace dorvan::key

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/message_boxes.h"
+#include "platform/ports.h"
+
+namespace dorvan {
+
+// All ports of one run.
+struct Platform {
+    MessageBoxes& messages;
+    FileChoice& files;
+    FormDisplay& forms;
+    ChildDisplay& children;
+    Signals& signals;
+    PendingEvents& events;
+    Keyboard& keyboard;
+    Screen& screen;
+    Clock& clock;
+    SettingsStore& settings;
+    HelpViewer& help;
+};
+
+// The wait cursor for as long as it lives.
+class WaitCursor {
+public:
+    explicit WaitCursor(Platform& platform) : platform_(platform) {
+        platform_.signals.setCursor(Cursor::Wait);
+    }
+    ~WaitCursor() { platform_.signals.setCursor(Cursor::Default); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+
+private:
+    Platform& platform_;
+};
+
+} // namespace dorvan

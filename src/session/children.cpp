@@ -1,0 +1,106 @@
+#include "session/children.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace dorvan {
+
+namespace {
+
+auto Place(Session& session, const ChildWindow& window) {
+    return std::find_if(session.Children.begin(), session.Children.end(),
+                        [&](const auto& child) { return child.get() == &window; });
+}
+
+std::shared_ptr<ChildWindow> OwnerOf(Session& session, const ChildWindow& window) {
+    for (const auto* windows :
+         {&session.DataWindows, &session.MatrixWindows, &session.DiagramWindows, &session.BitmapWindows})
+        for (const auto& owner : *windows)
+            if (owner.get() == &window) return owner;
+    return nullptr;
+}
+
+void SwitchActive(Session& session, ChildWindow* window) {
+    if (session.ActiveWindow == window) return;
+    if (session.ActiveWindow) session.ActiveWindow->Form_Deactivate();
+    session.ActiveWindow = window;
+    if (window) window->Form_Activate();
+}
+
+} // namespace
+
+void ShowChild(Session& session, ChildWindow& window) {
+    if (Place(session, window) == session.Children.end())
+        if (auto owner = OwnerOf(session, window)) session.Children.push_back(std::move(owner));
+    window.Visible = true;
+    session.platform.children.show(window);
+    ActivateChild(session, window);
+}
+
+void ActivateChild(Session& session, ChildWindow& window) {
+    const auto place = Place(session, window);
+    if (place == session.Children.end()) return;
+    std::rotate(place, place + 1, session.Children.end());
+    SwitchActive(session, &window);
+}
+
+bool CloseChild(Session& session, ChildWindow& window) {
+    const auto place = Place(session, window);
+    if (place == session.Children.end() || !window.Form_QueryUnload()) return place == session.Children.end();
+    const std::shared_ptr<ChildWindow> keepAlive = *Place(session, window);
+    if (session.ActiveWindow == &window) {
+        window.Form_Deactivate();
+        session.ActiveWindow = nullptr;
+    }
+    window.Form_Unload();
+    window.Visible = false;
+    session.Children.erase(Place(session, window));
+    session.platform.children.close(window);
+    if (session.Children.empty())
+        DisableDocumentCommands(session);
+    else if (!session.ActiveWindow)
+        SwitchActive(session, session.Children.back().get());
+    return true;
+}
+
+bool CloseAllChildren(Session& session) {
+    while (!session.Children.empty())
+        if (!CloseChild(session, *session.Children.back())) return false;
+    return true;
+}
+
+void DisableDocumentCommands(Session& session) {
+    static constexpr const char* items[] = {
+        "mnuExport",         "mnuExportText",     "mnuExportExcel",      "mnuExportBitmap",
+        "mnuExportMeta",     "mnuSave",           "mnuSaveAs",           "mnuFileClose",
+        "mnuFilePrint",      "mnuEditCell",       "mnuEditVarAdd",       "mnuEditVarEdit",
+        "mnuEditVarDelete",  "mnuEditRecAdd",     "mnuEditRecDelete",    "mnuEditStandarization",
+        "mnuEditSelect",     "mnuEditHome",       "mnuEditUp",           "mnuEditDown",
+        "mnuEditEnd",        "mnuEditInsert",     "mnuEditCreateMatrix", "mnuEditCreateDataset",
+        "mnuEditHistogram",  "mnuEditLinear",     "mnuEditDiagramType",  "mnuEditCopyClip",
+        "mnuAnalysisMatrix", "mnuAnalysisDiagram"};
+    for (const auto* item : items) session.mainWindow.EnableMenu(item, false);
+    for (const auto* key : {"MakeMatrix", "MakeDiagram", "Save", "SaveAs", "Print"})
+        session.mainWindow.EnableButton("toolMain", key, false);
+    for (const auto* toolbar : {"toolMatrix", "toolDiagram", "toolData", "toolBitmap"})
+        session.mainWindow.ShowToolbar(toolbar, false);
+}
+
+Answer AskToSave(Session& session, const std::string& what, const std::string& name, MessageIcon icon) {
+    return session.platform.messages.show(
+        {.Text = fmt::format("The {} in [{}] has changed.\r\nDo you want to save the changes?", what, name),
+         .Icon = icon,
+         .Buttons = MessageButtons::YesNoCancel,
+         .Title = session.mainWindow.Caption});
+}
+
+void PlaceNewWindow(Session& session, ChildWindow& window) {
+    window.Mode = WindowMode::Normal;
+    window.Width = static_cast<int>(static_cast<float>(0.95 * session.platform.screen.width()));
+    window.Height = static_cast<int>(static_cast<float>(0.8 * session.platform.screen.height()));
+    window.Left = 0;
+    window.Top = 0;
+}
+
+} // namespace dorvan

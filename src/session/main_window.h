@@ -1,0 +1,50 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace dorvan {
+
+// The state of the main window that a face mirrors: the enabled state of menu items and toolbar buttons,
+// which toolbars and buttons show, the check mark and the caption. Child windows switch the commands as they
+// activate, deactivate and unload; the last to act wins. A name that nobody switched is on, and shown.
+class MainWindow {
+public:
+    std::string Caption;
+    std::string TypeOfForm;
+    bool ToolbarChecked = false; // check mark of mnuOToolbar
+
+    void EnableMenu(const std::string& item, bool enabled) { menus_[item] = enabled; }
+    bool MenuEnabled(const std::string& item) const { return Look(menus_, item); }
+
+    // Buttons by toolbar and key, such as ("toolMain", "Save").
+    void EnableButton(const std::string& toolbar, const std::string& key, bool enabled) {
+        buttons_[toolbar + "." + key] = enabled;
+    }
+    bool ButtonEnabled(const std::string& toolbar, const std::string& key) const {
+        return Look(buttons_, toolbar + "." + key);
+    }
+    void ShowButton(const std::string& toolbar, const std::string& key, bool shown) {
+        shownButtons_[toolbar + "." + key] = shown;
+    }
+    bool ButtonShown(const std::string& toolbar, const std::string& key) const {
+        return Look(shownButtons_, toolbar + "." + key);
+    }
+
+    void ShowToolbar(const std::string& toolbar, bool shown) { toolbars_[toolbar] = shown; }
+    bool ToolbarShown(const std::string& toolbar) const { return Look(toolbars_, toolbar); }
+
+private:
+    using Switches = std::map<std::string, bool>;
+    static bool Look(const Switches& switches, const std::string& name) {
+        const auto found = switches.find(name);
+        return found == switches.end() || found->second;
+    }
+
+    Switches menus_;
+    Switches buttons_;
+    Switches shownButtons_;
+    Switches toolbars_;
+};
+
+} // namespace dorvan

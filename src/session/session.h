@@ -1,0 +1,104 @@
+#pragma once
+
+#include "numbers/code_page.h"
+#include "numbers/random_source.h"
+#include "platform/child_window.h"
+#include "platform/platform.h"
+#include "session/command_table.h"
+#include "session/documents.h"
+#include "session/forms.h"
+#include "session/main_window.h"
+#include "session/version.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace dorvan {
+
+// The one state of a run: the arrays through which documents pass, the analysis options, and the registry of
+// open documents. Made once and handed by reference.
+struct Session {
+    explicit Session(Platform& ports) : platform(ports) {}
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    Platform& platform;
+    CommandTable commands;
+    MainWindow mainWindow;
+    Forms forms;
+    RandomSource random;
+    CodePage codePage; // of files
+    Version version;
+    char DecimalSeparator = '.';
+    std::string AppPath;  // the program's folder, stored at start-up
+    std::string HelpFile; // empty: no help file is set
+
+    // Documents in transit, all from 1.
+    Names RecordNames;
+    Names VariableNames;
+    FloatTable DataValues;     // (record, variable)
+    FloatTable DistanceValues; // (record, record)
+    Flags RecordHasNA;
+    bool DataHasNA = false;
+    bool PendingError = false; // the pending-error indicator
+
+    // Analysis options.
+    Array1<float> SectionLimits; // four, unset until the first diagram
+    std::int16_t CurrentDiagType = 2;
+    std::int16_t CurrentDistType = 1;
+    std::int16_t Par_P = 0;
+    std::int16_t Par_R = 0;
+    std::int16_t CurrentOrderMethod = 1; // 1 none, 2 simple, 3 simple genetic, 4 Ravelin
+
+    // Results of modal dialogs: 1 accepted, -99 cancelled (0 in the print dialogs).
+    std::int16_t DialogOutcome = 0;
+    std::int16_t OutputDialogOutcome = 0;
+
+    // Text export: separators 1 semicolon, 2 comma, 3 tab.
+    std::int16_t MatrixTextSeparator = 1;
+    std::int16_t DataTextSeparator = 1;
+    std::int16_t DataTextNames = 1;
+
+    std::int16_t PendingRecCount = 0;
+    std::int16_t PendingVarCount = 0;
+    std::int16_t NewWindowIndex = 0;
+    std::int16_t MaxDiagramRecords = 0;
+    bool DiagramFromMatrix = false;
+    std::int32_t DiagramBusy = 0; // 1 while a diagram is being made: commands only beep
+    bool SuppressCommit = false;  // set by the deletion of a record: the next commit of a cell is dropped
+    std::int32_t DiagramRecordCount = 0; // records of the document for which a diagram is being made
+
+    // The registry. Slot 0 is never used; within one kind all have the same upper bound; they never shrink.
+    std::vector<std::shared_ptr<ChildWindow>> DataWindows;
+    std::vector<WindowState> DataStates;
+    std::vector<std::shared_ptr<ChildWindow>> MatrixWindows;
+    std::vector<WindowState> MatrixStates;
+    std::deque<DistanceMatrix> MatrixDocuments;
+    std::vector<std::shared_ptr<ChildWindow>> DiagramWindows;
+    std::vector<WindowState> DiagramStates;
+    std::deque<DiagramDocument> DiagramDocuments;
+    std::vector<std::shared_ptr<ChildWindow>> BitmapWindows;
+    std::vector<WindowState> BitmapStates;
+
+    // The child windows on the screen, the active one last (see session/children.h).
+    std::vector<std::shared_ptr<ChildWindow>> Children;
+    ChildWindow* ActiveWindow = nullptr; // null: the main window alone
+
+    // Makes the window of a kind by the composition root's hand; it takes its slot from NewWindowIndex.
+    std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
+};
+
+// The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.
+// The random generator is seeded from `seed` (the clock's seconds since midnight unless a seed was asked
+// for).
+void StartSession(Session& session, std::uint64_t seed, const std::string& programFolder);
+
+// "Dorvan 3.3.44", the main window's caption.
+std::string MainCaption(const Version& version);
+
+} // namespace dorvan

@@ -1,0 +1,114 @@
+#include "sheet/frmNotePad.h"
+
+#include "numbers/number_text.h"
+#include "numbers/runtime_failure.h"
+#include "numbers/text.h"
+#include "session/children.h"
+
+namespace dorvan {
+
+namespace {
+
+constexpr int NumberColumnWidth = 900;
+constexpr int NameColumnWidth = 1800;
+constexpr int ValueColumnWidth = 900;
+
+// What an active data sheet turns on in the menus.
+constexpr const char* SheetMenus[] = {"mnuExport",
+                                      "mnuExportText",
+                                      "mnuExportExcel",
+                                      "mnuSave",
+                                      "mnuSaveAs",
+                                      "mnuFileClose",
+                                      "mnuEditCell",
+                                      "mnuEditVarAdd",
+                                      "mnuEditVarEdit",
+                                      "mnuEditVarDelete",
+                                      "mnuEditRecAdd",
+                                      "mnuEditRecDelete",
+                                      "mnuEditStandarization",
+                                      "mnuAnalysisDiagram",
+                                      "mnuAnalysisMatrix"};
+
+void SwitchSheetCommands(MainWindow& mainWindow, bool enabled, bool exportsToo) {
+    for (const std::string item : SheetMenus)
+        if (exportsToo || !item.starts_with("mnuExport")) mainWindow.EnableMenu(item, enabled);
+    for (const auto* key : {"MakeMatrix", "MakeDiagram", "Save", "SaveAs"})
+        mainWindow.EnableButton("toolMain", key, enabled);
+    mainWindow.EnableButton("toolMain", "Print", false);
+    mainWindow.ShowToolbar("toolData", enabled);
+}
+
+} // namespace
+
+frmNotePad::frmNotePad(Session& session) : ChildWindow("frmNotePad"), session_(session) {
+    EditPanel.Visible = false;
+}
+
+void frmNotePad::LayOut(int recordCount, int variableCount) {
+    Grid1.SetSize(recordCount + 1, variableCount + 2);
+    Grid1.Clear();
+    Grid1.SetText(0, 0, "Number");
+    Grid1.SetText(0, 1, "Record Name");
+    for (int column = 0; column < Grid1.Columns(); ++column) {
+        Grid1.SetColumnWidth(column, column == 0   ? NumberColumnWidth
+                                     : column == 1 ? NameColumnWidth
+                                                   : ValueColumnWidth);
+        if (column == 0) continue;
+        Grid1.SetHeaderAlignment(column, Alignment::Centre);
+        Grid1.SetColumnAlignment(column, Alignment::Centre);
+    }
+    for (int row = 1; row <= recordCount; ++row) Grid1.SetText(row, 0, SignedText(row));
+}
+
+void frmNotePad::Present(const std::string& description) {
+    const auto& values = session_.DataValues;
+    LayOut(session_.RecordNames.Count(), session_.VariableNames.Count());
+    OpisText.Text = description;
+    for (int column = 1; column <= VariableCount(); ++column)
+        Grid1.SetText(0, column + 1, session_.VariableNames(column));
+    for (int row = 1; row <= RecordCount(); ++row) {
+        Grid1.SetText(row, 1, session_.RecordNames(row));
+        for (int column = 1; column <= VariableCount(); ++column) {
+            const float value = values(row, column);
+            Grid1.SetText(row, column + 1,
+                          value == NaValue ? std::string(NaText)
+                                           : FormatPattern(value, "###0.000", session_.DecimalSeparator));
+        }
+    }
+    if (RecordCount() >= 1) Grid1.SetCurrent(1, 1);
+}
+
+void frmNotePad::Form_Activate() {
+    TypeOfForm = DocumentKind::Data;
+    SwitchSheetCommands(session_.mainWindow, true, true);
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) session_.mainWindow.EnableMenu(item, false);
+}
+
+void frmNotePad::Form_Deactivate() { SwitchSheetCommands(session_.mainWindow, false, true); }
+
+bool frmNotePad::Form_QueryUnload() {
+    if (!session_.DataStates.at(std::size_t(Index)).Dirty) return true;
+    switch (AskToSave(session_, "data", Caption, MessageIcon::Exclamation)) {
+    case Answer::Cancel: return false;
+    case Answer::Yes: session_.commands.Call("SaveData"); return true;
+    default: return true;
+    }
+}
+
+void frmNotePad::Form_Unload() {
+    SwitchSheetCommands(session_.mainWindow, false, false);
+    session_.DataStates.at(std::size_t(Index)).Deleted = true;
+}
+
+frmNotePad& DataWindow(Session& session, std::int16_t slot) {
+    return dynamic_cast<frmNotePad&>(*session.DataWindows.at(std::size_t(slot)));
+}
+
+frmNotePad& ActiveDataWindow(Session& session) {
+    auto* window = dynamic_cast<frmNotePad*>(session.ActiveWindow);
+    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "the active window is not a data sheet");
+    return *window;
+}
+
+} // namespace dorvan
