@@ -27,8 +27,9 @@ private:
 bool IsCodePage(int number);
 
 // The code page that goes with a locale's name such as "pl_PL.UTF-8": pl, cs, hu, sk, sl, hr, ro, sq, bs,
-// sr@latin: 1250; ru, uk, be, bg, mk, sr: 1251; el: 1253; tr, az, uz, kk...: 1254; he: 1255; ar, fa, ur:
-// 1256; et, lv, lt: 1257; vi: 1258; th: 874; all else 1252.
+// tk, sr@latin: 1250; ru, uk, be, bg, mk, sr, kk, ky, tg, tt, ba, mn, az@cyrillic, uz@cyrillic: 1251; el:
+// 1253; tr, az, uz: 1254; he, yi: 1255; ar, fa, ur, ps, ug: 1256; et, lv, lt: 1257; vi: 1258; th: 874; all
+// else 1252.
 int CodePageOfLocale(std::string_view localeName);
 
 // The one of the user's language: the first that is set of LC_ALL, LC_CTYPE, LANG.
