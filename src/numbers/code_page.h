@@ -26,10 +26,10 @@ private:
 
 bool IsCodePage(int number);
 
-// The code page that goes with a locale's name such as "pl_PL.UTF-8": pl, cs, hu, sk, sl, hr, ro, sq, bs,
-// tk, sr@latin: 1250; ru, uk, be, bg, mk, sr, kk, ky, tg, tt, ba, mn, az@cyrillic, uz@cyrillic: 1251; el:
-// 1253; tr, az, uz: 1254; he, yi: 1255; ar, fa, ur, ps, ug: 1256; et, lv, lt: 1257; vi: 1258; th: 874; all
-// else 1252.
+// The code page that goes with a locale's name such as "pl_PL.UTF-8". 1250: bs, cs, hr, hu, pl, ro, sk, sl,
+// sq, tk, sr@latin; 1251: ba, be, bg, kk, ky, mk, mn, ru, sr, tg, tt, uk, az@cyrillic, uz@cyrillic; 1253: el;
+// 1254: az, tr, uz; 1255: he, iw, yi; 1256: ar, fa, ps, ug, ur; 1257: et, lt, lv; 1258: vi; 874: th; all else
+// 1252.
 int CodePageOfLocale(std::string_view localeName);
 
 // The one of the user's language: the first that is set of LC_ALL, LC_CTYPE, LANG.

@@ -13,10 +13,10 @@ namespace dorvan {
 // Fails with Overflow for infinities and NaN, with InvalidProcedureCall for any other sign in the pattern.
 std::string FormatPattern(double value, std::string_view pattern, char decimalSeparator);
 
-// The plain text of a 32-bit float: at most 7 significant digits, no trailing zeros; the form with an
-// exponent
-// ("1E+07", "1.234568E-05") when the decimal exponent of the rounded value is below -4 or above 6. Zero has
-// no sign. Fails with Overflow for infinities and NaN.
+// The plain text of a 32-bit float: at most 7 significant digits, no trailing zeros; the form with
+// an exponent ("1E+07", "1.234568E-05") when the decimal exponent of the rounded value is below -4 or
+// above 6. The exact binary value is rounded, ties to even. Zero has no sign. Fails with Overflow for
+// infinities and NaN.
 std::string PlainText(float value, char decimalSeparator);
 
 // The longest leading part that forms a number: blanks, a sign, digits with at most one ".", an exponent
@@ -36,7 +36,7 @@ std::int16_t StrictInt16(std::string_view text, char decimalSeparator); // round
 // the other.
 float ParseSheetNumber(std::string_view text, char decimalSeparator);
 
-// The first of "." and "," that stands in the text; '.' if neither does.
+// '.' if the text has one, else ',' if it has one, else '.'.
 char DecimalSeparatorIn(std::string_view formattedNumber);
 
 // The separator that the process's locale-aware number formatting writes for 1.234: '.' or ','; '.' if
