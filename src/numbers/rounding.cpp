@@ -39,7 +39,7 @@ std::int16_t SubtractInt16(std::int16_t left, std::int16_t right) {
 }
 
 std::int16_t MultiplyInt16(std::int16_t left, std::int16_t right) {
-    return NarrowToInt16(std::int32_t(left) * std::int32_t(right));
+    return NarrowToInt16(std::int64_t(left) * std::int64_t(right));
 }
 
 std::int16_t NarrowToInt16(std::int64_t value) {
