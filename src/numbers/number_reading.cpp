@@ -70,6 +70,7 @@ template <class Float> Float ConvertWithPoint(std::string_view number) {
     if (IsSign(number[0])) number.remove_prefix(1);
     Float value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    // Libraries differ in how they tell of too large a number: by the error or by infinity.
     const bool outOfRange = result.ec == std::errc::result_out_of_range;
     if (std::isinf(value) || (outOfRange && IsAboveOne(number))) throw RuntimeFailure(Failure::Overflow);
     if (outOfRange) value = 0;
