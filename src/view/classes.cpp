@@ -10,8 +10,7 @@ struct Limits {
     float first, second, third, fourth;
 };
 
-// The comparisons stand as "outside", not as "inside": so limits that do not rise leave gaps, whose values
-// get class 6.
+// Each test is told by what lies outside it; this order and form decide when the limits do not rise.
 inline std::int16_t ClassBetween(float value, const Limits& limits) {
     if (!(value < 0.0f || value >= limits.first)) return 5;
     if (!(value < limits.first || value >= limits.second)) return 4;
