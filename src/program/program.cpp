@@ -26,6 +26,9 @@ void AddDiagramCommands(Session& session) {
     add("frmDiagram.Down", &frmDiagram::Down);
     add("frmDiagram.EndRow", &frmDiagram::EndRow);
     add("frmDiagram.Insert", &frmDiagram::Insert);
+    session.commands.Set("frmDiagram.SaveDiagram", [&session](const CommandCall& call) {
+        DiagramWindow(session, call.Index).SaveDiagram(call.Path);
+    });
     session.commands.Set("ClassifyDiagram", [&session](const CommandCall& call) {
         ClassifyDiagram(session.DiagramDocuments.at(std::size_t(call.Index)));
     });

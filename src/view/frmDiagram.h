@@ -75,6 +75,13 @@ public:
     void BottomText_Change(); // after any change of the text
     void BottomText_KeyPress(int& keyAscii);
 
+    // Saves under the path, an empty one asking for it, and puts it into the caption of the active window,
+    // also when the file could not be written.
+    void SaveDiagram(const std::string& path);
+    // Writes the file, after turning each "," of the description on the screen into ";" (a change of the
+    // text). Says nothing and leaves `Dirty`; the result tells whether the file was written.
+    bool SaveDiagramNew(const std::string& path);
+
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Deactivate() override;
