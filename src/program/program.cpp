@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "making/making_diagram.h"
 #include "sheet/frmNotePad.h"
 
 #include <memory>
@@ -14,6 +15,9 @@ template <class Window> void MakesWindows(Session& session, std::string_view kin
 
 } // namespace
 
-void Compose(Session& session) { MakesWindows<frmNotePad>(session, DocumentKind::Data); }
+void Compose(Session& session) {
+    MakesWindows<frmNotePad>(session, DocumentKind::Data);
+    session.commands.Set("MakeDiagram", [&session](const CommandCall&) { MakeDiagram(session); });
+}
 
 } // namespace dorvan
