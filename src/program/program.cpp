@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "making/making_diagram.h"
 #include "sheet/frmNotePad.h"
 #include "view/classes.h"
 #include "view/frmDiagram.h"
@@ -40,6 +41,7 @@ void Compose(Session& session) {
     MakesWindows<frmNotePad>(session, DocumentKind::Data);
     MakesWindows<frmDiagram>(session, DocumentKind::Diagram);
     AddDiagramCommands(session);
+    session.commands.Set("MakeDiagram", [&session](const CommandCall&) { MakeDiagram(session); });
 }
 
 } // namespace dorvan
