@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "sheet/frmNotePad.h"
+#include "sheet/new_data_sheet.h"
 
 #include <memory>
 
@@ -14,6 +15,9 @@ template <class Window> void MakesWindows(Session& session, std::string_view kin
 
 } // namespace
 
-void Compose(Session& session) { MakesWindows<frmNotePad>(session, DocumentKind::Data); }
+void Compose(Session& session) {
+    MakesWindows<frmNotePad>(session, DocumentKind::Data);
+    session.commands.Set("NewDataSheet", [&session](const CommandCall&) { NewDataSheet(session); });
+}
 
 } // namespace dorvan
