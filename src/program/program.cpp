@@ -4,6 +4,7 @@
 #include "sheet/frmNotePad.h"
 #include "view/classes.h"
 #include "view/frmDiagram.h"
+#include "sheet/new_data_sheet.h"
 
 #include <memory>
 
@@ -42,6 +43,7 @@ void Compose(Session& session) {
     MakesWindows<frmDiagram>(session, DocumentKind::Diagram);
     AddDiagramCommands(session);
     session.commands.Set("MakeDiagram", [&session](const CommandCall&) { MakeDiagram(session); });
+    session.commands.Set("NewDataSheet", [&session](const CommandCall&) { NewDataSheet(session); });
 }
 
 } // namespace dorvan
