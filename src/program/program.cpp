@@ -1,5 +1,7 @@
 #include "program/program.h"
 
+#include "distance/frmMacierz.h"
+#include "distance/making_matrix.h"
 #include "making/making_diagram.h"
 #include "sheet/frmNotePad.h"
 #include "view/classes.h"
@@ -40,8 +42,13 @@ void AddDiagramCommands(Session& session) {
 
 void Compose(Session& session) {
     MakesWindows<frmNotePad>(session, DocumentKind::Data);
+    MakesWindows<frmMacierz>(session, DocumentKind::Matrix);
     MakesWindows<frmDiagram>(session, DocumentKind::Diagram);
     AddDiagramCommands(session);
+    session.commands.Set("frmMacierz.SaveMatrix", [&session](const CommandCall& call) {
+        MatrixWindow(session, call.Index).SaveMatrix(call.Path);
+    });
+    session.commands.Set("MakeMatrix", [&session](const CommandCall&) { MakeMatrix(session); });
     session.commands.Set("MakeDiagram", [&session](const CommandCall&) { MakeDiagram(session); });
     session.commands.Set("NewDataSheet", [&session](const CommandCall&) { NewDataSheet(session); });
 }
