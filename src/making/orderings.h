@@ -1,13 +1,9 @@
 #pragma once
 
 #include "session/documents.h"
-
-#include <cstdint>
+#include "session/ordering_method.h"
 
 namespace dorvan {
-
-// order(p) is the record, by its place before the ordering, that goes to place p.
-using Order = Array1<std::int16_t>;
 
 // The order of the records by a walk to the nearest record not yet visited, from record 1 on.
 // Among equally near ones the highest number wins. O(n^2). `maxDistance` is the largest cell.

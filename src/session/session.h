@@ -8,6 +8,7 @@
 #include "session/documents.h"
 #include "session/forms.h"
 #include "session/main_window.h"
+#include "session/ordering_method.h"
 #include "session/version.h"
 
 #include <cstdint>
@@ -49,6 +50,7 @@ struct Session {
 
     // Analysis options.
     Array1<float> SectionLimits; // four, unset until the first diagram
+    bool AutoLimits = false;     // how the options dialog was accepted last: "Automatic" or typed limits
     std::int16_t CurrentDiagType = 2;
     std::int16_t CurrentDistType = 1;
     std::int16_t Par_P = 0;
@@ -91,6 +93,8 @@ struct Session {
 
     // Makes the window of a kind by the composition root's hand; it takes its slot from NewWindowIndex.
     std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
+
+    OrderingMethods orderingMethods;
 };
 
 // The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.

@@ -1,0 +1,211 @@
+#include "making/making_diagram.h"
+
+#include "distance/frmMacierz.h"
+#include "distance/loading.h"
+#include "distance/measures.h"
+#include "making/frmPrzedzal.h"
+#include "making/orderings.h"
+#include "making/section_limits.h"
+#include "numbers/number_text.h"
+#include "numbers/rounding.h"
+#include "session/children.h"
+#include "session/registry.h"
+#include "sheet/frmNotePad.h"
+#include "view/classes.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace dorvan {
+
+namespace {
+
+// Measures above this one know no missing values.
+constexpr std::int16_t LastMeasureWithNA = DistanceType::Czekanowski;
+
+// What the diagram is made of: the active sheet of n records by m variables, or the matrix of n records in
+// `MatrixSlot` (m = 0). `Session::DiagramFromMatrix` tells which.
+struct Source {
+    std::int32_t n = 0;
+    std::int32_t m = 0;
+    std::int16_t MatrixSlot = 0;
+};
+
+DistanceMatrix& MatrixOf(Session& session, const Source& source) {
+    if (source.MatrixSlot < 0 || std::size_t(source.MatrixSlot) >= session.MatrixDocuments.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange);
+    return session.MatrixDocuments[std::size_t(source.MatrixSlot)];
+}
+
+Source ActiveSource(Session& session) {
+    if (!session.DiagramFromMatrix) {
+        const auto& sheet = ActiveDataWindow(session);
+        return {.n = sheet.RecordCount(), .m = sheet.VariableCount()};
+    }
+    if (!session.ActiveWindow) throw RuntimeFailure(Failure::InvalidProcedureCall, "no window is active");
+    Source source{.MatrixSlot = session.ActiveWindow->Index};
+    source.n = MatrixOf(session, source).Size;
+    return source;
+}
+
+bool CountAccepted(Session& session, std::int32_t n) {
+    std::string refusal;
+    if (n < 2)
+        refusal = "The number of records is less than 2. How make diagram?";
+    else if (n > session.MaxDiagramRecords)
+        refusal = fmt::format("The number of records is more than {}!", session.MaxDiagramRecords);
+    else
+        return true;
+    session.platform.messages.show({.Text = refusal, .Icon = MessageIcon::Critical});
+    return false;
+}
+
+bool OptionsAccepted(Session& session) {
+    ShowDiagramOptions(session);
+    if (session.DialogOutcome == -99) return false;
+    session.platform.events.run();
+    return true;
+}
+
+// For a matrix as well, with `DataHasNA` as the last load of a sheet left it.
+bool MeasureAccepted(Session& session) {
+    if (!session.DataHasNA || session.CurrentDistType <= LastMeasureWithNA) return true;
+    session.platform.messages.show({.Text = "Nieprawidłowa funkcja odległości dla danych niepełnych!",
+                                    .Icon = MessageIcon::Exclamation,
+                                    .Title = "Dorvan"});
+    return false;
+}
+
+// The cells as numbers of the process's own locale.
+void ReadMatrixCells(Session& session, const Source& source) {
+    const auto& cells = MatrixOf(session, source).Cells;
+    session.DistanceValues = FloatTable(source.n, source.n);
+    for (std::int32_t i = 1; i <= source.n; ++i)
+        for (std::int32_t j = 1; j <= source.n; ++j)
+            session.DistanceValues(i, j) = StrictFloat(cells(i, j), session.DecimalSeparator);
+}
+
+void TakeDistances(Session& session, const Source& source) {
+    if (session.DiagramFromMatrix)
+        ReadMatrixCells(session, source);
+    else
+        ComputeDistanceMatrix(session, source.n, source.m);
+}
+
+// The largest cell, but at least 0.
+float MaxDistance(const FloatTable& distances) {
+    float maxDistance = 0;
+    for (const float distance : distances.Cells()) maxDistance = std::max(maxDistance, distance);
+    return maxDistance;
+}
+
+Order FindOrder(Session& session, float maxDistance) {
+    if (session.CurrentOrderMethod == 2) return SimpleOrder(session.DistanceValues, maxDistance);
+    const auto method = session.orderingMethods.find(session.CurrentOrderMethod);
+    if (method == session.orderingMethods.end())
+        throw RuntimeFailure(Failure::InvalidProcedureCall, "no such ordering");
+    return method->second.run(session, session.DistanceValues);
+}
+
+// `RecordHasNA` stays in the order of the sheet.
+void RewriteData(Session& session, const Source& source, const Order& order) {
+    const FloatTable savedValues = session.DataValues;
+    const Names savedNames = session.RecordNames;
+    for (std::int32_t p = 1; p <= source.n; ++p) {
+        for (std::int32_t v = 1; v <= source.m; ++v) session.DataValues(p, v) = savedValues(order(p), v);
+        session.RecordNames(p) = savedNames(order(p));
+    }
+    ComputeDistanceMatrix(session, source.n, source.m);
+}
+
+void RewriteMatrix(Session& session, const Source& source, const Order& order) {
+    const auto& names = MatrixOf(session, source).Names;
+    const FloatTable savedDistances = session.DistanceValues;
+    session.RecordNames = Names(source.n);
+    for (std::int32_t p = 1; p <= source.n; ++p) {
+        session.RecordNames(p) = names(order(p));
+        for (std::int32_t q = 1; q <= source.n; ++q)
+            session.DistanceValues(p, q) = savedDistances(order(p), order(q));
+    }
+}
+
+void PutInOrder(Session& session, const Source& source, float maxDistance) {
+    if (session.CurrentOrderMethod == 1) return;
+    const Order order = FindOrder(session, maxDistance);
+    if (session.DiagramFromMatrix)
+        RewriteMatrix(session, source, order);
+    else
+        RewriteData(session, source, order);
+}
+
+// Distances, limits and order, with `DiagramBusy` at 1: a failure on the way leaves it there.
+void Analyse(Session& session, const Source& source) {
+    session.DiagramBusy = 1;
+    TakeDistances(session, source);
+    const float maxDistance = MaxDistance(session.DistanceValues);
+    session.SectionLimits = ComputeAutomaticLimits(session.DistanceValues);
+    PutInOrder(session, source, maxDistance);
+    session.DiagramBusy = 0;
+}
+
+// The record of a slot is used again: for a matrix, `DistType`, `Data` and `VariableNames` keep what an
+// earlier diagram of the slot left, as `Par_P` and `Par_R` always do. The names of a matrix stay in its own
+// order, although its distances are in the new one.
+void FillDocument(Session& session, const Source& source, DiagramDocument& document) {
+    document.RecCount = NarrowToInt16(source.n);
+    document.VarCount = NarrowToInt16(source.m);
+    document.NoData = session.DiagramFromMatrix;
+    document.DiagType = session.CurrentDiagType;
+    document.Matrix = session.DistanceValues;
+    document.Classes = Array2<std::int16_t>(source.n, source.n);
+    if (session.DiagramFromMatrix) {
+        document.RecordNames = MatrixOf(session, source).Names;
+        document.RecordHasNA = Flags(source.n);
+    } else {
+        document.DistType = session.CurrentDistType;
+        document.Data = session.DataValues;
+        document.VariableNames = session.VariableNames;
+        document.RecordNames = session.RecordNames;
+        document.RecordHasNA = session.RecordHasNA;
+    }
+    document.SectionLimits = session.SectionLimits;
+    ClassifyDiagram(document);
+}
+
+std::string DescriptionOf(Session& session, const Source& source) {
+    return session.DiagramFromMatrix ? MatrixWindow(session, source.MatrixSlot).BottomText.Text
+                                     : ActiveDataWindow(session).OpisText.Text;
+}
+
+void OpenDiagram(Session& session, const Source& source) {
+    const WaitCursor wait(session.platform);
+    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
+    FillDocument(session, source, session.DiagramDocuments.at(std::size_t(slot)));
+    auto& window = CreateChildWindow(session, DocumentKind::Diagram);
+    window.Caption = UntitledCaption(DocumentKind::Diagram, slot);
+    window.Present(DescriptionOf(session, source));
+    session.DiagramStates.at(std::size_t(slot)).Dirty = true;
+    if (window.Mode == WindowMode::Normal) PlaceNewWindow(session, window);
+    ShowChild(session, window);
+}
+
+} // namespace
+
+void MakeDiagram(Session& session) {
+    if (session.DiagramBusy == 1) {
+        session.platform.signals.beep();
+        return;
+    }
+    const Source source = ActiveSource(session);
+    if (!CountAccepted(session, source.n)) return;
+    session.DiagramRecordCount = source.n;
+    if (!OptionsAccepted(session)) return;
+    // Read only now: the dialog comes before any data error.
+    if (!session.DiagramFromMatrix && !LoadWorkingData(session)) return;
+    if (!MeasureAccepted(session)) return;
+    Analyse(session, source);
+    OpenDiagram(session, source);
+}
+
+} // namespace dorvan
