@@ -77,7 +77,7 @@ void Save(Run& run, const std::string& path) {
     if (!written) throw Refusal("the file could not be written: " + path);
 }
 
-// Runs the work and tells a failure in one line that names the file.
+// Does the work and tells a failure in one line that names the file.
 template <class Work> int Reported(const std::string& file, const Work& work) {
     std::string reason;
     try {
@@ -116,6 +116,10 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
 }
 
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings) {
+    if (KindOf(in) != KindOf(out)) {
+        fmt::print(stderr, "dorvan-cli: {} and {} are not of the same kind\n", in, out);
+        return 2;
+    }
     return Reported(in, [&] {
         Run run({}, surroundings);
         Open(run, in, {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram});

@@ -246,7 +246,7 @@ TEST_F(CommandLine, InfoTellsASheet) {
     EXPECT_EQ(
         runCli({"info", sample("airquality.mdt")}).out,
         "kind: data sheet\nrecords: 153\nvariables: 6\n"
-        "description: New York, May to September 1973: daily air quality, 153 days, 42 with missing values\n"
+        "description: New York 1973: air quality on 153 days from May to September - 42 with missing values\n"
         "missing values: 44\n");
 }
 
@@ -257,8 +257,7 @@ TEST_F(CommandLine, InfoTellsADiagram) {
         "kind: diagram\nrecords: 3\nvariables: 1\ndescription: three\nmeasure: Euclidean (3)\ndiagram type: "
         "dots\n"
         "limits: 1.000 1.000 10.000 10.000\ncells in class 5: 3\ncells in class 4: 0\ncells in class 3: 4\n"
-        "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\nF: 0.21414\nUM coefficient: 0.21414\n"
-        "anti-Robinson events: 0\n");
+        "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\n");
 }
 
 TEST_F(CommandLine, PictureDrawsASymbolForEachPair) {
