@@ -22,6 +22,9 @@ public:
     void CancelCommand() override { Command2_Click(); }
 
 private:
+    void FilterKey(const TextBox& field, int& keyAscii);
+    void LeaveField();
+
     Session& session_;
 };
 

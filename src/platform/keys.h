@@ -19,3 +19,11 @@ inline constexpr int Down = 40;
 inline constexpr int F2 = 113;
 
 } // namespace dorvan::key
+
+// Mouse buttons as the windows' handlers know them.
+namespace dorvan::mouse {
+
+inline constexpr int Left = 1;
+inline constexpr int Right = 2;
+
+} // namespace dorvan::mouse

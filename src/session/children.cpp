@@ -46,16 +46,18 @@ void ActivateChild(Session& session, ChildWindow& window) {
 }
 
 bool CloseChild(Session& session, ChildWindow& window) {
-    const auto place = Place(session, window);
-    if (place == session.Children.end() || !window.Form_QueryUnload()) return place == session.Children.end();
-    const std::shared_ptr<ChildWindow> keepAlive = *Place(session, window);
+    const auto asked = Place(session, window);
+    if (asked == session.Children.end()) return true;
+    const std::shared_ptr<ChildWindow> keepAlive = *asked;
+    if (!window.Form_QueryUnload()) return false;
+    if (Place(session, window) == session.Children.end()) return true; // closed while the question stood
     if (session.ActiveWindow == &window) {
         window.Form_Deactivate();
         session.ActiveWindow = nullptr;
     }
     window.Form_Unload();
     window.Visible = false;
-    session.Children.erase(Place(session, window));
+    std::erase(session.Children, keepAlive);
     session.platform.children.close(window);
     if (session.Children.empty())
         DisableDocumentCommands(session);

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 namespace dorvan {
 
@@ -16,6 +17,17 @@ public:
 
     void EnableMenu(const std::string& item, bool enabled) { menus_[item] = enabled; }
     bool MenuEnabled(const std::string& item) const { return Look(menus_, item); }
+
+    // Items that come and go, and captions that are set at run time: the recent files.
+    void ShowMenu(const std::string& item, bool shown) { shownMenus_[item] = shown; }
+    bool MenuShown(const std::string& item) const { return Look(shownMenus_, item); }
+    void SetMenuCaption(const std::string& item, std::string caption) {
+        captions_[item] = std::move(caption);
+    }
+    std::string MenuCaption(const std::string& item, const std::string& original) const {
+        const auto found = captions_.find(item);
+        return found == captions_.end() ? original : found->second;
+    }
 
     // Buttons by toolbar and key, such as ("toolMain", "Save").
     void EnableButton(const std::string& toolbar, const std::string& key, bool enabled) {
@@ -42,6 +54,8 @@ private:
     }
 
     Switches menus_;
+    Switches shownMenus_;
+    std::map<std::string, std::string> captions_;
     Switches buttons_;
     Switches shownButtons_;
     Switches toolbars_;

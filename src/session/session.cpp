@@ -2,6 +2,7 @@
 
 #include "numbers/number_text.h"
 #include "session/children.h"
+#include "session/menus.h"
 
 #include <fmt/format.h>
 
@@ -39,6 +40,8 @@ std::string MainCaption(const Version& version) {
 }
 
 void StartSession(Session& session, std::uint64_t seed, const std::string& programFolder) {
+    for (int index = 0; index < RecentFileItems; ++index)
+        session.mainWindow.ShowMenu(RecentFileItem(index), false);
     session.random = RandomSource(seed);
     session.mainWindow.ShowToolbar("toolMatrix", false);
     session.mainWindow.ShowToolbar("toolDiagram", false);

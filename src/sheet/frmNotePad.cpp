@@ -5,6 +5,8 @@
 #include "numbers/text.h"
 #include "session/children.h"
 
+#include <algorithm>
+
 namespace dorvan {
 
 namespace {
@@ -12,6 +14,8 @@ namespace {
 constexpr int NumberColumnWidth = 900;
 constexpr int NameColumnWidth = 1800;
 constexpr int ValueColumnWidth = 900;
+constexpr int MinimalHeight = 2500; // twips
+constexpr int MinimalWidth = 3000;
 
 // What an active data sheet turns on in the menus.
 constexpr const char* SheetMenus[] = {"mnuExport",
@@ -37,6 +41,10 @@ void SwitchSheetCommands(MainWindow& mainWindow, bool enabled, bool exportsToo) 
         mainWindow.EnableButton("toolMain", key, enabled);
     mainWindow.EnableButton("toolMain", "Print", false);
     mainWindow.ShowToolbar("toolData", enabled);
+}
+
+void DisablePictureExports(MainWindow& mainWindow) {
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, false);
 }
 
 } // namespace
@@ -82,10 +90,13 @@ void frmNotePad::Present(const std::string& description) {
 void frmNotePad::Form_Activate() {
     TypeOfForm = DocumentKind::Data;
     SwitchSheetCommands(session_.mainWindow, true, true);
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) session_.mainWindow.EnableMenu(item, false);
+    DisablePictureExports(session_.mainWindow);
 }
 
-void frmNotePad::Form_Deactivate() { SwitchSheetCommands(session_.mainWindow, false, true); }
+void frmNotePad::Form_Deactivate() {
+    SwitchSheetCommands(session_.mainWindow, false, true);
+    DisablePictureExports(session_.mainWindow);
+}
 
 bool frmNotePad::Form_QueryUnload() {
     if (!session_.DataStates.at(std::size_t(Index)).Dirty) return true;
@@ -99,6 +110,25 @@ bool frmNotePad::Form_QueryUnload() {
 void frmNotePad::Form_Unload() {
     SwitchSheetCommands(session_.mainWindow, false, false);
     session_.DataStates.at(std::size_t(Index)).Deleted = true;
+}
+
+// The limits hold for the active child window, whichever is being resized.
+void frmNotePad::Form_Resize() {
+    auto* active = session_.ActiveWindow;
+    if (Mode != WindowMode::Normal || !active) return;
+    if (active->Height >= MinimalHeight && active->Width >= MinimalWidth) return;
+    active->Height = std::max(active->Height, MinimalHeight);
+    active->Width = std::max(active->Width, MinimalWidth);
+    session_.platform.children.update(*active);
+}
+
+void frmNotePad::MarkChanged() { session_.DataStates.at(std::size_t(Index)).Dirty = true; }
+
+void frmNotePad::OpisText_Change() { MarkChanged(); }
+
+// The key takes effect all the same.
+void frmNotePad::OpisText_KeyPress(int&) {
+    if (Busy()) session_.platform.signals.beep();
 }
 
 frmNotePad& DataWindow(Session& session, std::int16_t slot) {

@@ -5,6 +5,7 @@
 #include "session/session.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace dorvan {
@@ -16,12 +17,16 @@ class frmNotePad : public ChildWindow {
 public:
     explicit frmNotePad(Session& session);
 
-    Grid Grid1{"Grid1"};
+    // TopPanel lies at the top over the whole width and holds the label, OpisText (which follows the panel's
+    // width) and EditPanel with EditCell; Grid1 fills the rest.
+    Frame TopPanel{"TopPanel"};
+    Label Label1{"Label1", "Description:"};
     TextBox OpisText{"OpisText"}; // the description
-    TextBox EditCell{"EditCell"};
     Frame EditPanel{"EditPanel"}; // shown only while a cell is edited
+    TextBox EditCell{"EditCell"};
+    Grid Grid1{"Grid1"};
 
-    std::int16_t EditRow = 0;
+    std::int16_t EditRow = 0; // the cell being edited
     std::int16_t EditCol = 0;
     std::string OldText; // the cell's text when the edit began
     bool Editing = false;
@@ -40,12 +45,53 @@ public:
     // Fills the window from the working arrays of the session (names, values) and sets the description.
     void Present(const std::string& description) override;
 
+    // Opens the edit of the cell (EditRow, EditCol), and gives EditCell the focus. In mode 1 EditCell starts
+    // with the cell's text and the caret at its end, else empty. The character `key`, unless it is 0, goes
+    // through EditCell_KeyPress into the field.
+    void StartCellEdit(int key, int mode);
+
+    // Ends the edit and writes the cell; an arrow key code then moves the grid's current cell. A number that
+    // is too large, or a failure, is told in a message and leaves the cell as it stands.
+    void CommitCell(int key);
+
+    // Keys of the grid. A key that starts an edit is taken by the handler, its character included: a face
+    // only mirrors the controls and the focus, and inserts nothing itself.
+    void Grid1_KeyDown(int& keyCode);
+    void Grid1_KeyPress(int& keyAscii);
+    void Grid1_DblClick();
+    // True when the face has to open the menu mnuEdit at the pointer.
+    bool Grid1_MouseDown(int button);
+
+    // A face calls EditCell_Change after a change of the text by the user, not after one that it mirrors, and
+    // EditCell_LostFocus once another control of the program has the focus.
+    void EditCell_Change();
+    void EditCell_KeyDown(int& keyCode);
+    void EditCell_KeyPress(int& keyAscii);
+    void EditCell_LostFocus();
+
+    void OpisText_Change(); // after any change of the text by the user
+    void OpisText_KeyPress(int& keyAscii);
+
     void Form_Activate() override;
     void Form_Deactivate() override;
     bool Form_QueryUnload() override;
     void Form_Unload() override;
+    void Form_Resize() override;
 
 private:
+    bool Busy() const { return session_.DiagramBusy == 1; }
+    bool AtEditedCell() const { return Grid1.Row() == EditRow && Grid1.Column() == EditCol; }
+    bool CurrentCellCanBeEdited() const;
+    void TakeCurrentCell();
+    void TypeIntoEditCell(int key);
+    int FilterOfValueCell(int keyAscii) const;
+    void RestoreOldText();
+    void EndEdit();
+    std::optional<Message> WriteCell(const std::string& text);
+    bool WriteEditedCell(const std::string& text);
+    bool WriteCellLeftBehind(const std::string& text);
+    void MarkChanged();
+
     Session& session_;
 };
 

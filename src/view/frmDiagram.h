@@ -11,12 +11,32 @@ namespace dorvan {
 
 // The window that shows one diagram: a square of symbols with the records' numbers and names along its edge.
 // The diagram itself is `DiagramDocuments(Index)`; the grid is only its picture.
+//
+// For n records the grid has n + 1 rows and n + 2 columns: row 0 holds the places 1 to n, column 0 as well,
+// column 1 the names, and cell (i, j + 1) the `Tile` of `Classes(i, j)`.
+//
+// A move of a row carries its record and the selection to another place. It beeps and changes nothing where
+// it is not possible, or while a diagram is being made. It never touches `Dirty`. `Down`, `EndRow` and
+// `Insert` without a selected row fail with SubscriptOutOfRange.
 class frmDiagram : public ChildWindow {
 public:
     explicit frmDiagram(Session& session);
 
+    static constexpr int BottomPanelHeight = 390; // twips; the panel of the description, above the grid
+
     TextBox BottomText{"BottomText"}; // the description
     Grid Siatka{"Siatka"};
+
+    // Places of the controls, in twips, as the last resize set them.
+    struct Bounds {
+        int Left = 0;
+        int Top = BottomPanelHeight;
+        int Width = 0;
+        int Height = 0;
+    };
+    Bounds SiatkaBounds;
+    int BottomTextLeft = 1200; // right of the label "Description:"; told by the face
+    int BottomTextWidth = 0;
 
     std::int16_t SelectedRow = 0;  // the selected grid row, 0 when none
     std::int16_t RowSelected = 0;  // 1 while a row is selected
@@ -24,9 +44,45 @@ public:
 
     DiagramDocument& Document();
 
-    // Lays the grid out for the document of the slot and fills it; shows the description.
+    // Lays the grid out for the document of the slot and fills it; shows the description, cut to the 150
+    // characters of its field.
     void Present(const std::string& description) override;
 
+    // Selects the grid's current row, or takes the selection back, from any current row.
+    void SelectThisRow();
+    // The same by the mouse; the selection is taken back only by a double click on the selected row.
+    void Siatka_DblClick();
+
+    // Repaint the row and the column of one record, 1 to n, in the selected or the plain tiles. The current
+    // cell ends on the record's own cell, on the diagonal.
+    void SelectRow(std::int16_t& row);
+    void UnSelectRow(std::int16_t& row);
+
+    void Home();
+    void Up();
+    void Down();
+    void EndRow();
+    void Insert(); // to the grid's current row
+
+    // Permutes matrix, names and missing-value marks: place k takes what stands at place `RowOrder(k)`; then
+    // classifies and repaints all. `Data` keeps its order. Fails with SubscriptOutOfRange for an order that
+    // names a place outside 1 to n.
+    void ApplyRowOrder();
+
+    // Switches the five moving buttons of toolDiagram.
+    void SetIcons(bool enabled);
+
+    void BottomText_Change(); // after any change of the text
+    void BottomText_KeyPress(int& keyAscii);
+
+    // Saves under the path, an empty one asking for it, and puts it into the caption of the active window,
+    // also when the file could not be written.
+    void SaveDiagram(const std::string& path);
+    // Writes the file, after turning each "," of the description on the screen into ";" (a change of the
+    // text). Says nothing and leaves `Dirty`; the result tells whether the file was written.
+    bool SaveDiagramNew(const std::string& path);
+
+    void Form_Load() override;
     void Form_Activate() override;
     void Form_Deactivate() override;
     bool Form_QueryUnload() override;
@@ -34,6 +90,22 @@ public:
     void Form_Resize() override;
 
 private:
+    void LayOut();
+    void PaintNames();
+    void PaintCells();
+    void PaintCell(int row, int record, bool selected);
+    void PaintCross(std::int16_t row, bool selected);
+
+    bool IsBusy(); // beeps if so
+    void Beep();
+    void SelectCurrentRow();
+    void DropSelection();
+    void StartOrder();
+    void TakeOut(std::int32_t place);
+    void MakeRoom(std::int32_t place);
+    void Exchange(std::int16_t neighbour);
+    void LandOn(std::int16_t place);
+
     Session& session_;
 };
 

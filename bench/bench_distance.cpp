@@ -1,0 +1,84 @@
+#include "distance/measures.h"
+#include "tests/distance/plain_measures.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdint>
+#include <random>
+
+// The distances between all records of a sheet, beside the plain definition in the same run: the counter
+// "ratio" tells how many times the plain loop takes as long.
+namespace dorvan {
+namespace {
+
+// Scores 0 and 1 for the binary measures, else numbers from 0 to 10 with two decimals; a cell in 50 missing
+// for the measures that skip missing ones.
+FloatTable Sheet(std::int32_t n, std::int32_t m, std::int16_t type) {
+    std::mt19937 random(static_cast<std::uint32_t>(n * 1000 + m));
+    FloatTable values(n, m);
+    for (float& value : values.Cells()) {
+        const std::uint32_t draw = random();
+        if (type >= DistanceType::DfDD && type <= DistanceType::YulesQ)
+            value = static_cast<float>(draw % 2);
+        else if (type <= DistanceType::Czekanowski && draw % 50 == 0)
+            value = NaValue;
+        else
+            value = static_cast<float>(draw % 1001) / 100.0f;
+    }
+    return values;
+}
+
+// Seconds of one run, the least of several.
+template <class Run> double LeastTime(Run run) {
+    double least = 1e9;
+    for (int repeat = 0; repeat < 5; ++repeat) {
+        const auto start = std::chrono::steady_clock::now();
+        benchmark::DoNotOptimize(run());
+        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
+        least = std::min(least, taken.count());
+    }
+    return least;
+}
+
+void Distances(benchmark::State& state, Measure measure, std::int32_t n, std::int32_t m) {
+    const FloatTable values = Sheet(n, m, measure.Type);
+    for (auto _ : state) benchmark::DoNotOptimize(DistancesBetweenRows(values, n, m, measure));
+    const double plain = LeastTime([&] { return test::plainDistances(values, n, m, measure); });
+    const double fast = LeastTime([&] { return DistancesBetweenRows(values, n, m, measure); });
+    state.counters["plain_us"] = plain * 1e6;
+    state.counters["ratio"] = plain / fast;
+}
+
+void Register(const std::string& name, Measure measure, std::int32_t n, std::int32_t m) {
+    benchmark::RegisterBenchmark((name + "/" + std::to_string(n) + "x" + std::to_string(m)).c_str(),
+                                 Distances, measure, n, m)
+        ->Unit(benchmark::kMicrosecond);
+}
+
+void RegisterAll() {
+    const std::pair<const char*, Measure> measures[] = {{"Henzel", {1}},
+                                                        {"Czekanowski", {2}},
+                                                        {"Euclidean", {3}},
+                                                        {"Manhattan", {4}},
+                                                        {"Chebychev", {5}},
+                                                        {"Customized/p2r2", {6, 2, 2}},
+                                                        {"Customized/p3r3", {6, 3, 3}},
+                                                        {"DfDD", {7}},
+                                                        {"LanceAndWilliams", {8}},
+                                                        {"Jaccard", {9}},
+                                                        {"YulesQ", {10}}};
+    for (const auto& [name, measure] : measures) {
+        for (const auto& [n, m] : {std::pair{150, 10}, {250, 10}, {250, 100}}) Register(name, measure, n, m);
+        if (measure.Type == DistanceType::Jaccard) Register(name, measure, 250, 20);
+    }
+}
+
+} // namespace
+} // namespace dorvan
+
+int main(int argc, char** argv) {
+    dorvan::RegisterAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,74 @@
+#include "distance/loading.h"
+
+#include "numbers/number_text.h"
+#include "numbers/rounding.h"
+#include "numbers/text.h"
+#include "sheet/frmNotePad.h"
+
+#include <fmt/format.h>
+
+namespace dorvan {
+
+namespace {
+
+std::string Trimmed(const std::string& text) { return std::string(TrimSpaces(text)); }
+
+void LoadNames(Session& session, const Grid& grid) {
+    for (std::int32_t record = 1; record <= session.RecordNames.Count(); ++record)
+        session.RecordNames(record) = Trimmed(grid.Text(record, 1));
+    for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable)
+        session.VariableNames(variable) = Trimmed(grid.Text(0, variable + 1));
+}
+
+// Stores one value. Only the text "N/A" marks the record: a number equal to the marker does not.
+void LoadCell(Session& session, const std::string& cell, std::int32_t record, std::int32_t variable) {
+    const std::string text = ReplaceAll(cell, ",", ".");
+    const bool missing = TrimSpaces(text) == NaText;
+    session.DataValues(record, variable) = missing ? NaValue : RoundToFloat(LeadingNumber(TrimSpaces(text)));
+    if (!missing) return;
+    session.RecordHasNA(record) = true;
+    session.DataHasNA = true;
+}
+
+void ShowDataError(Session& session, std::int32_t record, std::int32_t variable) {
+    session.platform.messages.show(
+        {.Text = fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable)),
+         .Icon = MessageIcon::Critical});
+}
+
+// False at a data error.
+bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
+    for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable) {
+        const int column = variable + 1;
+        grid.SetCurrent(record, column);
+        LoadCell(session, grid.Text(record, column), record, variable);
+        if (session.PendingError) {
+            ShowDataError(session, record, variable);
+            return false;
+        }
+        if (TrimSpaces(grid.Text(record, column)).empty()) grid.SetText(record, column, "0.00");
+    }
+    return true;
+}
+
+} // namespace
+
+bool LoadWorkingData(Session& session) {
+    frmNotePad& window = ActiveDataWindow(session);
+    Grid& grid = window.Grid1;
+    const std::int32_t n = window.RecordCount();
+    const std::int32_t m = window.VariableCount();
+    window.SetFocus(grid);
+    if (n >= 1 && m >= 1) grid.SetCurrent(1, 2);
+    session.RecordNames = Names(n);
+    session.DataValues = FloatTable(n, m);
+    session.RecordHasNA = Flags(n);
+    session.VariableNames = Names(m);
+    LoadNames(session, grid);
+    session.DataHasNA = false;
+    for (std::int32_t record = 1; record <= n; ++record)
+        if (!LoadRecord(session, grid, record)) return false;
+    return true;
+}
+
+} // namespace dorvan

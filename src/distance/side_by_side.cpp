@@ -1,0 +1,291 @@
+#include "distance/side_by_side.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <vector>
+
+// The functions so marked are compiled for several processors; the best one is chosen at run time. The
+// kernels that they use are inlined into each copy.
+#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && !defined(DORVAN_NO_CLONES)
+#define DORVAN_CLONES __attribute__((target_clones("avx512f", "avx2", "default")))
+#else
+#define DORVAN_CLONES
+#endif
+#define DORVAN_INLINE [[gnu::always_inline]] inline
+
+namespace dorvan {
+
+namespace {
+
+constexpr int Lanes = 16;
+
+// Up to this many variables the 16-bit counters of the measures cannot run over, and the counters that are
+// 32-bit floats are exact.
+constexpr std::int32_t MostVariables = std::numeric_limits<std::int16_t>::max();
+
+constexpr float Undecided = std::numeric_limits<float>::quiet_NaN();
+
+// Each kernel keeps the state of one record against `Lanes` others: Add takes in one variable, y having one
+// value a lane; Finish writes the distances. Whatever fails in DistanceBetween comes out infinite or not a
+// number: a sum of terms not below 0 that left the range of a float stays infinite, and 0 / 0 is no number.
+
+struct SquareTerm {
+    DORVAN_INLINE static double Of(float d) { return double(d) * double(d); }
+};
+
+// In 64 bits as well: the sum of two floats, rounded twice, is the float nearest to the exact one.
+struct AbsoluteTerm {
+    DORVAN_INLINE static float Of(float d) { return std::fabs(d); }
+};
+
+template <class Term> struct MeanLanes {
+    float Sum[Lanes] = {};
+    std::int32_t Count[Lanes] = {};
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        if (x == NaValue) return;
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const bool present = y[lane] != NaValue;
+            const auto sum = static_cast<float>(Sum[lane] + Term::Of(x - y[lane]));
+            Sum[lane] = present ? sum : Sum[lane];
+            Count[lane] += present ? 1 : 0;
+        }
+    }
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane)
+            distance[lane] = Sum[lane] / static_cast<float>(std::max(Count[lane], 1));
+    }
+};
+
+template <class Term> struct SumLanes {
+    float Sum[Lanes] = {};
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        for (int lane = 0; lane < Lanes; ++lane)
+            Sum[lane] = static_cast<float>(Sum[lane] + Term::Of(x - y[lane]));
+    }
+    DORVAN_INLINE void Finish(float* distance) const { std::copy_n(Sum, Lanes, distance); }
+};
+
+// A square root in 32 bits is the one in 64 bits rounded to 32.
+struct EuclideanLanes : SumLanes<SquareTerm> {
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane) distance[lane] = std::sqrt(Sum[lane]);
+    }
+};
+
+struct GreatestLanes {
+    float Greatest[Lanes] = {};
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const float term = std::fabs(x - y[lane]);
+            Greatest[lane] = term > Greatest[lane] ? term : Greatest[lane];
+        }
+    }
+    DORVAN_INLINE void Finish(float* distance) const { std::copy_n(Greatest, Lanes, distance); }
+};
+
+// Powers come from repeated multiplication here and from std::pow in DistanceBetween. Both are as near to the
+// true power as `Slack` (relative) tells, so that where its two ends round to the same sum, that is the sum.
+// A lane where they do not is left undecided.
+struct CustomizedLanes {
+    std::int16_t P;
+    double Root; // 1 / r
+    float Sum[Lanes] = {};
+
+    explicit CustomizedLanes(const Measure& measure) : P(measure.Par_P), Root(1.0 / measure.Par_R) {}
+
+    // Roundings: |p| - 1 of the multiplications, one of the reciprocal, two of std::pow, one of the slack's
+    // own; each is at most 2^-53. The rest is margin.
+    double Slack() const { return (std::abs(int(P)) + 8) * 0x1p-53; }
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        double power[Lanes];
+        RaiseTo(x, y, power);
+        const double less = 1.0 - Slack();
+        const double more = 1.0 + Slack();
+        constexpr double Tiny = 1e-300; // covers what repeated multiplication loses near 0
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const auto low = static_cast<float>(Sum[lane] + (power[lane] * less - Tiny));
+            const auto high = static_cast<float>(Sum[lane] + (power[lane] * more + Tiny));
+            Sum[lane] = low == high ? high : Undecided;
+        }
+    }
+    DORVAN_INLINE void RaiseTo(float x, const float* y, double* power) const {
+        double base[Lanes];
+        for (int lane = 0; lane < Lanes; ++lane) {
+            base[lane] = std::fabs(x - y[lane]);
+            power[lane] = 1.0;
+        }
+        for (int bits = std::abs(int(P)); bits != 0; bits /= 2) {
+            if (bits % 2 != 0)
+                for (int lane = 0; lane < Lanes; ++lane) power[lane] *= base[lane];
+            for (int lane = 0; lane < Lanes; ++lane) base[lane] *= base[lane];
+        }
+        if (P < 0)
+            for (int lane = 0; lane < Lanes; ++lane) power[lane] = 1.0 / power[lane];
+    }
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane)
+            distance[lane] = Sum[lane] <= std::numeric_limits<float>::max()
+                                 ? static_cast<float>(std::pow(double(Sum[lane]), Root))
+                                 : Undecided;
+    }
+};
+
+template <int Value> struct CountLanes {
+    std::int32_t Different[Lanes] = {};
+    std::int32_t Both[Lanes] = {}; // records that both hold Value
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        const std::int32_t has = x == float(Value) ? 1 : 0;
+        for (int lane = 0; lane < Lanes; ++lane) {
+            Different[lane] += x != y[lane] ? 1 : 0;
+            Both[lane] += y[lane] == float(Value) ? has : 0;
+        }
+    }
+};
+
+struct DfDDLanes {
+    double M;
+    std::int32_t Different[Lanes] = {};
+
+    explicit DfDDLanes(std::int32_t m) : M(m) {}
+    DORVAN_INLINE void Add(float x, const float* y) {
+        for (int lane = 0; lane < Lanes; ++lane) Different[lane] += x != y[lane] ? 1 : 0;
+    }
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane)
+            distance[lane] = static_cast<float>(Different[lane] / M * 100.0);
+    }
+};
+
+struct LanceAndWilliamsLanes : CountLanes<0> {
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane)
+            distance[lane] = static_cast<float>(Different[lane] / double(2 * Both[lane] + Different[lane]));
+    }
+};
+
+struct JaccardLanes : CountLanes<1> {
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane)
+            distance[lane] = static_cast<float>(1.0 - Both[lane] / double(Different[lane] + Both[lane]));
+    }
+};
+
+// Of the products and the sum in 16 bits, none of them below 0, the sum is the first to run over.
+struct YulesQLanes {
+    std::int32_t Zeros[Lanes] = {};
+    std::int32_t Ones[Lanes] = {};
+    std::int32_t OneZero[Lanes] = {};
+    std::int32_t ZeroOne[Lanes] = {};
+
+    DORVAN_INLINE void Add(float x, const float* y) {
+        const std::int32_t one = x == 1.0f ? 1 : 0;
+        const std::int32_t zero = x == 0.0f ? 1 : 0;
+        for (int lane = 0; lane < Lanes; ++lane) {
+            Zeros[lane] += y[lane] == 0.0f ? zero : 0;
+            OneZero[lane] += y[lane] == 0.0f ? one : 0;
+            Ones[lane] += y[lane] == 1.0f ? one : 0;
+            ZeroOne[lane] += y[lane] == 1.0f ? zero : 0;
+        }
+    }
+    DORVAN_INLINE void Finish(float* distance) const {
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const std::int32_t unlike = OneZero[lane] * ZeroOne[lane];
+            const std::int32_t alike = Ones[lane] * Zeros[lane];
+            const std::int32_t both = unlike + alike;
+            const float quotient = static_cast<float>(alike - unlike) / static_cast<float>(std::max(both, 1));
+            const float value = both > 0 ? 1.0f - quotient : 2.0f;
+            distance[lane] = both <= MostVariables ? value : Undecided;
+        }
+    }
+};
+
+// The values of `Lanes` records turned: the first variable of each, then the second of each, and so on. The
+// last record stands in for those past the end.
+std::vector<float> TurnedBlock(const FloatTable& values, std::int32_t first, std::int32_t n, std::int32_t m) {
+    std::vector<float> block(std::size_t(m) * Lanes);
+    for (int lane = 0; lane < Lanes; ++lane) {
+        const float* row = values.Row(std::min(first + lane, n));
+        for (std::int32_t k = 0; k < m; ++k) block[std::size_t(k) * Lanes + std::size_t(lane)] = row[k];
+    }
+    return block;
+}
+
+template <class Kernel>
+DORVAN_INLINE void FillBlock(FloatTable& distances, const FloatTable& values, std::int32_t m,
+                             std::int32_t first, const Kernel& fresh) {
+    const std::int32_t n = distances.Rows();
+    const std::int32_t last = std::min(first + Lanes - 1, n);
+    const std::vector<float> block = TurnedBlock(values, first, n, m);
+    for (std::int32_t i = 1; i < last; ++i) {
+        const float* x = values.Row(i);
+        Kernel kernel = fresh;
+        for (std::int32_t k = 0; k < m; ++k) kernel.Add(x[k], block.data() + std::size_t(k) * Lanes);
+        float distance[Lanes];
+        kernel.Finish(distance);
+        const std::int32_t begin = std::max(first, i + 1);
+        std::copy(distance + (begin - first), distance + (last + 1 - first), distances.Row(i) + (begin - 1));
+    }
+}
+
+template <class Kernel>
+DORVAN_INLINE void Fill(FloatTable& distances, const FloatTable& values, std::int32_t m,
+                        const Kernel& fresh) {
+    for (std::int32_t first = 1; first <= distances.Rows(); first += Lanes)
+        FillBlock(distances, values, m, first, fresh);
+}
+
+} // namespace
+
+DORVAN_CLONES bool AllFinite(const float* values, std::int64_t count) {
+    int finite = 1;
+    for (std::int64_t place = 0; place < count; ++place)
+        finite &= std::fabs(values[place]) <= std::numeric_limits<float>::max() ? 1 : 0;
+    return finite != 0;
+}
+
+DORVAN_CLONES void FillSideBySide(FloatTable& distances, const FloatTable& values, std::int32_t m,
+                                  const Measure& measure) {
+    switch (measure.Type) {
+    case DistanceType::Henzel: return Fill(distances, values, m, MeanLanes<SquareTerm>());
+    case DistanceType::Czekanowski: return Fill(distances, values, m, MeanLanes<AbsoluteTerm>());
+    case DistanceType::Euclidean: return Fill(distances, values, m, EuclideanLanes());
+    case DistanceType::Manhattan: return Fill(distances, values, m, SumLanes<AbsoluteTerm>());
+    case DistanceType::Chebychev: return Fill(distances, values, m, GreatestLanes());
+    case DistanceType::Customized: return Fill(distances, values, m, CustomizedLanes(measure));
+    case DistanceType::DfDD: return Fill(distances, values, m, DfDDLanes(m));
+    case DistanceType::LanceAndWilliams: return Fill(distances, values, m, LanceAndWilliamsLanes());
+    case DistanceType::Jaccard: return Fill(distances, values, m, JaccardLanes());
+    case DistanceType::YulesQ: return Fill(distances, values, m, YulesQLanes());
+    default: return;
+    }
+}
+
+void ComputePairsSideBySide(FloatTable& distances, const FloatTable& values, std::int32_t m,
+                            const Measure& measure) {
+    const bool dividesByZero = measure.Type == DistanceType::Customized && measure.Par_R == 0;
+    const auto& cells = values.Cells();
+    if (dividesByZero || m > MostVariables ||
+        !AllFinite(cells.data(), static_cast<std::int64_t>(cells.size())))
+        return;
+    FillSideBySide(distances, values, m, measure);
+}
+
+// Square by square, so that both sides stay in the cache.
+void MirrorUpperTriangle(FloatTable& distances) {
+    const std::int32_t n = distances.Rows();
+    for (std::int32_t top = 1; top <= n; top += Lanes)
+        for (std::int32_t left = 1; left <= top; left += Lanes)
+            for (std::int32_t i = top; i < std::min(top + Lanes, n + 1); ++i)
+                for (std::int32_t j = left; j < std::min(left + Lanes, i); ++j)
+                    distances.Row(i)[j - 1] = distances.Row(j)[i - 1];
+    for (std::int32_t i = 1; i <= n; ++i) distances(i, i) = 0;
+}
+
+} // namespace dorvan

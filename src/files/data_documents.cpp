@@ -1,0 +1,109 @@
+#include "files/data_documents.h"
+
+#include "files/data_file.h"
+#include "files/disk.h"
+#include "files/file_dialogs.h"
+#include "files/reading.h"
+#include "numbers/text.h"
+#include "session/registry.h"
+#include "sheet/frmNotePad.h"
+
+#include <fmt/format.h>
+
+namespace dorvan {
+
+namespace {
+
+void NameAfterFile(frmNotePad& window, const std::string& path) {
+    window.Caption = fmt::format("[DATA]: {}", LowerCase(path));
+    window.FilePath = path;
+}
+
+void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
+    session.PendingRecCount = static_cast<std::int16_t>(session.RecordNames.Count());
+    session.PendingVarCount = static_cast<std::int16_t>(session.VariableNames.Count());
+    const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
+    CreateChildWindow(session, DocumentKind::Data);
+    frmNotePad& window = DataWindow(session, slot);
+    NameAfterFile(window, path);
+    window.Present(description);
+    session.DataStates.at(std::size_t(slot)).Dirty = false;
+    ShowOpened(session, window);
+}
+
+// The file in the caption. The caption shows it in lower case, which is another file where case tells files
+// apart.
+std::string FileOf(const frmNotePad& window) {
+    const std::string path = CaptionPath(window.Caption);
+    return LowerCase(window.FilePath) == path ? window.FilePath : path;
+}
+
+} // namespace
+
+void OpenDataFile(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    const std::string path = PickFileToOpen(session, DataFileFilters(), " - Select mdt file");
+    if (path.empty()) return;
+    ReadDataFile(session, path);
+    UpdateRecentFiles(session, path);
+}
+
+void ReadDataFile(Session& session, const std::string& path) {
+    std::string description;
+    bool current = true;
+    const auto read = [&] {
+        const std::string bytes = LoadFile(path);
+        current = IsCurrentDataFile(bytes);
+        if (!current) return;
+        TablesOfSession transit(session);
+        description = ParseDataFile(bytes, FileTextOf(session), transit.Tables);
+    };
+    if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
+    if (current) return OpenDataWindow(session, path, description);
+    TellOlderVersion(session);
+    ReadOldDataFile(session, path);
+}
+
+void ReadOldDataFile(Session& session, const std::string& path) {
+    if (RefusedWhileBusy(session)) return;
+    std::string description;
+    const auto read = [&] {
+        const std::string bytes = LoadFile(path);
+        TablesOfSession transit(session);
+        description = ParseOldDataFile(bytes, FileTextOf(session), transit.Tables);
+    };
+    if (ReadsWithoutFault(session, path, Wait::Yes, read)) OpenDataWindow(session, path, description);
+}
+
+bool WriteDataFile(Session& session, const std::string& path) {
+    const frmNotePad& window = ActiveDataWindow(session);
+    const WaitCursor wait(session.platform);
+    bool written = false;
+    try {
+        ReplaceFile(path, ComposeDataFile(window.Grid1, window.OpisText.Text, FileTextOf(session)));
+        written = true;
+    } catch (const FileError&) { // silent by design: the document counts as saved all the same
+    }
+    session.DataStates.at(std::size_t(window.Index)).Dirty = false;
+    return written;
+}
+
+void SaveData(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    frmNotePad& window = ActiveDataWindow(session);
+    std::string path = FileOf(window);
+    if (IsUntitled(path)) path = PickFileToSave(session, DataFileFilters(), " - Save mdt file", "mdt");
+    if (path.empty()) return;
+    WriteDataFile(session, path);
+    NameAfterFile(window, path);
+}
+
+void SaveDataAs(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    const std::string path = PickFileToSave(session, DataFileFilters(), " - Save mdt file as", "mdt");
+    if (path.empty()) return;
+    WriteDataFile(session, path);
+    UpdateRecentFiles(session, path);
+}
+
+} // namespace dorvan

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "files/document_tables.h"
+#include "files/file_text.h"
+#include "platform/grid.h"
+
+#include <string>
+#include <string_view>
+
+// The bytes of a data file (.mdt): a sheet of n records by m variables.
+namespace dorvan {
+
+// The first line tells the text format from the older binary one. Fails with a FileFault for an empty file.
+bool IsCurrentDataFile(std::string_view bytes);
+
+// Fill `RecordNames` (n, at most 15 characters each), `VariableNames` (m, at most 8) and `DataValues`
+// (n by m), and return the description. Fail with a FileFault.
+std::string ParseDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
+std::string ParseOldDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
+
+// `sheet` as frmNotePad holds it: n + 1 rows, m + 2 columns of text. A cell that is neither a number nor
+// "N/A" gives an empty field.
+std::string ComposeDataFile(const Grid& sheet, std::string_view description, const FileText& text);
+
+} // namespace dorvan

@@ -1,0 +1,131 @@
+#include "files/diagram_documents.h"
+
+#include "distance/measures.h"
+#include "files/diagram_file.h"
+#include "files/disk.h"
+#include "files/file_dialogs.h"
+#include "files/file_fault.h"
+#include "files/reading.h"
+#include "session/registry.h"
+
+#include <fmt/format.h>
+
+namespace dorvan {
+
+namespace {
+
+DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) {
+    DiagramDocument document;
+    document.RecCount = header.RecCount;
+    document.VarCount = header.VarCount;
+    document.DistType = header.DistType;
+    document.DiagType = header.DiagType;
+    document.Par_P = header.Par_P;
+    document.Par_R = header.Par_R;
+    document.NoData = header.Type != 0;
+    document.SectionLimits = header.SectionLimits;
+    document.Matrix = session.DistanceValues;
+    document.RecordNames = session.RecordNames;
+    document.RecordHasNA = session.RecordHasNA;
+    document.Classes = Array2<std::int16_t>(header.RecCount, header.RecCount);
+    if (!document.NoData) {
+        document.Data = session.DataValues;
+        document.VariableNames = session.VariableNames;
+    }
+    return document;
+}
+
+// The document comes first: a window sizes its row order by it as it loads.
+void OpenDiagramWindow(Session& session, const std::string& path, const DiagramHeader& header, bool dirty) {
+    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
+    session.DiagramDocuments.at(std::size_t(slot)) = DocumentOf(session, header);
+    session.commands.Call("ClassifyDiagram", {.Index = slot, .Path = {}});
+    ChildWindow& window = CreateChildWindow(session, DocumentKind::Diagram);
+    window.Caption = fmt::format("[DIAGRAM]: {}", path);
+    window.Present(header.Description);
+    session.DiagramStates.at(std::size_t(slot)).Dirty = dirty;
+    ShowOpened(session, window);
+}
+
+// Both triangles from one computation of each pair, the lower-numbered record first.
+FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) {
+    const std::int32_t n = values.Rows();
+    FloatTable distances(n, n);
+    for (std::int32_t i = 1; i <= n; ++i)
+        for (std::int32_t j = i + 1; j <= n; ++j) try {
+                distances(i, j) = distances(j, i) =
+                    DistanceBetween(values.Row(i), values.Row(j), values.Columns(), measure);
+            } catch (const RuntimeFailure& failure) {
+                throw FileFault::OfWholeFile(fmt::format("The records {} and {} have no distance: {}", i, j,
+                                                         FailureText(failure.failure())));
+            }
+    return distances;
+}
+
+// Reads the older format into the working arrays and the analysis options.
+DiagramHeader ReadOldDiagram(Session& session, const std::string& path) {
+    const std::string bytes = LoadFile(path);
+    TablesOfSession transit(session);
+    DiagramHeader header = ParseOldDiagramFile(bytes, FileTextOf(session), transit.Tables);
+    session.SectionLimits = header.SectionLimits;
+    session.CurrentDistType = header.DistType;
+    if (header.DistType == DistanceType::Customized) {
+        session.Par_R = header.Par_R;
+        session.Par_P = header.Par_P;
+    }
+    transit.Tables.DistanceValues = DistancesOfRecords(transit.Tables.DataValues, CurrentMeasure(session));
+    return header;
+}
+
+} // namespace
+
+void OpenDiagramFile(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    const std::string path = PickFileToOpen(session, DiagramFileFilters(), " - Select dgr file");
+    if (path.empty()) return;
+    session.platform.events.run();
+    UpdateRecentFiles(session, path);
+    ReadDiagramFile(session, path);
+}
+
+void ReadDiagramFile(Session& session, const std::string& path) {
+    DiagramHeader header;
+    bool current = true;
+    const auto read = [&] {
+        const std::string bytes = LoadFile(path);
+        current = IsCurrentDiagramFile(bytes);
+        if (!current) return;
+        TablesOfSession transit(session);
+        header = ParseDiagramFile(bytes, FileTextOf(session), transit.Tables);
+    };
+    if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
+    if (current) return OpenDiagramWindow(session, path, header, false);
+    TellOlderVersion(session);
+    ReadOldDiagramFile(session, path);
+}
+
+void ReadOldDiagramFile(Session& session, const std::string& path) {
+    DiagramHeader header;
+    const auto read = [&] { header = ReadOldDiagram(session, path); };
+    if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
+    session.PendingRecCount = header.RecCount;
+    session.PendingVarCount = header.VarCount;
+    header.DiagType = session.CurrentDiagType;
+    header.Par_P = session.Par_P;
+    header.Par_R = session.Par_R;
+    OpenDiagramWindow(session, path, header, true);
+}
+
+bool WriteDiagramFile(Session& session, const std::string& path, const DiagramDocument& document,
+                      const std::string& description) {
+    const WaitCursor wait(session.platform);
+    try {
+        ReplaceFile(path, ComposeDiagramFile(document, description, FileTextOf(session)));
+        return true;
+    } catch (const FileError&) {
+    } catch (const RuntimeFailure&) { // a value that no file can hold
+    }
+    return false;
+}
+
+} // namespace dorvan

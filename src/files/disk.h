@@ -1,0 +1,34 @@
+#pragma once
+
+#include "numbers/runtime_failure.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+// Whole files in and out.
+namespace dorvan {
+
+// The bytes of a regular file. Fails with a FileFault that says why it cannot be read.
+std::string LoadFile(const std::string& path);
+
+// A file could not be written. what() is the system's text for the error number.
+class FileError : public std::runtime_error {
+public:
+    explicit FileError(int errorNumber);
+    int Number() const { return number_; }
+
+private:
+    int number_;
+};
+
+// Puts a file of these bytes in the place of `path`, a file or none: written beside it, flushed to the disk,
+// renamed over it. The permissions of the file that was there stay; a symbolic link stays one, its target is
+// replaced. On failure (FileError) the file that was there is whole and nothing is left beside it. What is
+// neither a file nor missing (a device) is written in place.
+void ReplaceFile(const std::string& path, std::string_view bytes);
+
+// The run-time failure that a writer without a recovery of its own ends with.
+RuntimeFailure FailureOfWriting(const FileError& error, std::string_view path);
+
+} // namespace dorvan

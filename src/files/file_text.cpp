@@ -1,0 +1,9 @@
+#include "files/file_text.h"
+
+namespace dorvan {
+
+FileText FileTextOf(const Session& session) {
+    return {session.codePage, session.DecimalSeparator, session.version};
+}
+
+} // namespace dorvan

@@ -1,0 +1,53 @@
+#include "files/reading.h"
+
+#include "files/file_fault.h"
+#include "session/children.h"
+
+#include <fmt/format.h>
+
+#include <new>
+#include <optional>
+
+namespace dorvan {
+
+bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
+                       const std::function<void()>& read) {
+    Message message;
+    try {
+        std::optional<WaitCursor> cursor;
+        if (wait == Wait::Yes) cursor.emplace(session.platform);
+        read();
+        return true;
+    } catch (const FileFault& fault) {
+        message.Text = fault.Describe(path);
+        message.Icon = fault.HasOwnText() ? MessageIcon::Exclamation : MessageIcon::Critical;
+    } catch (const std::bad_alloc&) {
+        message.Text = fmt::format("The memory does not hold the file. File: {}", path);
+        message.Icon = MessageIcon::Critical;
+    }
+    session.platform.messages.show(message);
+    return false;
+}
+
+void TellOlderVersion(Session& session) {
+    session.platform.messages.show(
+        {.Text = "This file has been created in older Dorvan version. You can save it only with new format.",
+         .Icon = MessageIcon::Exclamation});
+}
+
+bool RefusedWhileBusy(Session& session) {
+    if (session.DiagramBusy != 1) return false;
+    session.platform.signals.beep();
+    return true;
+}
+
+void UpdateRecentFiles(Session& session, const std::string& path) {
+    session.commands.Call("UpdateRecentFiles", {.Index = 0, .Path = path});
+}
+
+void ShowOpened(Session& session, ChildWindow& window) {
+    PlaceNewWindow(session, window);
+    ShowChild(session, window);
+}
+
+} // namespace dorvan

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "session/session.h"
+
+#include <functional>
+#include <string>
+
+// What the openers of the three kinds share.
+namespace dorvan {
+
+// Does `read` under the wait cursor when `wait` is set. A FileFault in it (or a file too large for the
+// memory) becomes one message about `path`, and the result is false.
+enum class Wait { No, Yes };
+bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
+                       const std::function<void()>& read);
+
+// Said before a file of an older format is read.
+void TellOlderVersion(Session& session);
+
+// True after a beep: commands are refused while a diagram is being made.
+bool RefusedWhileBusy(Session& session);
+
+// Puts a path that was opened through a dialog on the list of recent files.
+void UpdateRecentFiles(Session& session, const std::string& path);
+
+// Gives a filled window its size and shows it.
+void ShowOpened(Session& session, ChildWindow& window);
+
+} // namespace dorvan

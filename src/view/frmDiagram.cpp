@@ -1,0 +1,209 @@
+#include "view/frmDiagram.h"
+
+#include "numbers/runtime_failure.h"
+#include "numbers/text.h"
+#include "session/children.h"
+#include "view/tiles.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int NumberColumnWidth = 382; // 1.5 boxes, the tie rounded to even
+constexpr int NameColumnWidth = 1800;
+constexpr int BoxSide = 255; // 16 pixels of a tile and a spare one
+constexpr int MostDescriptionCharacters = 150;
+
+constexpr int LeastHeight = 2500; // below it a window snaps to SnapHeight
+constexpr int SnapHeight = 4500;
+constexpr int LeastWidth = 9480;
+constexpr int RightMargin = 100;
+
+// What an active diagram turns on, and what turns off with it.
+constexpr const char* ExportMenus[] = {"mnuExport", "mnuExportExcel", "mnuExportBitmap", "mnuExportMeta"};
+constexpr const char* DocumentMenus[] = {
+    "mnuSave",       "mnuSaveAs",  "mnuFileClose",     "mnuEditCreateMatrix", "mnuEditDiagramType",
+    "mnuEditDown",   "mnuEditEnd", "mnuEditHistogram", "mnuEditHome",         "mnuEditLinear",
+    "mnuEditSelect", "mnuEditUp",  "mnuEditInsert"};
+
+template <std::size_t Count>
+void SwitchMenus(MainWindow& mainWindow, const char* const (&items)[Count], bool enabled) {
+    for (const auto* item : items) mainWindow.EnableMenu(item, enabled);
+}
+
+void SwitchMakeButtons(MainWindow& mainWindow, bool enabled) {
+    for (const auto* key : {"MakeMatrix", "MakeDiagram"}) mainWindow.EnableButton("toolMain", key, enabled);
+}
+
+void SwitchSaveButtons(MainWindow& mainWindow, bool enabled) {
+    for (const auto* key : {"Save", "SaveAs", "Print"}) mainWindow.EnableButton("toolMain", key, enabled);
+}
+
+} // namespace
+
+frmDiagram::frmDiagram(Session& session) : ChildWindow("frmDiagram"), session_(session) {
+    BottomText.MaxLength = MostDescriptionCharacters;
+    Siatka.GridLines = false;
+}
+
+DiagramDocument& frmDiagram::Document() {
+    if (Index < 1 || std::size_t(Index) >= session_.DiagramDocuments.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's slot");
+    return session_.DiagramDocuments[std::size_t(Index)];
+}
+
+void frmDiagram::Present(const std::string& description) {
+    LayOut();
+    RowOrder = Array1<std::int16_t>(Document().RecCount);
+    PaintNames();
+    PaintCells();
+    BottomText.Text = LeftCharacters(description, MostDescriptionCharacters);
+}
+
+void frmDiagram::LayOut() {
+    const int count = Document().RecCount;
+    Siatka.SetSize(count + 1, count + 2);
+    Siatka.Clear();
+    Siatka.FixedRows = 1;
+    Siatka.FixedColumns = 1;
+    Siatka.GridLines = false;
+    Siatka.FontSize = count > 99 ? 7 : 8; // three digits have to fit a box
+    for (int column = 0; column < Siatka.Columns(); ++column) {
+        // The last column keeps the default; only its number shows that.
+        const auto alignment = column >= 2 && column <= count ? Alignment::Centre : Alignment::Left;
+        Siatka.SetColumnAlignment(column, alignment);
+        Siatka.SetHeaderAlignment(column, alignment);
+        Siatka.SetColumnWidth(column, column == 0   ? NumberColumnWidth
+                                      : column == 1 ? NameColumnWidth
+                                                    : BoxSide);
+    }
+    for (int row = 0; row <= count; ++row) Siatka.SetRowHeight(row, BoxSide);
+    for (int place = 1; place <= count; ++place) {
+        Siatka.SetText(place, 0, fmt::format("{}", place));
+        Siatka.SetText(0, place + 1, fmt::format("{}", place));
+    }
+}
+
+void frmDiagram::PaintNames() {
+    const auto& document = Document();
+    Siatka.SetText(0, 1, "Name");
+    for (int row = 1; row <= document.RecCount; ++row) Siatka.SetText(row, 1, document.RecordNames(row));
+    Siatka.SetCurrent(document.RecCount, 1);
+}
+
+void frmDiagram::PaintCells() {
+    const int count = Document().RecCount;
+    for (int row = 1; row <= count; ++row)
+        for (int record = 1; record <= count; ++record) PaintCell(row, record, false);
+    if (count > 0) Siatka.SetCurrent(count, count + 1);
+}
+
+// A cell without a tile keeps the picture that it shows.
+void frmDiagram::PaintCell(int row, int record, bool selected) {
+    const Tile tile = CellTile(Document(), row, record, selected);
+    if (tile != Tile::None) Siatka.SetPicture(row, record + 1, static_cast<std::uint8_t>(tile));
+}
+
+void frmDiagram::Siatka_DblClick() {
+    if (IsBusy()) return;
+    if (RowSelected == 0 && Siatka.Row() >= 1)
+        SelectCurrentRow();
+    else if (RowSelected == 1 && Siatka.Row() == SelectedRow)
+        DropSelection();
+}
+
+void frmDiagram::SetIcons(bool enabled) {
+    for (const auto* key : {"Up", "Down", "Home", "End", "Insert"})
+        session_.mainWindow.EnableButton("toolDiagram", key, enabled);
+}
+
+void frmDiagram::BottomText_Change() { session_.DiagramStates.at(std::size_t(Index)).Dirty = true; }
+
+void frmDiagram::BottomText_KeyPress(int&) { IsBusy(); } // the character is still taken
+
+void frmDiagram::Form_Load() {
+    SetIcons(false);
+    RowOrder = Array1<std::int16_t>(Document().RecCount);
+}
+
+void frmDiagram::Form_Activate() {
+    auto& mainWindow = session_.mainWindow;
+    const bool hasData = !Document().NoData;
+    SwitchMakeButtons(mainWindow, false);
+    SwitchSaveButtons(mainWindow, true);
+    mainWindow.ShowToolbar("toolDiagram", true);
+    mainWindow.ShowButton("toolDiagram", "DataOrder", hasData);
+    SwitchMenus(mainWindow, ExportMenus, true);
+    SwitchMenus(mainWindow, DocumentMenus, true);
+    mainWindow.EnableMenu("mnuFilePrint", true);
+    for (const auto* item : {"mnuExportText", "mnuEditCopyClip", "mnuAnalysisDiagram", "mnuAnalysisMatrix"})
+        mainWindow.EnableMenu(item, false);
+    mainWindow.EnableMenu("mnuEditCreateDataset", hasData);
+    TypeOfForm = DocumentKind::Diagram;
+}
+
+// mnuFilePrint is left as it was.
+void frmDiagram::Form_Deactivate() {
+    auto& mainWindow = session_.mainWindow;
+    SwitchMakeButtons(mainWindow, true);
+    SwitchSaveButtons(mainWindow, false);
+    mainWindow.ShowToolbar("toolDiagram", false);
+    SwitchMenus(mainWindow, ExportMenus, false);
+    SwitchMenus(mainWindow, DocumentMenus, false);
+    for (const auto* item : {"mnuExportText", "mnuEditCopyClip", "mnuEditCreateDataset"})
+        mainWindow.EnableMenu(item, false);
+}
+
+bool frmDiagram::Form_QueryUnload() {
+    if (!session_.DiagramStates.at(std::size_t(Index)).Dirty) return true;
+    switch (AskToSave(session_, "diagram", ReplaceAll(Caption, "[DIAGRAM]: ", ""), MessageIcon::None)) {
+    case Answer::Cancel: return false;
+    case Answer::Yes: session_.commands.Call("Save"); return true; // saves the active window
+    default: return true;
+    }
+}
+
+void frmDiagram::Form_Unload() {
+    auto& mainWindow = session_.mainWindow;
+    session_.DiagramStates.at(std::size_t(Index)).Deleted = true;
+    mainWindow.ShowToolbar("toolDiagram", false);
+    SwitchMakeButtons(mainWindow, false);
+    SwitchSaveButtons(mainWindow, false);
+    SwitchMenus(mainWindow, DocumentMenus, false);
+    for (const auto* item : {"mnuEditCopyClip", "mnuEditCreateDataset"}) mainWindow.EnableMenu(item, false);
+}
+
+void frmDiagram::Form_Resize() {
+    ChildWindow* active = session_.ActiveWindow; // it is the one that snaps, be it this window or another
+    if (Mode == WindowMode::Normal && active &&
+        (active->Height < LeastHeight || active->Width < LeastWidth)) {
+        if (active->Height < LeastHeight) active->Height = SnapHeight;
+        active->Width = std::max(active->Width, LeastWidth);
+        session_.platform.children.update(*active);
+    }
+    if (Mode == WindowMode::Minimized || ScaleHeight <= 0) return;
+    SiatkaBounds = {0, BottomPanelHeight, ScaleWidth, std::max(0, ScaleHeight - BottomPanelHeight)};
+    BottomTextWidth = std::max(0, ScaleWidth - BottomTextLeft - RightMargin);
+}
+
+bool frmDiagram::IsBusy() {
+    if (session_.DiagramBusy != 1) return false;
+    Beep();
+    return true;
+}
+
+void frmDiagram::Beep() { session_.platform.signals.beep(); }
+
+frmDiagram& DiagramWindow(Session& session, std::int16_t slot) {
+    if (slot < 1 || std::size_t(slot) >= session.DiagramWindows.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's slot");
+    auto* window = dynamic_cast<frmDiagram*>(session.DiagramWindows[std::size_t(slot)].get());
+    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "no diagram window in that slot");
+    return *window;
+}
+
+} // namespace dorvan

@@ -1,0 +1,170 @@
+#include "view/frmDiagram.h"
+
+#include "numbers/runtime_failure.h"
+#include "view/classes.h"
+
+#include <numeric>
+#include <utility>
+
+// Selecting a row and moving it: ordering by hand.
+namespace dorvan {
+
+namespace {
+
+template <class T> Array1<T> Reordered(const Array1<T>& values, const Array1<std::int16_t>& order) {
+    Array1<T> result(order.Count());
+    for (std::int32_t place = 1; place <= order.Count(); ++place) result(place) = values(order(place));
+    return result;
+}
+
+// Rows and columns alike.
+FloatTable Reordered(const FloatTable& matrix, const Array1<std::int16_t>& order) {
+    const std::int32_t count = order.Count();
+    FloatTable result(count, count);
+    for (std::int32_t row = 1; row <= count; ++row) {
+        const float* from = matrix.Row(order(row));
+        float* to = result.Row(row);
+        for (const std::int16_t place : order.Cells()) *to++ = from[place - 1];
+    }
+    return result;
+}
+
+void CheckOrder(const Array1<std::int16_t>& order, const DiagramDocument& document) {
+    const std::int32_t count = document.RecCount;
+    if (order.Count() != count || document.Matrix.Rows() < count || document.Matrix.Columns() < count)
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's order");
+    for (const std::int16_t place : order.Cells())
+        if (place < 1 || place > count)
+            throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's order");
+}
+
+} // namespace
+
+void frmDiagram::SelectThisRow() {
+    if (IsBusy()) return;
+    if (RowSelected == 0 && Siatka.Row() >= 1) {
+        SelectCurrentRow();
+    } else if (RowSelected == 1) {
+        Siatka.SetCurrent(SelectedRow, 0);
+        DropSelection();
+    }
+}
+
+void frmDiagram::SelectCurrentRow() {
+    SelectedRow = static_cast<std::int16_t>(Siatka.Row());
+    Siatka.SetCurrent(SelectedRow, 0);
+    SelectRow(SelectedRow);
+    SetIcons(true);
+    RowSelected = 1;
+}
+
+void frmDiagram::DropSelection() {
+    Siatka.SetCurrent(Siatka.Row(), 0);
+    UnSelectRow(SelectedRow);
+    SelectedRow = 0;
+    SetIcons(false);
+    RowSelected = 0;
+}
+
+void frmDiagram::SelectRow(std::int16_t& row) { PaintCross(row, true); }
+
+void frmDiagram::UnSelectRow(std::int16_t& row) { PaintCross(row, false); }
+
+void frmDiagram::PaintCross(std::int16_t row, bool selected) {
+    for (int column = 2; column < Siatka.Columns(); ++column) PaintCell(row, column - 1, selected);
+    for (int other = 1; other < Siatka.Rows(); ++other) PaintCell(other, row, selected);
+    Siatka.SetCurrent(row, row + 1);
+}
+
+void frmDiagram::StartOrder() {
+    std::iota(RowOrder.Cells().begin(), RowOrder.Cells().end(), std::int16_t(1));
+}
+
+// The places behind close up; the last place is left over.
+void frmDiagram::TakeOut(std::int32_t place) {
+    for (std::int32_t k = place; k <= RowOrder.Count() - 1; ++k) RowOrder(k) = RowOrder(k + 1);
+}
+
+// From the last place on, all move one further.
+void frmDiagram::MakeRoom(std::int32_t place) {
+    for (std::int32_t k = RowOrder.Count(); k >= place + 1; --k) RowOrder(k) = RowOrder(k - 1);
+}
+
+// Selects the moved record at its new place.
+void frmDiagram::LandOn(std::int16_t place) {
+    SelectedRow = place;
+    Siatka.SetCurrent(place, Siatka.Column());
+    SelectRow(SelectedRow);
+}
+
+void frmDiagram::Exchange(std::int16_t neighbour) {
+    const WaitCursor cursor(session_.platform);
+    StartOrder();
+    std::swap(RowOrder(SelectedRow), RowOrder(neighbour));
+    ApplyRowOrder();
+    Siatka.SetCurrent(SelectedRow, 0);
+    UnSelectRow(SelectedRow);
+    LandOn(neighbour);
+}
+
+void frmDiagram::Down() {
+    if (IsBusy()) return;
+    if (SelectedRow >= Siatka.Rows() - 1) return Beep();
+    Exchange(static_cast<std::int16_t>(SelectedRow + 1));
+}
+
+void frmDiagram::Up() {
+    if (IsBusy()) return;
+    if (SelectedRow <= 1) return Beep();
+    Exchange(static_cast<std::int16_t>(SelectedRow - 1));
+}
+
+void frmDiagram::Home() {
+    if (IsBusy()) return;
+    if (SelectedRow <= 1) return Beep();
+    const WaitCursor cursor(session_.platform);
+    StartOrder();
+    TakeOut(SelectedRow);
+    MakeRoom(1);
+    RowOrder(1) = SelectedRow;
+    ApplyRowOrder();
+    LandOn(1);
+}
+
+void frmDiagram::EndRow() {
+    if (IsBusy()) return;
+    const std::int16_t last = Document().RecCount;
+    if (SelectedRow >= last) return Beep();
+    const WaitCursor cursor(session_.platform);
+    StartOrder();
+    TakeOut(SelectedRow);
+    RowOrder(last) = SelectedRow;
+    ApplyRowOrder();
+    LandOn(last);
+}
+
+void frmDiagram::Insert() {
+    if (IsBusy()) return;
+    const auto target = static_cast<std::int16_t>(Siatka.Row());
+    if (target == SelectedRow || target < 1) return Beep();
+    const WaitCursor cursor(session_.platform);
+    StartOrder();
+    TakeOut(SelectedRow);
+    MakeRoom(target);
+    RowOrder(target) = SelectedRow;
+    ApplyRowOrder();
+    LandOn(target);
+}
+
+void frmDiagram::ApplyRowOrder() {
+    auto& document = Document();
+    CheckOrder(RowOrder, document);
+    document.Matrix = Reordered(document.Matrix, RowOrder);
+    document.RecordNames = Reordered(document.RecordNames, RowOrder);
+    document.RecordHasNA = Reordered(document.RecordHasNA, RowOrder);
+    ClassifyDiagram(document);
+    PaintNames();
+    PaintCells();
+}
+
+} // namespace dorvan

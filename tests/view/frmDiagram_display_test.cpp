@@ -1,0 +1,481 @@
+#include "session/children.h"
+#include "view/diagram_session.h"
+
+#include "numbers/runtime_failure.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace dorvan::test {
+namespace {
+
+using ::testing::UnorderedElementsAreArray;
+using Words = std::vector<std::string>;
+
+TEST(DiagramGrid, HasNumbersAndNamesAlongItsEdge) {
+    DiagramSession at;
+    auto& grid = at.Open(3).Siatka;
+    ASSERT_EQ(grid.Rows(), 4);
+    ASSERT_EQ(grid.Columns(), 5);
+    EXPECT_EQ(grid.FixedRows, 1);
+    EXPECT_EQ(grid.FixedColumns, 1);
+    EXPECT_FALSE(grid.GridLines);
+    const Words headers{"", "Name", "1", "2", "3"};
+    for (int column = 0; column < 5; ++column) EXPECT_EQ(grid.Text(0, column), headers[std::size_t(column)]);
+    const Words names{"", "A", "B", "C"};
+    for (int row = 1; row <= 3; ++row) {
+        EXPECT_EQ(grid.Text(row, 0), std::to_string(row));
+        EXPECT_EQ(grid.Text(row, 1), names[std::size_t(row)]);
+        for (int column = 2; column < 5; ++column) EXPECT_EQ(grid.Text(row, column), "");
+    }
+}
+
+TEST(DiagramGrid, SizesInTwips) {
+    DiagramSession at;
+    auto& grid = at.Open(3).Siatka;
+    const std::vector<int> widths{382, 1800, 255, 255, 255};
+    for (int column = 0; column < 5; ++column)
+        EXPECT_EQ(grid.ColumnWidth(column), widths[std::size_t(column)]);
+    for (int row = 0; row < 4; ++row) EXPECT_EQ(grid.RowHeight(row), 255);
+}
+
+TEST(DiagramGrid, NamesStandLeftAndSymbolsCentredButForTheLastColumn) {
+    DiagramSession at;
+    auto& grid = at.Open(3).Siatka;
+    const std::vector<Alignment> alignments{Alignment::Left, Alignment::Left, Alignment::Centre,
+                                            Alignment::Centre, Alignment::Left};
+    for (int column = 0; column < 5; ++column) {
+        EXPECT_EQ(grid.ColumnAlignment(column), alignments[std::size_t(column)]) << column;
+        EXPECT_EQ(grid.HeaderAlignment(column), alignments[std::size_t(column)]) << column;
+    }
+}
+
+TEST(DiagramGrid, NumbersOfThreeDigitsTakeASmallerFont) {
+    DiagramSession at;
+    EXPECT_EQ(at.Open(99).Siatka.FontSize, 8);
+    EXPECT_EQ(at.Open(100).Siatka.FontSize, 7);
+}
+
+TEST(DiagramGrid, ShowsTheTileOfEachCellAndLeavesTheCurrentCellOnTheLast) {
+    DiagramSession at;
+    auto document = SampleDocument(3); // distances A-B 12, A-C 13, B-C 23
+    document.RecordHasNA(3) = true;
+    document.Matrix(2, 1) = 35.0f;
+    auto& window = at.Open(document);
+    EXPECT_EQ(TileAt(window, 1, 1), Tile::picCircle05);
+    EXPECT_EQ(TileAt(window, 1, 2), Tile::picCircle04);
+    EXPECT_EQ(TileAt(window, 1, 3), Tile::picCircle03NA);
+    EXPECT_EQ(TileAt(window, 2, 1), Tile::picColor01);
+    EXPECT_EQ(TileAt(window, 2, 3), Tile::picCircle02NA);
+    EXPECT_EQ(TileAt(window, 3, 3), Tile::picCircle05NA);
+    EXPECT_EQ(window.Siatka.Row(), 3);
+    EXPECT_EQ(window.Siatka.Column(), 4);
+    for (int row = 0; row <= 3; ++row)
+        for (int column = 0; column < 2; ++column) EXPECT_EQ(window.Siatka.Picture(row, column), 0);
+}
+
+TEST(DiagramGrid, ACellWithoutAClassGetsNoPicture) {
+    DiagramSession at;
+    auto document = SampleDocument(2);
+    document.Matrix(1, 2) = -1.0f;
+    auto& window = at.Open(document);
+    EXPECT_EQ(TileAt(window, 1, 2), Tile::None);
+    EXPECT_EQ(TileAt(window, 2, 1), Tile::picCircle04);
+}
+
+TEST(DiagramGrid, TakesTheTypeOfItsDocument) {
+    DiagramSession at;
+    auto document = SampleDocument(2);
+    document.DiagType = 1;
+    EXPECT_EQ(TileAt(at.Open(document), 1, 2), Tile::picColor04);
+    document.DiagType = 3;
+    EXPECT_EQ(TileAt(at.Open(document), 1, 2), Tile::picClassic04);
+}
+
+TEST(DiagramGrid, ADocumentWithoutRecordsIsAnEmptySquare) {
+    DiagramSession at;
+    auto& grid = at.Open(0).Siatka;
+    EXPECT_EQ(grid.Rows(), 1);
+    EXPECT_EQ(grid.Columns(), 2);
+    EXPECT_EQ(grid.Text(0, 1), "Name");
+}
+
+TEST(DiagramGrid, AReusedSlotStartsWithTheNewDocumentsSizes) {
+    DiagramSession at;
+    auto& first = at.Open(100);
+    ShowChild(at.session, first);
+    first.Siatka.SetCurrent(50, 2);
+    first.SelectThisRow();
+    ASSERT_TRUE(CloseChild(at.session, first));
+    auto& second = at.Open(3);
+    EXPECT_EQ(second.Index, 1);
+    EXPECT_EQ(second.Siatka.Rows(), 4);
+    EXPECT_EQ(second.Siatka.Columns(), 5);
+    EXPECT_EQ(second.Siatka.FontSize, 8);
+    EXPECT_EQ(second.RowOrder.Count(), 3);
+    EXPECT_EQ(second.SelectedRow, 0);
+    EXPECT_EQ(second.RowSelected, 0);
+}
+
+TEST(DiagramGrid, ShownAgainForASmallerDocumentKeepsNothingOfTheLarger) {
+    DiagramSession at;
+    auto& window = at.Open(4);
+    at.session.DiagramDocuments.at(1) = SampleDocument(2);
+    ClassifyDiagram(at.session.DiagramDocuments.at(1));
+    at.session.DiagramDocuments.at(1).Classes(1, 2) = 6;
+    window.Present("");
+    EXPECT_EQ(window.Siatka.Columns(), 4);
+    EXPECT_EQ(window.Siatka.ColumnAlignment(3), Alignment::Left);
+    EXPECT_EQ(TileAt(window, 1, 2), Tile::None);
+    EXPECT_EQ(window.RowOrder.Count(), 2);
+}
+
+TEST(DiagramWindow, LoadsWithoutASelectionAndWithTheMovingButtonsOff) {
+    DiagramSession at;
+    auto& window = at.Open(3);
+    EXPECT_EQ(window.Index, 1);
+    EXPECT_EQ(window.Name, "frmDiagram");
+    EXPECT_EQ(window.TypeOfForm, "") << "set by the first activation";
+    EXPECT_EQ(window.SelectedRow, 0);
+    EXPECT_EQ(window.RowSelected, 0);
+    EXPECT_EQ(window.RowOrder.Count(), 3);
+    for (const auto* key : {"Up", "Down", "Home", "End", "Insert"})
+        EXPECT_FALSE(at.session.mainWindow.ButtonEnabled("toolDiagram", key)) << key;
+}
+
+TEST(DiagramWindow, SetIconsSwitchesTheFiveMovingButtonsAndNoMenuItem) {
+    DiagramSession at;
+    auto& window = at.Open(3);
+    const auto& main = at.session.mainWindow;
+    window.Form_Activate();
+    for (const bool enabled : {true, false}) {
+        window.SetIcons(enabled);
+        for (const auto* key : {"Up", "Down", "Home", "End", "Insert"})
+            EXPECT_EQ(main.ButtonEnabled("toolDiagram", key), enabled) << key;
+        for (const auto* item : {"mnuEditUp", "mnuEditDown", "mnuEditHome", "mnuEditEnd", "mnuEditInsert"})
+            EXPECT_TRUE(main.MenuEnabled(item)) << item;
+        for (const auto* key : {"Select", "Bitmap", "Metafile", "Matrix", "Histogram", "Linear"})
+            EXPECT_TRUE(main.ButtonEnabled("toolDiagram", key)) << key;
+    }
+}
+
+TEST(DiagramWindow, IsFoundByItsSlot) {
+    DiagramSession at;
+    auto& first = at.Open(2);
+    auto& second = at.Open(3);
+    EXPECT_EQ(&DiagramWindow(at.session, 1), &first);
+    EXPECT_EQ(&DiagramWindow(at.session, 2), &second);
+    EXPECT_EQ(second.Document().RecCount, 3);
+    EXPECT_THROW(DiagramWindow(at.session, 0), RuntimeFailure);
+    EXPECT_THROW(DiagramWindow(at.session, 3), RuntimeFailure);
+    EXPECT_THROW(DiagramWindow(at.session, -1), RuntimeFailure);
+}
+
+TEST(DiagramDescription, HoldsAtMostItsFieldsCharacters) {
+    DiagramSession at;
+    EXPECT_EQ(at.Open(SampleDocument(2), "żółw, two").BottomText.Text, "żółw, two");
+    std::string longText;
+    for (int k = 0; k < 151; ++k) longText += "ż";
+    auto& window = at.Open(SampleDocument(2), longText);
+    EXPECT_EQ(window.BottomText.MaxLength, 150);
+    EXPECT_EQ(window.BottomText.Text, longText.substr(0, 300)); // two bytes a character
+}
+
+TEST(DiagramDescription, AChangeMarksTheDocumentAndMovingTheCursorDoesNot) {
+    DiagramSession at;
+    at.Open(2);
+    auto& window = at.Open(2);
+    window.Siatka.SetCurrent(1, 2);
+    EXPECT_FALSE(at.session.DiagramStates.at(2).Dirty);
+    window.BottomText_Change();
+    EXPECT_TRUE(at.session.DiagramStates.at(2).Dirty);
+    EXPECT_FALSE(at.session.DiagramStates.at(1).Dirty);
+}
+
+TEST(DiagramDescription, AKeyBeepsWhileADiagramIsMadeAndIsStillTaken) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    int key = 'x';
+    window.BottomText_KeyPress(key);
+    EXPECT_EQ(at.signals.beeps, 0);
+    at.session.DiagramBusy = 1;
+    window.BottomText_KeyPress(key);
+    EXPECT_EQ(at.signals.beeps, 1);
+    EXPECT_EQ(key, 'x');
+}
+
+// All names that a child window may switch.
+const Words AllMenus{"mnuExport",
+                     "mnuExportText",
+                     "mnuExportExcel",
+                     "mnuExportBitmap",
+                     "mnuExportMeta",
+                     "mnuSave",
+                     "mnuSaveAs",
+                     "mnuFileClose",
+                     "mnuFilePrint",
+                     "mnuEditCell",
+                     "mnuEditVarAdd",
+                     "mnuEditVarEdit",
+                     "mnuEditVarDelete",
+                     "mnuEditRecAdd",
+                     "mnuEditRecDelete",
+                     "mnuEditStandarization",
+                     "mnuEditSelect",
+                     "mnuEditHome",
+                     "mnuEditUp",
+                     "mnuEditDown",
+                     "mnuEditEnd",
+                     "mnuEditInsert",
+                     "mnuEditCreateMatrix",
+                     "mnuEditCreateDataset",
+                     "mnuEditHistogram",
+                     "mnuEditLinear",
+                     "mnuEditDiagramType",
+                     "mnuEditCopyClip",
+                     "mnuAnalysisMatrix",
+                     "mnuAnalysisDiagram",
+                     "mnuFNew",
+                     "mnuFOpen",
+                     "mnuImport",
+                     "mnuFExit",
+                     "mnuOToolbar"};
+const Words MainButtons{"New",         "Open",         "OpenMatrix", "OpenDiagram", "ImportDBF",
+                        "ImportTXT",   "ImportMatrix", "Save",       "SaveAs",      "MakeMatrix",
+                        "MakeDiagram", "Print",        "Help"};
+const Words AllToolbars{"toolMain", "toolData", "toolMatrix", "toolBitmap", "toolDiagram"};
+
+void SetAll(MainWindow& main, bool state) {
+    for (const auto& item : AllMenus) main.EnableMenu(item, state);
+    for (const auto& key : MainButtons) main.EnableButton("toolMain", key, state);
+    for (const auto& toolbar : AllToolbars) main.ShowToolbar(toolbar, state);
+    main.ShowButton("toolDiagram", "DataOrder", state);
+}
+
+struct Switched {
+    Words menus, buttons, toolbars;
+    bool dataOrder = false;
+};
+
+// What the event has turned to `state`, everything having stood the other way.
+template <class Event> Switched SwitchedTo(bool state, MainWindow& main, Event event) {
+    SetAll(main, !state);
+    event();
+    Switched result;
+    for (const auto& item : AllMenus)
+        if (main.MenuEnabled(item) == state) result.menus.push_back(item);
+    for (const auto& key : MainButtons)
+        if (main.ButtonEnabled("toolMain", key) == state) result.buttons.push_back(key);
+    for (const auto& toolbar : AllToolbars)
+        if (main.ToolbarShown(toolbar) == state) result.toolbars.push_back(toolbar);
+    result.dataOrder = main.ButtonShown("toolDiagram", "DataOrder") == state;
+    return result;
+}
+
+const Words ActivatedMenus{
+    "mnuExport",     "mnuExportExcel", "mnuExportBitmap",  "mnuExportMeta",       "mnuSave",
+    "mnuSaveAs",     "mnuFilePrint",   "mnuFileClose",     "mnuEditCreateMatrix", "mnuEditDiagramType",
+    "mnuEditDown",   "mnuEditEnd",     "mnuEditHistogram", "mnuEditHome",         "mnuEditLinear",
+    "mnuEditSelect", "mnuEditUp",      "mnuEditInsert",    "mnuEditCreateDataset"};
+
+TEST(DiagramActivation, TurnsOnItsCommands) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    const auto on = SwitchedTo(true, at.session.mainWindow, [&] { window.Form_Activate(); });
+    EXPECT_THAT(on.menus, UnorderedElementsAreArray(ActivatedMenus));
+    EXPECT_THAT(on.buttons, UnorderedElementsAreArray(Words{"Save", "SaveAs", "Print"}));
+    EXPECT_THAT(on.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
+    EXPECT_TRUE(on.dataOrder);
+    EXPECT_EQ(window.TypeOfForm, "DIAGRAM");
+}
+
+TEST(DiagramActivation, TurnsOffWhatADiagramHasNoUseFor) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    const auto off = SwitchedTo(false, at.session.mainWindow, [&] { window.Form_Activate(); });
+    EXPECT_THAT(off.menus, UnorderedElementsAreArray(Words{"mnuExportText", "mnuEditCopyClip",
+                                                           "mnuAnalysisDiagram", "mnuAnalysisMatrix"}));
+    EXPECT_THAT(off.buttons, UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram"}));
+    EXPECT_TRUE(off.toolbars.empty());
+    EXPECT_FALSE(off.dataOrder);
+}
+
+TEST(DiagramActivation, ADiagramWithoutDataHasNoDatasetToCreate) {
+    DiagramSession at;
+    auto document = SampleDocument(2);
+    document.NoData = true;
+    auto& window = at.Open(document);
+    auto& main = at.session.mainWindow;
+    const auto off = SwitchedTo(false, main, [&] { window.Form_Activate(); });
+    EXPECT_THAT(off.menus,
+                UnorderedElementsAreArray(Words{"mnuExportText", "mnuEditCopyClip", "mnuAnalysisDiagram",
+                                                "mnuAnalysisMatrix", "mnuEditCreateDataset"}));
+    EXPECT_TRUE(off.dataOrder);
+    const auto on = SwitchedTo(true, main, [&] { window.Form_Activate(); });
+    EXPECT_EQ(on.menus.size(), ActivatedMenus.size() - 1);
+    EXPECT_FALSE(on.dataOrder);
+}
+
+TEST(DiagramDeactivation, TurnsItsCommandsOffButPrintAndTheMakeButtonsOn) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    auto& main = at.session.mainWindow;
+    const auto off = SwitchedTo(false, main, [&] { window.Form_Deactivate(); });
+    EXPECT_THAT(off.menus, UnorderedElementsAreArray(Words{"mnuExport",           "mnuExportText",
+                                                           "mnuExportExcel",      "mnuExportBitmap",
+                                                           "mnuExportMeta",       "mnuSave",
+                                                           "mnuSaveAs",           "mnuFileClose",
+                                                           "mnuEditCopyClip",     "mnuEditCreateDataset",
+                                                           "mnuEditCreateMatrix", "mnuEditDiagramType",
+                                                           "mnuEditDown",         "mnuEditEnd",
+                                                           "mnuEditHistogram",    "mnuEditHome",
+                                                           "mnuEditLinear",       "mnuEditSelect",
+                                                           "mnuEditUp",           "mnuEditInsert"}))
+        << "mnuFilePrint is left as it was";
+    EXPECT_THAT(off.buttons, UnorderedElementsAreArray(Words{"Save", "SaveAs", "Print"}));
+    EXPECT_THAT(off.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
+    EXPECT_FALSE(off.dataOrder);
+
+    const auto on = SwitchedTo(true, main, [&] { window.Form_Deactivate(); });
+    EXPECT_TRUE(on.menus.empty());
+    EXPECT_THAT(on.buttons, UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram"}));
+    EXPECT_TRUE(on.toolbars.empty());
+}
+
+TEST(DiagramUnload, FreesTheSlotAndTurnsItsCommandsOff) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    auto& main = at.session.mainWindow;
+    const auto off = SwitchedTo(false, main, [&] { window.Form_Unload(); });
+    EXPECT_TRUE(at.session.DiagramStates.at(1).Deleted);
+    EXPECT_THAT(off.menus, UnorderedElementsAreArray(
+                               Words{"mnuFileClose", "mnuSave", "mnuSaveAs", "mnuEditCopyClip",
+                                     "mnuEditCreateDataset", "mnuEditCreateMatrix", "mnuEditDiagramType",
+                                     "mnuEditDown", "mnuEditEnd", "mnuEditHistogram", "mnuEditHome",
+                                     "mnuEditLinear", "mnuEditSelect", "mnuEditUp", "mnuEditInsert"}));
+    EXPECT_THAT(off.buttons,
+                UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram", "Save", "SaveAs", "Print"}));
+    EXPECT_THAT(off.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
+
+    const auto on = SwitchedTo(true, main, [&] { window.Form_Unload(); });
+    EXPECT_TRUE(on.menus.empty());
+    EXPECT_TRUE(on.buttons.empty());
+    EXPECT_TRUE(on.toolbars.empty());
+    EXPECT_EQ(at.session.DiagramDocuments.at(1).RecCount, 2) << "the record stays until the slot is reused";
+}
+
+TEST(DiagramClosing, AnUnchangedDiagramClosesWithoutAQuestion) {
+    DiagramSession at;
+    EXPECT_TRUE(at.Open(2).Form_QueryUnload());
+    EXPECT_TRUE(at.messages.shown.empty());
+}
+
+TEST(DiagramClosing, AsksAboutTheChangesWithoutThePrefixOfTheCaption) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    window.Caption = "[DIAGRAM]: /Home/Cars.dgr";
+    at.session.DiagramStates.at(1).Dirty = true;
+    int saves = 0;
+    at.session.commands.Set("Save", [&](const CommandCall&) { ++saves; });
+
+    at.messages.answers = {Answer::Cancel, Answer::No, Answer::Yes};
+    EXPECT_FALSE(window.Form_QueryUnload());
+    EXPECT_EQ(saves, 0);
+    EXPECT_TRUE(window.Form_QueryUnload());
+    EXPECT_EQ(saves, 0);
+    EXPECT_TRUE(window.Form_QueryUnload());
+    EXPECT_EQ(saves, 1);
+
+    const Message question{.Text = "The diagram in [/Home/Cars.dgr] has changed.\r\n"
+                                   "Do you want to save the changes?",
+                           .Icon = MessageIcon::None,
+                           .Buttons = MessageButtons::YesNoCancel,
+                           .Title = "Dorvan 3.3.44"};
+    ASSERT_EQ(at.messages.shown.size(), 3u);
+    for (const auto& shown : at.messages.shown) EXPECT_EQ(shown, question);
+    at.expectScriptsUsedUp();
+}
+
+TEST(DiagramClosing, TheLastWindowHidesTheToolbar) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    ShowChild(at.session, window);
+    EXPECT_TRUE(at.session.mainWindow.ToolbarShown("toolDiagram"));
+    EXPECT_TRUE(CloseChild(at.session, window));
+    EXPECT_FALSE(at.session.mainWindow.ToolbarShown("toolDiagram"));
+    EXPECT_FALSE(at.session.mainWindow.MenuEnabled("mnuFilePrint"));
+}
+
+TEST(DiagramResize, TheActiveWindowSnapsToALeastSize) {
+    DiagramSession at;
+    auto& active = at.Open(2);
+    auto& other = at.Open(2);
+    ShowChild(at.session, active);
+    const auto resized = [&](int width, int height) {
+        active.Width = width;
+        active.Height = height;
+        other.Width = other.Height = 100;
+        other.Form_Resize(); // the event of one window, the size of the active one
+        EXPECT_EQ(other.Width, 100);
+        EXPECT_EQ(other.Height, 100);
+        return std::pair(active.Width, active.Height);
+    };
+    at.children.log.clear();
+    EXPECT_EQ(resized(9480, 2500), std::pair(9480, 2500));
+    EXPECT_TRUE(at.children.log.empty());
+    EXPECT_EQ(resized(9480, 2499), std::pair(9480, 4500));
+    EXPECT_EQ(resized(9479, 2500), std::pair(9480, 2500));
+    EXPECT_EQ(resized(100, 100), std::pair(9480, 4500));
+    EXPECT_EQ(at.children.log, Words(3, "update " + active.Caption));
+}
+
+TEST(DiagramResize, OnlyANormalWindowSnapsAndNoneWithoutAnActiveOne) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    window.Width = window.Height = 100;
+    window.Form_Resize();
+    EXPECT_EQ(window.Height, 100) << "no window is active";
+    ShowChild(at.session, window);
+    for (const auto mode : {WindowMode::Minimized, WindowMode::Maximized}) {
+        window.Mode = mode;
+        window.Form_Resize();
+        EXPECT_EQ(window.Width, 100);
+        EXPECT_EQ(window.Height, 100);
+    }
+}
+
+TEST(DiagramResize, TheGridFillsWhatTheDescriptionLeaves) {
+    DiagramSession at;
+    auto& window = at.Open(2);
+    window.BottomTextLeft = 1000;
+    window.ScaleWidth = 9000;
+    window.ScaleHeight = 5000;
+    window.Form_Resize();
+    EXPECT_EQ(window.SiatkaBounds.Left, 0);
+    EXPECT_EQ(window.SiatkaBounds.Top, 390);
+    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
+    EXPECT_EQ(window.SiatkaBounds.Height, 4610);
+    EXPECT_EQ(window.BottomTextWidth, 7900);
+    EXPECT_TRUE(window.Siatka.Visible);
+
+    window.ScaleHeight = 0; // nothing to lay out
+    window.ScaleWidth = 1;
+    window.Form_Resize();
+    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
+    window.Mode = WindowMode::Minimized;
+    window.ScaleHeight = 100;
+    window.Form_Resize();
+    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
+    window.Mode = WindowMode::Maximized; // lengths do not fall below 0
+    window.Form_Resize();
+    EXPECT_EQ(window.SiatkaBounds.Width, 1);
+    EXPECT_EQ(window.SiatkaBounds.Height, 0);
+    EXPECT_EQ(window.BottomTextWidth, 0);
+}
+
+} // namespace
+} // namespace dorvan::test
