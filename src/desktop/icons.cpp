@@ -8,6 +8,10 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+// The drawings are linked from a library, which does not register them by itself. (The macro cannot stand in a
+// namespace.)
+static void RegisterDrawings() { Q_INIT_RESOURCE(dorvan); }
+
 namespace dorvan {
 
 namespace {
@@ -46,11 +50,15 @@ private:
 } // namespace
 
 QIcon ThemedIcon(const QString& name) {
+    RegisterDrawings();
     QFile file(":/icons/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QIcon(new ThemedIconEngine(file.readAll()));
 }
 
-QIcon ProgramIcon() { return QIcon(":/dorvan.svg"); }
+QIcon ProgramIcon() {
+    RegisterDrawings();
+    return QIcon(":/dorvan.svg");
+}
 
 } // namespace dorvan
