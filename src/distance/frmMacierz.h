@@ -14,15 +14,32 @@ class frmMacierz : public ChildWindow {
 public:
     explicit frmMacierz(Session& session);
 
+    static constexpr int BottomPanelHeight = 390; // twips; the panel of the description, above the grid
+
     TextBox BottomText{"BottomText"}; // the description
     Grid Siatka{"Siatka"};
+
+    // Where the last resize put the grid, and the width it gave to the description: twips inside the window.
+    struct Bounds {
+        int Left = 0;
+        int Top = BottomPanelHeight;
+        int Width = 0;
+        int Height = 0;
+    };
+    Bounds SiatkaBounds;
+    int BottomTextLeft = 1200; // right of the label "Description:"; told by the face
+    int BottomTextWidth = 0;
 
     DistanceMatrix& Document();
 
     // Builds the grid from the document and shows the description.
     void Present(const std::string& description) override;
 
-    void BottomText_Change(); // after any change of the text by the user
+    // The same with the numbers (Size by Size) that the document's cells are the text of: the screen then
+    // shows digits that the text has no room for.
+    void PresentDistances(const FloatTable& distances, const std::string& description);
+
+    void BottomText_Change(); // after any change of the text
     void BottomText_KeyPress(int& keyAscii);
 
     // Saves under the path; an empty one asks for it.
@@ -36,6 +53,9 @@ public:
     void Form_Resize() override;
 
 private:
+    void LayOutColumns(float highest);
+    void FillGrid(const FloatTable& distances);
+
     Session& session_;
 };
 

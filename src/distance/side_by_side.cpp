@@ -19,10 +19,12 @@ namespace dorvan {
 
 namespace {
 
-constexpr int Lanes = 16;
+// Two vectors of the widest processors: enough sums to hide the latency of one addition, and loops that are
+// long enough for the compiler to make vectors of them before it unrolls them.
+constexpr int Lanes = 32;
 
-// Up to this many variables the 16-bit counters of the measures cannot run over, and the counters that are
-// 32-bit floats are exact.
+// Up to this many variables the 16-bit counters of the measures cannot run over, and counters in 32-bit
+// floats, which vectors like best, are exact.
 constexpr std::int32_t MostVariables = std::numeric_limits<std::int16_t>::max();
 
 constexpr float Undecided = std::numeric_limits<float>::quiet_NaN();
@@ -31,18 +33,21 @@ constexpr float Undecided = std::numeric_limits<float>::quiet_NaN();
 // value a lane; Finish writes the distances. Whatever fails in DistanceBetween comes out infinite or not a
 // number: a sum of terms not below 0 that left the range of a float stays infinite, and 0 / 0 is no number.
 
+// A running sum that is rounded to 32 bits after each addition may well stand in 64 bits in between.
 struct SquareTerm {
+    using Sum = double;
     DORVAN_INLINE static double Of(float d) { return double(d) * double(d); }
 };
 
 // In 64 bits as well: the sum of two floats, rounded twice, is the float nearest to the exact one.
 struct AbsoluteTerm {
+    using Sum = float;
     DORVAN_INLINE static float Of(float d) { return std::fabs(d); }
 };
 
 template <class Term> struct MeanLanes {
-    float Sum[Lanes] = {};
-    std::int32_t Count[Lanes] = {};
+    typename Term::Sum Sum[Lanes] = {};
+    float Count[Lanes] = {};
 
     DORVAN_INLINE void Add(float x, const float* y) {
         if (x == NaValue) return;
@@ -50,17 +55,17 @@ template <class Term> struct MeanLanes {
             const bool present = y[lane] != NaValue;
             const auto sum = static_cast<float>(Sum[lane] + Term::Of(x - y[lane]));
             Sum[lane] = present ? sum : Sum[lane];
-            Count[lane] += present ? 1 : 0;
+            Count[lane] += present ? 1.0f : 0.0f;
         }
     }
     DORVAN_INLINE void Finish(float* distance) const {
         for (int lane = 0; lane < Lanes; ++lane)
-            distance[lane] = Sum[lane] / static_cast<float>(std::max(Count[lane], 1));
+            distance[lane] = static_cast<float>(Sum[lane]) / std::max(Count[lane], 1.0f);
     }
 };
 
 template <class Term> struct SumLanes {
-    float Sum[Lanes] = {};
+    typename Term::Sum Sum[Lanes] = {};
 
     DORVAN_INLINE void Add(float x, const float* y) {
         for (int lane = 0; lane < Lanes; ++lane)
@@ -72,7 +77,7 @@ template <class Term> struct SumLanes {
 // A square root in 32 bits is the one in 64 bits rounded to 32.
 struct EuclideanLanes : SumLanes<SquareTerm> {
     DORVAN_INLINE void Finish(float* distance) const {
-        for (int lane = 0; lane < Lanes; ++lane) distance[lane] = std::sqrt(Sum[lane]);
+        for (int lane = 0; lane < Lanes; ++lane) distance[lane] = std::sqrt(static_cast<float>(Sum[lane]));
     }
 };
 
@@ -137,71 +142,76 @@ struct CustomizedLanes {
 };
 
 template <int Value> struct CountLanes {
-    std::int32_t Different[Lanes] = {};
-    std::int32_t Both[Lanes] = {}; // records that both hold Value
+    float Different[Lanes] = {};
+    float Both[Lanes] = {}; // variables in which both records hold Value
 
     DORVAN_INLINE void Add(float x, const float* y) {
-        const std::int32_t has = x == float(Value) ? 1 : 0;
+        const float has = x == float(Value) ? 1.0f : 0.0f;
         for (int lane = 0; lane < Lanes; ++lane) {
-            Different[lane] += x != y[lane] ? 1 : 0;
-            Both[lane] += y[lane] == float(Value) ? has : 0;
+            Different[lane] += x != y[lane] ? 1.0f : 0.0f;
+            Both[lane] += y[lane] == float(Value) ? has : 0.0f;
         }
     }
 };
 
 struct DfDDLanes {
     double M;
-    std::int32_t Different[Lanes] = {};
+    float Different[Lanes] = {};
 
     explicit DfDDLanes(std::int32_t m) : M(m) {}
     DORVAN_INLINE void Add(float x, const float* y) {
-        for (int lane = 0; lane < Lanes; ++lane) Different[lane] += x != y[lane] ? 1 : 0;
+        for (int lane = 0; lane < Lanes; ++lane) Different[lane] += x != y[lane] ? 1.0f : 0.0f;
     }
     DORVAN_INLINE void Finish(float* distance) const {
         for (int lane = 0; lane < Lanes; ++lane)
-            distance[lane] = static_cast<float>(Different[lane] / M * 100.0);
+            distance[lane] = static_cast<float>(double(Different[lane]) / M * 100.0);
     }
 };
 
 struct LanceAndWilliamsLanes : CountLanes<0> {
     DORVAN_INLINE void Finish(float* distance) const {
-        for (int lane = 0; lane < Lanes; ++lane)
-            distance[lane] = static_cast<float>(Different[lane] / double(2 * Both[lane] + Different[lane]));
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const double different = Different[lane];
+            distance[lane] = static_cast<float>(different / (2.0 * double(Both[lane]) + different));
+        }
     }
 };
 
 struct JaccardLanes : CountLanes<1> {
     DORVAN_INLINE void Finish(float* distance) const {
-        for (int lane = 0; lane < Lanes; ++lane)
-            distance[lane] = static_cast<float>(1.0 - Both[lane] / double(Different[lane] + Both[lane]));
+        for (int lane = 0; lane < Lanes; ++lane) {
+            const double both = Both[lane];
+            distance[lane] = static_cast<float>(1.0 - both / (double(Different[lane]) + both));
+        }
     }
 };
 
-// Of the products and the sum in 16 bits, none of them below 0, the sum is the first to run over.
+// Of the products and the sum in 16 bits, none of them below 0, the sum is the first to run over. Up to
+// there a float holds them exactly, and it never rounds a greater one down to there.
 struct YulesQLanes {
-    std::int32_t Zeros[Lanes] = {};
-    std::int32_t Ones[Lanes] = {};
-    std::int32_t OneZero[Lanes] = {};
-    std::int32_t ZeroOne[Lanes] = {};
+    float Zeros[Lanes] = {};
+    float Ones[Lanes] = {};
+    float OneZero[Lanes] = {};
+    float ZeroOne[Lanes] = {};
 
     DORVAN_INLINE void Add(float x, const float* y) {
-        const std::int32_t one = x == 1.0f ? 1 : 0;
-        const std::int32_t zero = x == 0.0f ? 1 : 0;
+        const float one = x == 1.0f ? 1.0f : 0.0f;
+        const float zero = x == 0.0f ? 1.0f : 0.0f;
         for (int lane = 0; lane < Lanes; ++lane) {
-            Zeros[lane] += y[lane] == 0.0f ? zero : 0;
-            OneZero[lane] += y[lane] == 0.0f ? one : 0;
-            Ones[lane] += y[lane] == 1.0f ? one : 0;
-            ZeroOne[lane] += y[lane] == 1.0f ? zero : 0;
+            Zeros[lane] += y[lane] == 0.0f ? zero : 0.0f;
+            OneZero[lane] += y[lane] == 0.0f ? one : 0.0f;
+            Ones[lane] += y[lane] == 1.0f ? one : 0.0f;
+            ZeroOne[lane] += y[lane] == 1.0f ? zero : 0.0f;
         }
     }
     DORVAN_INLINE void Finish(float* distance) const {
         for (int lane = 0; lane < Lanes; ++lane) {
-            const std::int32_t unlike = OneZero[lane] * ZeroOne[lane];
-            const std::int32_t alike = Ones[lane] * Zeros[lane];
-            const std::int32_t both = unlike + alike;
-            const float quotient = static_cast<float>(alike - unlike) / static_cast<float>(std::max(both, 1));
-            const float value = both > 0 ? 1.0f - quotient : 2.0f;
-            distance[lane] = both <= MostVariables ? value : Undecided;
+            const float unlike = OneZero[lane] * ZeroOne[lane];
+            const float alike = Ones[lane] * Zeros[lane];
+            const float both = unlike + alike;
+            const float mirrored = 1.0f - (alike - unlike) / std::max(both, 1.0f);
+            const float value = both > 0 ? mirrored : 2.0f;
+            distance[lane] = both > float(MostVariables) ? Undecided : value;
         }
     }
 };
@@ -217,20 +227,40 @@ std::vector<float> TurnedBlock(const FloatTable& values, std::int32_t first, std
     return block;
 }
 
+// Writes the distances of record i to those records from `first` to `last` that follow it.
+template <class Kernel>
+DORVAN_INLINE void StoreLanes(const Kernel& kernel, FloatTable& distances, std::int32_t i, std::int32_t first,
+                              std::int32_t last) {
+    float distance[Lanes];
+    kernel.Finish(distance);
+    const std::int32_t begin = std::max(first, i + 1);
+    float* cells = distances.Row(i) + (begin - 1);
+    if (last + 1 - begin == Lanes) // a copy of a size known beforehand
+        std::copy_n(distance, Lanes, cells);
+    else
+        std::copy(distance + (begin - first), distance + (last + 1 - first), cells);
+}
+
+// The columns of `Lanes` records from `first` on, two rows at a time: more sums that do not wait for each
+// other.
 template <class Kernel>
 DORVAN_INLINE void FillBlock(FloatTable& distances, const FloatTable& values, std::int32_t m,
                              std::int32_t first, const Kernel& fresh) {
     const std::int32_t n = distances.Rows();
     const std::int32_t last = std::min(first + Lanes - 1, n);
     const std::vector<float> block = TurnedBlock(values, first, n, m);
-    for (std::int32_t i = 1; i < last; ++i) {
+    for (std::int32_t i = 1; i < last; i += 2) {
         const float* x = values.Row(i);
+        const float* nextX = values.Row(i + 1);
         Kernel kernel = fresh;
-        for (std::int32_t k = 0; k < m; ++k) kernel.Add(x[k], block.data() + std::size_t(k) * Lanes);
-        float distance[Lanes];
-        kernel.Finish(distance);
-        const std::int32_t begin = std::max(first, i + 1);
-        std::copy(distance + (begin - first), distance + (last + 1 - first), distances.Row(i) + (begin - 1));
+        Kernel next = fresh;
+        for (std::int32_t k = 0; k < m; ++k) {
+            const float* y = block.data() + std::size_t(k) * Lanes;
+            kernel.Add(x[k], y);
+            next.Add(nextX[k], y);
+        }
+        StoreLanes(kernel, distances, i, first, last);
+        StoreLanes(next, distances, i + 1, first, last);
     }
 }
 

@@ -8,17 +8,17 @@
 namespace dorvan::test {
 
 // Ascending exchanges over halved gaps; all elements but the last.
-void SlowSortAllButLast(Array1<float>& values);
+void PlainSortAllButLast(Array1<float>& values);
 
-Array1<float> SlowAutomaticLimits(const FloatTable& distances);
+Array1<float> PlainAutomaticLimits(const FloatTable& distances);
 
-Order SlowSimpleOrder(const FloatTable& distances);
+Order PlainSimpleOrder(const FloatTable& distances);
 
 // Pair by pair.
-FloatTable SlowDistances(const FloatTable& values, const Measure& measure);
+FloatTable PlainDistances(const FloatTable& values, const Measure& measure);
 
 // The document of a diagram made from a sheet, with the simple order or with none.
-DiagramDocument SlowDiagram(const FloatTable& values, const Names& recordNames, const Names& variableNames,
-                            const Measure& measure, bool ordered);
+DiagramDocument PlainDiagram(const FloatTable& values, const Names& recordNames, const Names& variableNames,
+                             const Measure& measure, bool ordered);
 
 } // namespace dorvan::test

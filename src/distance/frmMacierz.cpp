@@ -1,0 +1,166 @@
+#include "distance/frmMacierz.h"
+
+#include "numbers/number_text.h"
+#include "numbers/rounding.h"
+#include "numbers/runtime_failure.h"
+#include "numbers/text.h"
+#include "session/children.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int LeastHeight = 2500;
+constexpr int HeightInstead = 3200;
+constexpr int LeastWidth = 5000;
+constexpr int RightMargin = 100;
+constexpr int NameWidthFactor = 3;
+
+constexpr const char* MatrixMenus[] = {"mnuExport", "mnuExportText", "mnuExportExcel", "mnuSave",
+                                       "mnuSaveAs", "mnuFilePrint",  "mnuFileClose"};
+constexpr const char* ForeignMenus[] = {"mnuExportBitmap", "mnuExportMeta"};
+
+void SwitchMenus(MainWindow& mainWindow, bool enabled) {
+    for (const auto* item : MatrixMenus) mainWindow.EnableMenu(item, enabled);
+    for (const auto* item : ForeignMenus) mainWindow.EnableMenu(item, false);
+}
+
+void SwitchDocumentButtons(MainWindow& mainWindow, bool enabled) {
+    for (const auto* key : {"Save", "SaveAs", "Print"}) mainWindow.EnableButton("toolMain", key, enabled);
+}
+
+void SwitchMakeButtons(MainWindow& mainWindow, bool makeMatrix, bool makeDiagram) {
+    mainWindow.EnableButton("toolMain", "MakeMatrix", makeMatrix);
+    mainWindow.EnableButton("toolMain", "MakeDiagram", makeDiagram);
+}
+
+// The scan starts from 0, so that a matrix of numbers below 0 gives 0.
+float HighestOf(const FloatTable& distances) {
+    float highest = 0;
+    for (const float distance : distances.Cells())
+        if (distance >= highest) highest = distance;
+    return highest;
+}
+
+// By how much the default width grows for numbers whose highest has a text of so many characters.
+double WidthFactor(std::size_t length) {
+    static constexpr double factors[] = {1.3, 1.5, 1.75, 2, 2.3, 2.5, 2.75};
+    return factors[std::clamp<std::size_t>(length, 4, 10) - 4];
+}
+
+} // namespace
+
+frmMacierz::frmMacierz(Session& session) : ChildWindow("frmMacierz"), session_(session) {}
+
+DistanceMatrix& frmMacierz::Document() { return session_.MatrixDocuments.at(std::size_t(Index)); }
+
+void frmMacierz::Present(const std::string& description) {
+    const DistanceMatrix& document = Document();
+    FloatTable distances(document.Size, document.Size);
+    for (std::int32_t row = 1; row <= document.Size; ++row)
+        for (std::int32_t column = 1; column <= document.Size; ++column)
+            distances(row, column) = ParseSheetNumber(document.Cells(row, column), session_.DecimalSeparator);
+    PresentDistances(distances, description);
+}
+
+void frmMacierz::PresentDistances(const FloatTable& distances, const std::string& description) {
+    if (BottomText.Text != description) {
+        BottomText.Text = description;
+        BottomText_Change();
+    }
+    Siatka.SetSize(Document().Size + 1, Document().Size + 2);
+    Siatka.Clear();
+    LayOutColumns(HighestOf(distances));
+    FillGrid(distances);
+}
+
+// The header of the last column keeps its alignment; the loop over them ends one short.
+void frmMacierz::LayOutColumns(float highest) {
+    const std::size_t length = CharacterCount(PlainText(highest, session_.DecimalSeparator));
+    const int width = RoundToInt32(Grid::DefaultColumnWidth * WidthFactor(length));
+    for (int column = 0; column < Siatka.Columns() - 1; ++column)
+        Siatka.SetHeaderAlignment(column, Alignment::Centre);
+    Siatka.SetColumnWidth(1, Grid::DefaultColumnWidth * NameWidthFactor);
+    for (int column = 2; column < Siatka.Columns(); ++column) {
+        Siatka.SetColumnAlignment(column, Alignment::Right);
+        Siatka.SetColumnWidth(column, width);
+        Siatka.SetText(0, column, fmt::format("{}", column - 1));
+    }
+}
+
+void frmMacierz::FillGrid(const FloatTable& distances) {
+    const DistanceMatrix& document = Document();
+    for (int row = 1; row <= document.Size; ++row) {
+        Siatka.SetText(row, 0, fmt::format("{}", row));
+        Siatka.SetText(row, 1, document.Names(row));
+        for (int column = 1; column <= document.Size; ++column)
+            Siatka.SetText(row, column + 1,
+                           FormatPattern(distances(row, column), "###0.000", session_.DecimalSeparator));
+    }
+}
+
+void frmMacierz::BottomText_Change() { session_.MatrixStates.at(std::size_t(Index)).Dirty = true; }
+
+// The key takes effect all the same.
+void frmMacierz::BottomText_KeyPress(int&) {
+    if (session_.DiagramBusy == 1) session_.platform.signals.beep();
+}
+
+void frmMacierz::Form_Activate() {
+    TypeOfForm = DocumentKind::Matrix;
+    SwitchMakeButtons(session_.mainWindow, false, true);
+    SwitchDocumentButtons(session_.mainWindow, true);
+    session_.mainWindow.ShowToolbar("toolMatrix", true);
+    SwitchMenus(session_.mainWindow, true);
+}
+
+void frmMacierz::Form_Deactivate() {
+    SwitchMakeButtons(session_.mainWindow, true, true);
+    SwitchDocumentButtons(session_.mainWindow, false);
+    session_.mainWindow.ShowToolbar("toolMatrix", false);
+    SwitchMenus(session_.mainWindow, false);
+}
+
+bool frmMacierz::Form_QueryUnload() {
+    if (!session_.MatrixStates.at(std::size_t(Index)).Dirty) return true;
+    const std::string name = ReplaceAll(Caption, "[MATRIX]: ", "");
+    const Answer answer = AskToSave(session_, "matrix", name, MessageIcon::None);
+    if (answer == Answer::Yes) session_.commands.Call("Save");
+    return answer != Answer::Cancel;
+}
+
+void frmMacierz::Form_Unload() {
+    SwitchMakeButtons(session_.mainWindow, false, false);
+    SwitchDocumentButtons(session_.mainWindow, false);
+    session_.mainWindow.ShowToolbar("toolMatrix", false);
+    SwitchMenus(session_.mainWindow, false);
+    session_.MatrixStates.at(std::size_t(Index)).Deleted = true;
+}
+
+// It is the active window that is kept from getting too small, which need not be this one.
+void frmMacierz::Form_Resize() {
+    ChildWindow* active = session_.ActiveWindow;
+    if (Mode == WindowMode::Normal && active &&
+        (active->Height < LeastHeight || active->Width < LeastWidth)) {
+        if (active->Height < LeastHeight) active->Height = HeightInstead;
+        active->Width = std::max(active->Width, LeastWidth);
+        session_.platform.children.update(*active);
+    }
+    if (Mode == WindowMode::Minimized || ScaleHeight <= 0) return;
+    SiatkaBounds = {0, BottomPanelHeight, ScaleWidth, std::max(0, ScaleHeight - BottomPanelHeight)};
+    BottomTextWidth = std::max(0, ScaleWidth - BottomTextLeft - RightMargin);
+}
+
+frmMacierz& MatrixWindow(Session& session, std::int16_t slot) {
+    if (slot < 1 || std::size_t(slot) >= session.MatrixWindows.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a matrix's slot");
+    auto* window = dynamic_cast<frmMacierz*>(session.MatrixWindows[std::size_t(slot)].get());
+    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "no matrix window in that slot");
+    return *window;
+}
+
+} // namespace dorvan

@@ -1,0 +1,39 @@
+#include "distance/frmOpcjeMacierzy.h"
+
+#include "distance/frmCustomized.h"
+#include "distance/measure_lists.h"
+#include "distance/measures.h"
+
+namespace dorvan {
+
+frmOpcjeMacierzy::frmOpcjeMacierzy(Session& session)
+    : Form("frmOpcjeMacierzy", "Matrix"), session_(session) {}
+
+void frmOpcjeMacierzy::Form_Load() {
+    cboData.List = DataKinds();
+    cboData.ListIndex = 0;
+    cboData_Click();
+}
+
+void frmOpcjeMacierzy::cboData_Click() {
+    Combo1.List = MeasuresOfKind(cboData.ListIndex);
+    Combo1.ListIndex = 0;
+}
+
+void frmOpcjeMacierzy::Command1_Click() {
+    session_.DialogOutcome = -99;
+    Hide();
+}
+
+void frmOpcjeMacierzy::Command2_Click() {
+    session_.CurrentDistType = MeasureCode(cboData.ListIndex, Combo1.ListIndex);
+    if (session_.CurrentDistType == DistanceType::Customized) {
+        session_.platform.forms.showModal(session_.forms.Load<frmCustomized>(session_));
+        if (session_.DialogOutcome == -99) return;
+    }
+    session_.DialogOutcome = 1;
+    Hide();
+    if (session_.ActiveWindow) session_.platform.children.update(*session_.ActiveWindow);
+}
+
+} // namespace dorvan

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/form.h"
+#include "session/session.h"
+
+namespace dorvan {
+
+// The dialog "Matrix": chooses the measure of a matrix, `CurrentDistType`.
+class frmOpcjeMacierzy : public Form {
+public:
+    explicit frmOpcjeMacierzy(Session& session);
+
+    Frame Frame1{"Frame1", "Distance type:"};
+    ComboBox cboData{"cboData"}; // the data kind
+    ComboBox Combo1{"Combo1"};   // the measures of that kind
+    CommandButton Command1{"Command1", "Cancel"};
+    CommandButton Command2{"Command2", "OK"};
+
+    void Form_Load() override;
+    void Form_Show() override { Form_Load(); } // always opens on the first kind and measure
+    void cboData_Click();                      // after a change of its selection
+    void Command1_Click();
+    void Command2_Click();
+    void CancelCommand() override { Command1_Click(); }
+
+private:
+    Session& session_;
+};
+
+} // namespace dorvan
