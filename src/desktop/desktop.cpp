@@ -17,9 +17,10 @@ Desktop::Desktop(const std::string& programFolder) {
     Compose(session);
     shell.Form_Load(static_cast<std::uint64_t>(ports.clock.seconds()), programFolder);
     mainWindow = std::make_unique<MainWindowFace>(session, shell, dispatch);
-    ports.children.Attach({session, dispatch,
-                           [this](const std::string& menu, QPoint global) { mainWindow->PopUp(menu, global); }},
-                          mainWindow->Area());
+    ports.children.Attach(
+        {session, dispatch,
+         [this](const std::string& menu, QPoint global) { mainWindow->PopUp(menu, global); }},
+        mainWindow->Area());
 }
 
 void Desktop::Show() {

@@ -27,8 +27,8 @@ public:
     std::unique_ptr<MainWindowFace> mainWindow;
 };
 
-// Where the samples are: the folder in which file dialogs start. Installed beside the program's prefix, or the
-// source's own; the folder of the program where there are none.
+// Where the samples are: the folder in which file dialogs start. Installed beside the program's prefix, or
+// the source's own; the folder of the program where there are none.
 QString SamplesFolder(const QString& programPath);
 
 int RunDesktop(int argumentCount, char** arguments);

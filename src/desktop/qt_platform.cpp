@@ -56,7 +56,8 @@ public:
         if (hidden_) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
     }
     ~PlainCursor() {
-        if (hidden_ && QGuiApplication::overrideCursor()) QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+        if (hidden_ && QGuiApplication::overrideCursor())
+            QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
     }
     PlainCursor(const PlainCursor&) = delete;
     PlainCursor& operator=(const PlainCursor&) = delete;
@@ -257,14 +258,15 @@ struct NamedKey {
 };
 
 constexpr NamedKey NamedKeys[] = {
-    {"{TAB}", Qt::Key_Tab},   {"{HOME}", Qt::Key_Home},     {"{END}", Qt::Key_End},   {"{F2}", Qt::Key_F2},
-    {"{LEFT}", Qt::Key_Left}, {"{RIGHT}", Qt::Key_Right},   {"{UP}", Qt::Key_Up},     {"{DOWN}", Qt::Key_Down},
+    {"{TAB}", Qt::Key_Tab},    {"{HOME}", Qt::Key_Home},    {"{END}", Qt::Key_End}, {"{F2}", Qt::Key_F2},
+    {"{LEFT}", Qt::Key_Left},  {"{RIGHT}", Qt::Key_Right},  {"{UP}", Qt::Key_Up},   {"{DOWN}", Qt::Key_Down},
     {"{ESC}", Qt::Key_Escape}, {"{ENTER}", Qt::Key_Return},
 };
 
 void SendKey(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
     QWidget* target = QApplication::focusWidget();
-    if (QWidget* modal = QApplication::activeModalWidget(); modal && (!target || !modal->isAncestorOf(target)))
+    if (QWidget* modal = QApplication::activeModalWidget();
+        modal && (!target || !modal->isAncestorOf(target)))
         target = modal->focusWidget() ? modal->focusWidget() : modal;
     if (!target) return;
     const QPointer<QWidget> alive = target;
@@ -289,9 +291,13 @@ void QtKeyboard::send(const std::string& keys) {
     for (const QChar character : dorvan::ToQt(keys)) SendKey(0, Qt::NoModifier, character);
 }
 
-int QtScreen::width() { return QGuiApplication::primaryScreen()->availableGeometry().width() * TwipsPerPixel; }
+int QtScreen::width() {
+    return QGuiApplication::primaryScreen()->availableGeometry().width() * TwipsPerPixel;
+}
 
-int QtScreen::height() { return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel; }
+int QtScreen::height() {
+    return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
 
 double QtClock::seconds() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
 
