@@ -408,6 +408,16 @@ TEST(MenuEnabled, WithNoWindowOpenWhatNeedsADocumentIsOffAndTheRestIsOn) {
         EXPECT_TRUE(test.main.MenuEnabled(item)) << item;
 }
 
+TEST(MenuEnabled, PrintIsOffForADataSheetEvenWhereADiagramLeftItOn) {
+    MainWindowTest test;
+    test.Open(DocumentKind::Data);
+    test.session.mainWindow.EnableMenu("mnuFilePrint", true);
+    EXPECT_FALSE(test.main.MenuEnabled("mnuFilePrint"));
+    test.Open(DocumentKind::Diagram);
+    test.session.mainWindow.EnableMenu("mnuFilePrint", true);
+    EXPECT_TRUE(test.main.MenuEnabled("mnuFilePrint"));
+}
+
 TEST(MenuShown, HidesWhatIsNeverSeenAndUnfilledRecentFiles) {
     MainWindowTest test;
     EXPECT_FALSE(test.main.MenuShown("mnuEditCell"));
