@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/end_of_run.h"
 #include "desktop/event_dispatch.h"
 #include "desktop/main_window_face.h"
 #include "desktop/qt_platform.h"

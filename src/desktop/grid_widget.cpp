@@ -144,8 +144,10 @@ void GridWidget::Mirror() {
     Measure();
     const QPoint current(grid_->Column(), grid_->Row());
     if (current != shownCurrent_) {
+        // A document opens at its upper left corner, wherever its filling left the current cell.
+        const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        ShowCurrent();
+        if (!opening) ShowCurrent();
         TellCurrent();
     }
     viewport()->update();
