@@ -51,16 +51,19 @@ private:
 
 } // namespace
 
-QIcon ThemedIcon(const QString& name) {
+namespace {
+
+QIcon DrawnIcon(const QString& path) {
     RegisterDrawings();
-    QFile file(":/icons/" + name + ".svg");
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QIcon(new ThemedIconEngine(file.readAll()));
 }
 
-QIcon ProgramIcon() {
-    RegisterDrawings();
-    return QIcon(":/dorvan.svg");
-}
+} // namespace
+
+QIcon ThemedIcon(const QString& name) { return DrawnIcon(":/icons/" + name + ".svg"); }
+
+QIcon ProgramIcon() { return DrawnIcon(":/dorvan.svg"); } // it has colours of its own
 
 } // namespace dorvan
