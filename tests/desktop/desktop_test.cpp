@@ -29,17 +29,21 @@ DesktopTest::DesktopTest() : desktop(MakeSettingsFolder(folder_)) {
     desktop.mainWindow->show();
     QApplication::setActiveWindow(desktop.mainWindow.get());
     QCoreApplication::processEvents();
-    QObject::connect(&dialogs_, &QTimer::timeout, [this] { RunScripts(); });
-    dialogs_.start(LookForDialogs);
+    LookAgain();
 }
 
 DesktopTest::~DesktopTest() {
-    dialogs_.stop();
     EXPECT_TRUE(scripts_.empty()) << scripts_.size() << " dialogs did not come";
     EXPECT_EQ(ended, "");
 }
 
+// A script may open a further dialog, so the next look is due before it returns.
+void DesktopTest::LookAgain() {
+    QTimer::singleShot(LookForDialogs, &dialogs_, [this] { RunScripts(); });
+}
+
 void DesktopTest::RunScripts() {
+    LookAgain();
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog || !dialog->isVisible()) {
         answered_ = nullptr;
@@ -64,6 +68,7 @@ void DesktopTest::RunScripts() {
     unanswered_ = 0;
     const Script script = scripts_.front();
     scripts_.pop_front();
+    QApplication::setActiveWindow(dialog);
     script(*dialog);
     if (QApplication::activeModalWidget() != dialog) answered_ = nullptr;
 }
@@ -110,7 +115,8 @@ void DesktopTest::Click(const QString& name) {
 }
 
 ChildFace& DesktopTest::Face() {
-    auto* face = desktop.session.ActiveWindow ? desktop.ports.children.FaceOf(*desktop.session.ActiveWindow) : nullptr;
+    auto* face =
+        desktop.session.ActiveWindow ? desktop.ports.children.FaceOf(*desktop.session.ActiveWindow) : nullptr;
     if (!face) throw std::runtime_error("no child window");
     return *face;
 }

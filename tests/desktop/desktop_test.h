@@ -5,10 +5,10 @@
 #include "view/frmDiagram.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QDialog>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -40,9 +40,9 @@ protected:
     // Chooses a path in the next file dialog.
     void ChooseFile(const QString& path);
 
-    QAction& Item(const QString& name);          // of a menu
+    QAction& Item(const QString& name);            // of a menu
     QAction& Button(const QString& toolbarAndKey); // "toolMain.Save"
-    void Click(const QString& name);             // a menu item or a button
+    void Click(const QString& name);               // a menu item or a button
 
     template <class Widget = QWidget> Widget& Find(QWidget& root, const QString& name) {
         auto* widget = root.findChild<Widget*>(name);
@@ -72,11 +72,12 @@ protected:
     Desktop desktop;
 
 private:
+    void LookAgain();
     void RunScripts();
 
     std::deque<Script> scripts_;
     QDialog* answered_ = nullptr;
-    QTimer dialogs_;
+    QObject dialogs_; // ends the looking for them
     int unanswered_ = 0;
 };
 
