@@ -34,7 +34,7 @@ private:
     std::string_view Take(std::size_t size);
 
     std::string_view bytes_;
-    const CodePage& codes_;
+    CodePage codes_;
     std::int64_t position_ = 1;
 };
 

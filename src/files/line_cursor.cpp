@@ -84,10 +84,14 @@ void SectionReader::ExpectNothing(std::string_view section) {
     if (NextTrimmed() != NaText) throw FileFault::UnexpectedSymbol(section);
 }
 
-void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters, Names& labels) {
-    labels = Names();
+void SectionReader::ExpectPositive(const HeaderCount& count) {
     if (count.Value < 1)
         throw FileFault::AtLine(count.Line, fmt::format("the count {} is below 1", count.Value));
+}
+
+void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters, Names& labels) {
+    labels = Names();
+    ExpectPositive(count);
     labels.Cells().reserve(std::min<std::size_t>(std::size_t(count.Value), lines_.Remaining()));
     for (std::int32_t i = 1; i <= count.Value; ++i) {
         const std::string_view label = NextTrimmed(); // a byte is a character of the code page

@@ -53,6 +53,9 @@ public:
     // The lone line "N/A" of a section without content.
     void ExpectNothing(std::string_view section);
 
+    // Fails for a count below 1, by which nothing can be sized.
+    static void ExpectPositive(const HeaderCount& count);
+
     // `count` lines, cut to `mostCharacters`. Fails for a count below 1. On failure `labels` holds those read
     // so far.
     void Labels(const HeaderCount& count, std::size_t mostCharacters, Names& labels);
@@ -87,7 +90,7 @@ private:
     [[noreturn]] void FailTooFewFields(std::int32_t found, std::int32_t wanted) const;
 
     LineCursor lines_;
-    const FileText& text_;
+    FileText text_;
 };
 
 } // namespace dorvan

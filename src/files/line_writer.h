@@ -33,7 +33,7 @@ public:
 private:
     void Append(std::string_view text);
 
-    const FileText& text_;
+    FileText text_;
     std::string bytes_;
     bool inRow_ = false;
 };

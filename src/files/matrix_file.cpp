@@ -1,7 +1,6 @@
 #include "files/matrix_file.h"
 
 #include "files/binary_cursor.h"
-#include "files/file_fault.h"
 #include "files/label_sizes.h"
 #include "files/line_writer.h"
 #include "numbers/number_text.h"
@@ -22,7 +21,7 @@ MatrixFileReader::MatrixFileReader(std::string_view bytes, const FileText& text)
 
 void MatrixFileReader::ReadInto(DistanceMatrix& document) {
     document = DistanceMatrix();
-    if (size_.Value < 1) throw FileFault::AtLine(size_.Line, "a matrix needs at least 1 record");
+    SectionReader::ExpectPositive(size_);
     document.Size = size_.Value;
     reader_.ExpectSection("RECORD_LABEL");
     reader_.Labels(size_, RecordLabelSize, document.Names);

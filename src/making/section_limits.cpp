@@ -3,17 +3,34 @@
 #include "numbers/rounding.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
+#include <numeric>
 
 namespace dorvan {
 
 namespace {
 
-// Floats as integers of the same order; -0 comes before 0, so equal keys are equal bits.
-std::int32_t OrderKey(float value) {
-    const auto bits = std::bit_cast<std::int32_t>(value);
-    return bits < 0 ? bits ^ 0x7FFFFFFF : bits;
+constexpr std::uint32_t SignBit = 0x80000000;
+constexpr int DigitBits = 11;
+constexpr std::uint32_t DigitValues = 1u << DigitBits;
+
+// Floats as unsigned integers of the same order, and back. -0 comes before 0.
+std::uint32_t KeyOf(float value) {
+    const auto bits = std::bit_cast<std::uint32_t>(value);
+    return bits & SignBit ? ~bits : bits | SignBit;
+}
+
+float ValueOf(std::uint32_t key) { return std::bit_cast<float>(key & SignBit ? key & ~SignBit : ~key); }
+
+// Puts the keys in the order of DigitBits of their bits from `shift` up; equal ones keep their order.
+void SortByDigit(const std::vector<std::uint32_t>& keys, int shift, std::vector<std::uint32_t>& sorted) {
+    const auto digit = [shift](std::uint32_t key) { return key >> shift & (DigitValues - 1); };
+    std::array<std::uint32_t, DigitValues> places{};
+    for (const std::uint32_t key : keys) ++places[digit(key)];
+    std::exclusive_scan(places.begin(), places.end(), places.begin(), 0u);
+    for (const std::uint32_t key : keys) sorted[places[digit(key)]++] = key;
 }
 
 // The n(n-1)/2 distances of record i to the records j below it, by i and then by j.
@@ -30,9 +47,18 @@ std::vector<float> BelowTheDiagonal(const FloatTable& distances) {
 
 } // namespace
 
-// Any ascending sort gives what the halved gaps give: equal distances cannot be told apart.
+// Any ascending sort gives what the halved gaps give, since equal distances cannot be told apart. This one
+// takes a digit of the bits at a time, the lowest first.
 void SortAllButLast(std::vector<float>& values) {
-    if (values.size() > 2) std::ranges::sort(values.begin(), values.end() - 1, {}, OrderKey);
+    if (values.size() < 3) return;
+    std::vector<std::uint32_t> keys(values.size() - 1);
+    std::vector<std::uint32_t> sorted(keys.size());
+    std::transform(values.begin(), values.end() - 1, keys.begin(), KeyOf);
+    for (int shift = 0; shift < 32; shift += DigitBits) {
+        SortByDigit(keys, shift, sorted);
+        keys.swap(sorted);
+    }
+    std::ranges::transform(keys, values.begin(), ValueOf);
 }
 
 Array1<float> ComputeAutomaticLimits(const FloatTable& distances) {

@@ -32,9 +32,9 @@ protected:
 
     DiagramOptions() { session.DiagramRecordCount = 10; }
 
-    // Loaded and on the screen, with typed limits.
+    // Loaded (the first time) and on the screen, with typed limits.
     void Open(const Texts& limits = {"15", "30", "45", "60"}) {
-        dialog.Form_Load();
+        if (dialog.cboData.List.empty()) dialog.Form_Load();
         dialog.Visible = true;
         dialog.Form_Show();
         dialog.chkAuto.Value = false;
@@ -95,7 +95,7 @@ protected:
         for (const auto* option : options) values.push_back(option->Value);
         return values;
     }
-    bool LimitsEnabled() const {
+    static bool LimitsEnabled(const frmPrzedzal& dialog) {
         const std::array<const Control*, 11> controls{
             &dialog.Text1,  &dialog.Text2,  &dialog.Text3,  &dialog.Text4,  &dialog.Label1, &dialog.Label2,
             &dialog.Label3, &dialog.Label4, &dialog.Label5, &dialog.Label6, &dialog.Label7};
@@ -176,7 +176,7 @@ TEST_F(DiagramOptions, LoadFillsEmptyLimitFieldsWithTheDefaults) {
             texts[place] = blank;
             Type(texts);
             dialog.Form_Load();
-            EXPECT_EQ(Typed(), defaults);
+            EXPECT_EQ(Typed(), defaults) << "[" << blank << "] in field " << place + 1;
         }
 }
 
@@ -202,10 +202,12 @@ TEST_F(DiagramOptions, LoadFillsTheListsWithTheirFirstEntriesSelected) {
 TEST_F(DiagramOptions, LoadTicksAutomaticFromSixRecordsOn) {
     for (const auto& [records, automatic] : {std::pair{2, false}, {5, false}, {6, true}, {250, true}}) {
         session.DiagramRecordCount = records;
-        dialog.Form_Load();
-        EXPECT_EQ(dialog.chkAuto.Value, automatic) << records;
-        EXPECT_EQ(dialog.chkAuto.Enabled, automatic) << records;
-        EXPECT_EQ(LimitsEnabled(), !automatic) << records;
+        frmPrzedzal fresh(session);
+        fresh.Form_Load();
+        EXPECT_EQ(fresh.chkAuto.Value, automatic) << records;
+        EXPECT_EQ(fresh.chkAuto.Enabled, automatic) << records;
+        EXPECT_EQ(LimitsEnabled(fresh), !automatic) << records;
+        EXPECT_EQ(fresh.ActiveControl, nullptr) << records;
     }
 }
 
@@ -288,12 +290,12 @@ TEST_F(DiagramOptions, AutomaticTurnsTheLimitsOffAndBackOnWithTheFocus) {
     dialog.Form_Load();
     dialog.chkAuto.Value = false;
     dialog.chkAuto_Click();
-    EXPECT_TRUE(LimitsEnabled());
+    EXPECT_TRUE(LimitsEnabled(dialog));
     EXPECT_EQ(dialog.ActiveControl, &dialog.Text1);
     dialog.SetFocus(dialog.Command3);
     dialog.chkAuto.Value = true;
     dialog.chkAuto_Click();
-    EXPECT_FALSE(LimitsEnabled());
+    EXPECT_FALSE(LimitsEnabled(dialog));
     EXPECT_EQ(dialog.ActiveControl, &dialog.Command3);
 }
 

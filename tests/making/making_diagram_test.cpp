@@ -2,7 +2,7 @@
 
 #include "distance/frmMacierz.h"
 #include "making/frmPrzedzal.h"
-#include "making/slow_making.h"
+#include "making/plain_making.h"
 #include "numbers/number_text.h"
 #include "session/children.h"
 #include "session/registry.h"
@@ -379,7 +379,7 @@ TEST_F(MakingDiagram, LimitsComeFromTheDistancesBeforeTheOrdering) {
     OrderedOptions();
     MakeDiagram(session);
     // In the sheet's order the last distance, which no limit sorts, is that of d and e.
-    EXPECT_EQ(Document().SectionLimits, test::SlowAutomaticLimits([] {
+    EXPECT_EQ(Document().SectionLimits, test::PlainAutomaticLimits([] {
                   FloatTable sheetOrder(5, 5);
                   sheetOrder.Cells() = {0,  10, 1,  11, 2,  10, 0, 9, 1, 8, 1, 9, 0,
                                         10, 1,  11, 1,  10, 0,  9, 2, 8, 1, 9, 0};
@@ -676,8 +676,8 @@ TEST_F(MakingDiagram, AgreesWithThePlainMakingForTheMeasuresOfNumbers) {
                     for (std::int32_t v = 1; v <= 7; ++v)
                         values(i, v) = StrictFloat(rows[std::size_t(i - 1)][std::size_t(v)], '.');
                 }
-                const auto plain = test::SlowDiagram(values, names, session.VariableNames,
-                                                     {.Type = static_cast<std::int16_t>(type)}, ordered);
+                const auto plain = test::PlainDiagram(values, names, session.VariableNames,
+                                                      {.Type = static_cast<std::int16_t>(type)}, ordered);
                 const auto& document = Document(slot);
                 ASSERT_EQ(document.Matrix, plain.Matrix) << n << " records, measure " << type;
                 ASSERT_EQ(document.Data, plain.Data);

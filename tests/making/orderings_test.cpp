@@ -1,6 +1,6 @@
 #include "making/orderings.h"
 
-#include "making/slow_making.h"
+#include "making/plain_making.h"
 #include "numbers/random_source.h"
 #include "support/expect_failure.h"
 
@@ -87,7 +87,7 @@ TEST(SimpleOrder, AgreesWithThePlainWalkOnRandomAndTiedDistances) {
                     distances(i, j) = distances(j, i) =
                         static_cast<float>(RandomInRange(source, 0, kinds - 1)) * 0.1f;
             const Places order = OrderOf(distances);
-            ASSERT_EQ(order, test::SlowSimpleOrder(distances).Cells()) << n << " records, " << kinds;
+            ASSERT_EQ(order, test::PlainSimpleOrder(distances).Cells()) << n << " records, " << kinds;
             Places all = order;
             std::ranges::sort(all);
             for (std::int32_t p = 1; p <= n; ++p) ASSERT_EQ(all[std::size_t(p - 1)], p);

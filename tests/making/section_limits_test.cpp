@@ -1,6 +1,6 @@
 #include "making/section_limits.h"
 
-#include "making/slow_making.h"
+#include "making/plain_making.h"
 #include "numbers/random_source.h"
 #include "support/expect_failure.h"
 
@@ -30,10 +30,10 @@ Floats Sorted(Floats values) {
     return values;
 }
 
-Floats SlowlySorted(const Floats& values) {
+Floats PlainlySorted(const Floats& values) {
     Array1<float> array;
     array.Cells() = values;
-    test::SlowSortAllButLast(array);
+    test::PlainSortAllButLast(array);
     return array.Cells();
 }
 
@@ -67,16 +67,16 @@ TEST(SortAllButLast, AgreesWithThePlainSortForAllLengthsTiedAndNot) {
     for (std::size_t count = 0; count <= 120; ++count)
         for (const std::int32_t kinds : {1, 2, 5, 1000000}) {
             const Floats values = Draws(source, count, kinds);
-            ASSERT_EQ(Bits(Sorted(values)), Bits(SlowlySorted(values))) << count << " of " << kinds;
+            ASSERT_EQ(Bits(Sorted(values)), Bits(PlainlySorted(values))) << count << " of " << kinds;
         }
 }
 
 TEST(SortAllButLast, AgreesWithThePlainSortOnRisingAndFallingValues) {
     Floats values;
     for (int i = 0; i < 100; ++i) values.push_back(static_cast<float>(i));
-    EXPECT_EQ(Sorted(values), SlowlySorted(values));
+    EXPECT_EQ(Sorted(values), PlainlySorted(values));
     std::ranges::reverse(values);
-    EXPECT_EQ(Sorted(values), SlowlySorted(values));
+    EXPECT_EQ(Sorted(values), PlainlySorted(values));
 }
 
 TEST(ComputeAutomaticLimits, ThreeRecordsTakeThePlaces1122) {
@@ -125,7 +125,7 @@ TEST(ComputeAutomaticLimits, AgreesWithThePlainOneOnRandomAndTiedDistances) {
         for (const std::int32_t kinds : {1, 3, 40, 1000000}) {
             const auto distances = Below(n, Draws(source, std::size_t(n) * std::size_t(n - 1) / 2, kinds));
             ASSERT_EQ(Bits(ComputeAutomaticLimits(distances).Cells()),
-                      Bits(test::SlowAutomaticLimits(distances).Cells()))
+                      Bits(test::PlainAutomaticLimits(distances).Cells()))
                 << n << " records, " << kinds << " values";
         }
 }

@@ -1,11 +1,13 @@
-#include "making/slow_making.h"
+#include "making/plain_making.h"
+
+#include "distance/plain_measures.h"
 
 #include <cmath>
 #include <utility>
 
 namespace dorvan::test {
 
-void SlowSortAllButLast(Array1<float>& a) {
+void PlainSortAllButLast(Array1<float>& a) {
     const std::int32_t m = a.Count() - 1;
     for (std::int32_t gap = m / 2; gap >= 1; gap /= 2) {
         std::int32_t last = m - gap;
@@ -22,14 +24,14 @@ void SlowSortAllButLast(Array1<float>& a) {
     }
 }
 
-Array1<float> SlowAutomaticLimits(const FloatTable& distances) {
+Array1<float> PlainAutomaticLimits(const FloatTable& distances) {
     const std::int32_t n = distances.Rows();
     const std::int32_t u = n * (n - 1) / 2;
     Array1<float> s(u);
     for (std::int32_t i = 1; i <= n; ++i)
         for (std::int32_t j = 1; j <= n; ++j)
             if (i > j) s((i - 2) * (i - 1) / 2 + j) = distances(i, j);
-    SlowSortAllButLast(s);
+    PlainSortAllButLast(s);
     Array1<float> limits(4);
     const double factors[] = {0.2, 0.4, 0.6, 0.8};
     for (std::int32_t k = 1; k <= 4; ++k)
@@ -37,7 +39,7 @@ Array1<float> SlowAutomaticLimits(const FloatTable& distances) {
     return limits;
 }
 
-Order SlowSimpleOrder(const FloatTable& distances) {
+Order PlainSimpleOrder(const FloatTable& distances) {
     const std::int32_t n = distances.Rows();
     float maxDistance = 0;
     for (std::int32_t i = 1; i <= n; ++i)
@@ -63,19 +65,9 @@ Order SlowSimpleOrder(const FloatTable& distances) {
     return order;
 }
 
-FloatTable SlowDistances(const FloatTable& values, const Measure& measure) {
-    const std::int32_t n = values.Rows();
-    const std::int32_t m = values.Columns();
-    FloatTable distances(n, n);
-    for (std::int32_t i = 1; i <= n; ++i)
-        for (std::int32_t j = i + 1; j <= n; ++j)
-            distances(i, j) = distances(j, i) = DistanceBetween(values.Row(i), values.Row(j), m, measure);
-    return distances;
-}
-
 namespace {
 
-std::int16_t SlowClass(float v, const Array1<float>& limits) {
+std::int16_t PlainClass(float v, const Array1<float>& limits) {
     if (v >= 0 && v < limits(1)) return 5;
     if (v >= limits(1) && v < limits(2)) return 4;
     if (v >= limits(2) && v < limits(3)) return 3;
@@ -83,7 +75,7 @@ std::int16_t SlowClass(float v, const Array1<float>& limits) {
     return v >= limits(4) ? 1 : 6;
 }
 
-void SlowRewrite(DiagramDocument& document, const Order& order) {
+void PlainRewrite(DiagramDocument& document, const Order& order) {
     const FloatTable savedValues = document.Data;
     const Names savedNames = document.RecordNames;
     for (std::int32_t p = 1; p <= document.RecCount; ++p) {
@@ -94,8 +86,8 @@ void SlowRewrite(DiagramDocument& document, const Order& order) {
 
 } // namespace
 
-DiagramDocument SlowDiagram(const FloatTable& values, const Names& recordNames, const Names& variableNames,
-                            const Measure& measure, bool ordered) {
+DiagramDocument PlainDiagram(const FloatTable& values, const Names& recordNames, const Names& variableNames,
+                             const Measure& measure, bool ordered) {
     DiagramDocument document;
     document.RecCount = static_cast<std::int16_t>(values.Rows());
     document.VarCount = static_cast<std::int16_t>(values.Columns());
@@ -103,16 +95,16 @@ DiagramDocument SlowDiagram(const FloatTable& values, const Names& recordNames, 
     document.Data = values;
     document.RecordNames = recordNames;
     document.VariableNames = variableNames;
-    document.Matrix = SlowDistances(values, measure);
-    document.SectionLimits = SlowAutomaticLimits(document.Matrix);
+    document.Matrix = plainDistances(values, values.Rows(), values.Columns(), measure);
+    document.SectionLimits = PlainAutomaticLimits(document.Matrix);
     if (ordered) {
-        SlowRewrite(document, SlowSimpleOrder(document.Matrix));
-        document.Matrix = SlowDistances(document.Data, measure);
+        PlainRewrite(document, PlainSimpleOrder(document.Matrix));
+        document.Matrix = plainDistances(document.Data, values.Rows(), values.Columns(), measure);
     }
     document.Classes = Array2<std::int16_t>(document.RecCount, document.RecCount);
     for (std::int32_t i = 1; i <= document.RecCount; ++i)
         for (std::int32_t j = 1; j <= document.RecCount; ++j)
-            document.Classes(i, j) = SlowClass(document.Matrix(i, j), document.SectionLimits);
+            document.Classes(i, j) = PlainClass(document.Matrix(i, j), document.SectionLimits);
     return document;
 }
 

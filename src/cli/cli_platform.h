@@ -1,0 +1,69 @@
+#pragma once
+
+#include "cli/requests.h"
+#include "platform/platform.h"
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace dorvan::cli {
+
+// What ends a command of the command line with status 1: the program's own message, or what it could not do.
+class Refusal : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The ports of a run without a screen. Messages are kept; a dialog is filled from the user's choices and its
+// OK is pressed; a dialog that stays open after that is a refusal with its last message.
+class CliPlatform : public MessageBoxes,
+                    public FileChoice,
+                    public FormDisplay,
+                    public ChildDisplay,
+                    public Signals,
+                    public PendingEvents,
+                    public Keyboard,
+                    public Screen,
+                    public Clock,
+                    public SettingsStore,
+                    public HelpViewer {
+public:
+    Choices choices;
+    std::vector<std::string> messages; // in one line each
+    // Shows how far a search is (0 to 1), at most 20 times a second.
+    std::function<void(const std::string& line)> progress = [](const std::string&) {};
+
+    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+
+    Answer show(const Message& message) override;
+    std::string toOpen(const FileRequest&) override { return {}; }
+    std::string toSave(const FileRequest&) override { return {}; }
+    void showModal(Form& form) override;
+    void show(Form& form) override;
+    void update(Form& form) override;
+    void close(Form& form) override;
+    void show(ChildWindow&) override {}
+    void update(ChildWindow&) override {}
+    void close(ChildWindow&) override {}
+    void arrange(int) override {}
+    void beep() override {}
+    void setCursor(Cursor) override {}
+    int run() override;
+    void send(const std::string&) override {}
+    int width() override { return 1366 * 15; }
+    int height() override { return 768 * 15; }
+    double seconds() override;
+    std::string read(const std::string&, const std::string&, const std::string& missing) override {
+        return missing;
+    }
+    void write(const std::string&, const std::string&, const std::string&) override {}
+    std::vector<std::pair<std::string, std::string>> readSection(const std::string&) override { return {}; }
+    void show(const std::string&, int) override {}
+
+private:
+    Form* running_ = nullptr; // the progress window that is up
+};
+
+} // namespace dorvan::cli

@@ -1,0 +1,147 @@
+#include "cli/commands.h"
+
+#include "cli/cli_platform.h"
+#include "cli/information.h"
+#include "cli/picture.h"
+#include "distance/frmMacierz.h"
+#include "files/data_documents.h"
+#include "files/diagram_documents.h"
+#include "files/disk.h"
+#include "files/matrix_documents.h"
+#include "numbers/text.h"
+#include "program/program.h"
+#include "session/frmMDI.h"
+#include "sheet/frmNotePad.h"
+#include "view/frmDiagram.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+
+namespace dorvan::cli {
+
+namespace {
+
+// One run of the program without a screen.
+struct Run {
+    CliPlatform ports;
+    Session session{ports.platform};
+    frmMDI mainWindow{session};
+
+    Run(const Choices& choices, const Surroundings& surroundings) {
+        ports.choices = choices;
+        Compose(session);
+        const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
+        mainWindow.Form_Load(surroundings.seed.value_or(clock), ".");
+        session.codePage = CodePage(surroundings.codePage.value_or(SystemCodePage()));
+    }
+
+    std::string_view kind() const {
+        return session.ActiveWindow ? std::string_view(session.ActiveWindow->TypeOfForm) : DocumentKind::Main;
+    }
+
+    // What the program said last, or that it said nothing.
+    Refusal refusal(const std::string& what) const {
+        return Refusal(ports.messages.empty() ? what : ports.messages.back());
+    }
+};
+
+std::string_view KindOf(const std::string& path) {
+    const std::string extension = LowerCase(RightCharacters(path, 4));
+    if (extension == ".mdt") return DocumentKind::Data;
+    if (extension == ".mtx") return DocumentKind::Matrix;
+    if (extension == ".dgr") return DocumentKind::Diagram;
+    return {};
+}
+
+// Opens a document by its name's ending; `wanted` says which kinds will do.
+void Open(Run& run, const std::string& path, std::initializer_list<std::string_view> wanted) {
+    const std::string_view kind = KindOf(path);
+    if (kind.empty()) throw Refusal("Error! This file is not acceptable for Dorvan.");
+    if (std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
+        throw Refusal(fmt::format("a file of the kind {} is of no use here", kind));
+    if (kind == DocumentKind::Data) ReadDataFile(run.session, path);
+    if (kind == DocumentKind::Matrix) ReadMatrixFile(run.session, path);
+    if (kind == DocumentKind::Diagram) ReadDiagramFile(run.session, path);
+    if (run.kind() != kind) throw run.refusal("the file could not be read");
+}
+
+// Saves the active document under the path.
+void Save(Run& run, const std::string& path) {
+    const auto kind = run.kind();
+    const std::int16_t slot = run.session.ActiveWindow->Index;
+    bool written = true;
+    if (kind == DocumentKind::Data) written = WriteDataFile(run.session, path);
+    if (kind == DocumentKind::Matrix) MatrixWindow(run.session, slot).SaveMatrixNew(path);
+    if (kind == DocumentKind::Diagram) written = DiagramWindow(run.session, slot).SaveDiagramNew(path);
+    if (!written) throw Refusal("the file could not be written: " + path);
+}
+
+// Does the work and tells a failure in one line that names the file.
+template <class Work> int Reported(const std::string& file, const Work& work) {
+    std::string reason;
+    try {
+        work();
+        return 0;
+    } catch (const std::exception& failure) {
+        reason = failure.what();
+    }
+    if (reason.find(file) == std::string::npos) reason = file + ": " + reason;
+    fmt::print(stderr, "dorvan-cli: {}\n", reason);
+    return 1;
+}
+
+} // namespace
+
+int RunMatrix(const std::string& sheet, const std::string& out, const Choices& choices,
+              const Surroundings& surroundings) {
+    return Reported(sheet, [&] {
+        Run run(choices, surroundings);
+        Open(run, sheet, {DocumentKind::Data});
+        run.mainWindow.ButtonClick("toolMain", "MakeMatrix");
+        if (run.kind() != DocumentKind::Matrix) throw run.refusal("no matrix was made");
+        Save(run, out);
+    });
+}
+
+int RunDiagram(const std::string& input, const std::string& out, const Choices& choices,
+               const Surroundings& surroundings) {
+    return Reported(input, [&] {
+        Run run(choices, surroundings);
+        Open(run, input, {DocumentKind::Data, DocumentKind::Matrix});
+        run.mainWindow.ButtonClick("toolMain", "MakeDiagram");
+        if (run.kind() != DocumentKind::Diagram) throw run.refusal("no diagram was made");
+        Save(run, out);
+    });
+}
+
+int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings) {
+    if (KindOf(in) != KindOf(out)) {
+        fmt::print(stderr, "dorvan-cli: {} and {} are not of the same kind\n", in, out);
+        return 2;
+    }
+    return Reported(in, [&] {
+        Run run({}, surroundings);
+        Open(run, in, {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram});
+        Save(run, out);
+    });
+}
+
+int RunInfo(const std::string& file, const Surroundings& surroundings) {
+    return Reported(file, [&] {
+        Run run({}, surroundings);
+        Open(run, file, {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram});
+        fmt::print("{}", InformationAbout(run.session));
+    });
+}
+
+int RunPicture(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+    return Reported(diagram, [&] {
+        Run run({}, surroundings);
+        Open(run, diagram, {DocumentKind::Diagram});
+        auto& window = DiagramWindow(run.session, run.session.ActiveWindow->Index);
+        ReplaceFile(out, DiagramSvg(window.Document(), window.BottomText.Text, run.session.DecimalSeparator));
+    });
+}
+
+} // namespace dorvan::cli

@@ -1,0 +1,35 @@
+#include "desktop/form_faces.h"
+#include "desktop/icons.h"
+#include "session/frmAbout.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int PictureSide = 72; // pixels
+
+} // namespace
+
+void LayOutAbout(FormFace& face) {
+    auto& form = dynamic_cast<frmAbout&>(face.Shown());
+    auto* picture = new QLabel(&face);
+    picture->setPixmap(ProgramIcon().pixmap(PictureSide, PictureSide));
+    picture->setAlignment(Qt::AlignHCenter);
+    face.Column().addWidget(picture);
+    for (const Label* label : {&form.lblTitle, &form.lblVersion, &form.lblLicence, &form.lblDisclaimer,
+                               &form.lblFreeImage, &form.lblSpreadsheet}) {
+        QLabel* shown = face.AddLabel(*label);
+        if (label != &form.lblDisclaimer) shown->setAlignment(Qt::AlignHCenter);
+        if (label == &form.lblTitle) {
+            QFont font = shown->font();
+            font.setBold(true);
+            shown->setFont(font);
+        }
+    }
+    face.AddButtons({{&form.cmdOK, [&form] { form.cmdOK_Click(); }}});
+}
+
+} // namespace dorvan

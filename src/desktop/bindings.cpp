@@ -1,0 +1,319 @@
+#include "desktop/bindings.h"
+
+#include "desktop/qt_text.h"
+#include "platform/keys.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTextCursor>
+
+namespace dorvan {
+
+namespace {
+
+template <class Box> void MirrorItems(Box* box, const ListBox& control) {
+    bool same = box->count() == static_cast<int>(control.List.size());
+    for (int item = 0; same && item < box->count(); ++item) {
+        const QString text = ToQt(control.List[std::size_t(item)]);
+        if constexpr (std::is_same_v<Box, QComboBox>)
+            same = box->itemText(item) == text;
+        else
+            same = box->item(item)->text() == text;
+    }
+    if (same) return;
+    box->clear();
+    for (const auto& line : control.List) box->addItem(ToQt(line));
+}
+
+Qt::Alignment ToQt(Alignment alignment) {
+    switch (alignment) {
+    case Alignment::Right: return Qt::AlignRight | Qt::AlignVCenter;
+    case Alignment::Centre: return Qt::AlignCenter;
+    default: return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+}
+
+} // namespace
+
+int KeyCodeOf(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return key::Enter;
+    case Qt::Key_Escape: return key::Escape;
+    case Qt::Key_Backspace: return key::Backspace;
+    case Qt::Key_Space: return key::Space;
+    case Qt::Key_Left: return key::Left;
+    case Qt::Key_Up: return key::Up;
+    case Qt::Key_Right: return key::Right;
+    case Qt::Key_Down: return key::Down;
+    case Qt::Key_Home: return key::Home;
+    case Qt::Key_End: return key::End;
+    case Qt::Key_F2: return key::F2;
+    default: return key::None;
+    }
+}
+
+int CharacterOf(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return key::Enter;
+    case Qt::Key_Escape: return key::Escape;
+    case Qt::Key_Backspace: return key::Backspace;
+    default: break;
+    }
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        // AltGr reports itself as Ctrl+Alt on some keyboards: what makes a printable character is one.
+        const bool altGr = (event.modifiers() & Qt::ControlModifier) && (event.modifiers() & Qt::AltModifier);
+        if (!altGr) return key::None;
+    }
+    const auto characters = event.text().toUcs4();
+    if (characters.size() != 1 || !QChar::isPrint(characters.front())) return key::None;
+    return static_cast<int>(characters.front());
+}
+
+Bindings::Bindings(Form& form, EventDispatch& dispatch, QWidget* root)
+    : QObject(root), form_(&form), dispatch_(dispatch), root_(root) {
+    dispatch_.AddMirror(this, [this] { Mirror(); });
+}
+
+void Bindings::Name(QWidget* widget, const Control& control, const QString& accessibleName) {
+    widget->setObjectName(dorvan::ToQt(control.Name));
+    if (!accessibleName.isEmpty()) widget->setAccessibleName(SpokenName(accessibleName));
+    widgets_.emplace_back(widget, &control);
+    widget->installEventFilter(this);
+    mirrors_.push_back([widget, &control] {
+        if (widget->isEnabledTo(widget->parentWidget()) != control.Enabled)
+            widget->setEnabled(control.Enabled);
+        if (widget->isHidden() == control.Visible) widget->setVisible(control.Visible);
+    });
+}
+
+void Bindings::Forward(const Handler& handler) {
+    if (!form_) return;
+    dispatch_.Run([&handler] {
+        if (handler) handler();
+    });
+}
+
+void Bindings::Plain(QWidget* widget, const Control& control, const QString& accessibleName) {
+    Name(widget, control, accessibleName);
+}
+
+void Bindings::Text(QLabel* label, const Control& control) {
+    Name(label, control, {});
+    label->setTextFormat(Qt::PlainText);
+    mirrors_.push_back([label, &control] {
+        if (const QString text = dorvan::ToQt(control.Caption); label->text() != text) label->setText(text);
+    });
+}
+
+void Bindings::Field(QLineEdit* field, TextBox& control, const QString& accessibleName, FieldEvents events) {
+    Name(field, control, accessibleName);
+    const Handler read = [field, &control] {
+        const int start = field->hasSelectedText() ? field->selectionStart() : field->cursorPosition();
+        control.Text = FromQt(field->text());
+        control.SelStart = CharactersBefore(field->text(), start);
+        control.SelLength = CharactersBefore(field->selectedText(), int(field->selectedText().size()));
+    };
+    fields_[field] = {&control, std::move(events), read};
+    connect(field, &QLineEdit::textEdited, this, [this, field] {
+        auto& entry = fields_[field];
+        entry.read();
+        Forward(entry.events.change);
+    });
+    mirrors_.push_back([field, &control] {
+        const QSignalBlocker blocker(field);
+        field->setMaxLength(control.MaxLength > 0 ? control.MaxLength : 32767);
+        field->setAlignment(ToQt(control.TextAlignment));
+        const QString text = dorvan::ToQt(control.Text);
+        if (field->text() == text) return;
+        field->setText(text);
+        const int start = UnitsBefore(text, control.SelStart);
+        if (control.SelLength > 0)
+            field->setSelection(start, UnitsBefore(text.mid(start), control.SelLength));
+        else
+            field->setCursorPosition(start);
+    });
+}
+
+void Bindings::Field(QPlainTextEdit* field, TextBox& control, const QString& accessibleName,
+                     FieldEvents events) {
+    Name(field, control, accessibleName);
+    const Handler read = [field, &control] {
+        const QTextCursor cursor = field->textCursor();
+        const QString text = field->toPlainText();
+        control.Text = FromQt(text);
+        control.SelStart = CharactersBefore(text, cursor.selectionStart());
+        control.SelLength = CharactersBefore(text, cursor.selectionEnd()) - control.SelStart;
+    };
+    fields_[field] = {&control, std::move(events), read};
+    connect(field, &QPlainTextEdit::textChanged, this, [this, field] {
+        auto& entry = fields_[field];
+        entry.read();
+        Forward(entry.events.change);
+    });
+    mirrors_.push_back([field, &control] {
+        const QSignalBlocker blocker(field);
+        const QString text = dorvan::ToQt(control.Text);
+        if (field->toPlainText() != text) field->setPlainText(text);
+    });
+}
+
+void Bindings::Button(QPushButton* button, const Control& control, Handler click) {
+    Name(button, control, dorvan::ToQt(control.Caption));
+    connect(button, &QPushButton::clicked, this, [this, click] { Forward(click); });
+    mirrors_.push_back([button, &control] {
+        if (const QString text = dorvan::ToQt(control.Caption); button->text() != text) button->setText(text);
+    });
+}
+
+void Bindings::Option(QRadioButton* button, OptionButton& control, Handler click) {
+    Name(button, control, dorvan::ToQt(control.Caption));
+    // An option that goes off tells its control before the one that goes on calls its handler.
+    connect(button, &QRadioButton::toggled, this, [&control](bool on) { control.Value = on; });
+    connect(button, &QRadioButton::clicked, this, [this, click] { Forward(click); });
+    mirrors_.push_back([button, &control] {
+        if (const QString text = dorvan::ToQt(control.Caption); button->text() != text) button->setText(text);
+        if (button->isChecked() == control.Value) return;
+        const QSignalBlocker blocker(button);
+        const bool exclusive = button->autoExclusive();
+        button->setAutoExclusive(false);
+        button->setChecked(control.Value);
+        button->setAutoExclusive(exclusive);
+    });
+}
+
+void Bindings::Check(QCheckBox* box, CheckBox& control, Handler click) {
+    Name(box, control, dorvan::ToQt(control.Caption));
+    connect(box, &QCheckBox::toggled, this, [this, &control, click](bool on) {
+        control.Value = on;
+        Forward(click);
+    });
+    mirrors_.push_back([box, &control] {
+        if (const QString text = dorvan::ToQt(control.Caption); box->text() != text) box->setText(text);
+        const QSignalBlocker blocker(box);
+        box->setChecked(control.Value);
+    });
+}
+
+void Bindings::Combo(QComboBox* box, ListBox& control, const QString& accessibleName, Handler click) {
+    Name(box, control, accessibleName);
+    connect(box, &QComboBox::currentIndexChanged, this, [this, &control, click](int index) {
+        control.ListIndex = index;
+        Forward(click);
+    });
+    mirrors_.push_back([box, &control] {
+        const QSignalBlocker blocker(box);
+        MirrorItems(box, control);
+        box->setCurrentIndex(control.ListIndex);
+    });
+}
+
+void Bindings::List(QListWidget* list, ListBox& control, const QString& accessibleName, Handler click) {
+    Name(list, control, accessibleName);
+    connect(list, &QListWidget::currentRowChanged, this, [this, &control, click](int row) {
+        control.ListIndex = row;
+        Forward(click);
+    });
+    mirrors_.push_back([list, &control] {
+        const QSignalBlocker blocker(list);
+        MirrorItems(list, control);
+        list->setCurrentRow(control.ListIndex);
+    });
+}
+
+QWidget* Bindings::WidgetOf(const Control* control) const {
+    for (const auto& [widget, bound] : widgets_)
+        if (bound == control) return widget;
+    return nullptr;
+}
+
+void Bindings::Mirror() {
+    if (!form_ || mirroring_) return;
+    mirroring_ = true;
+    // The focus moves first: a field that goes while it has the focus would pass it on to any other one.
+    MirrorFocus();
+    for (std::size_t place = 0; form_ && place < mirrors_.size(); ++place) mirrors_[place]();
+    MirrorFocus();
+    mirroring_ = false;
+    if (form_ && root_->focusWidget()) FocusIn(root_->focusWidget());
+}
+
+void Bindings::MirrorFocus() {
+    if (!form_ || !form_->ActiveControl) return;
+    QWidget* wanted = WidgetOf(form_->ActiveControl);
+    if (wanted && wanted->isVisibleTo(root_) && wanted->isEnabledTo(root_) && root_->focusWidget() != wanted)
+        wanted->setFocus(Qt::OtherFocusReason);
+}
+
+void Bindings::Detach() {
+    form_ = nullptr;
+    mirrors_.clear();
+    for (const auto& [widget, control] : widgets_) {
+        widget->removeEventFilter(this);
+        widget->disconnect(this);
+    }
+}
+
+void Bindings::FocusIn(QWidget* widget) {
+    if (mirroring_) return;
+    for (const auto& [bound, control] : widgets_)
+        if (bound == widget) form_->ActiveControl = control;
+}
+
+void Bindings::FocusOut(QWidget* widget, const QFocusEvent& event) {
+    // An open menu or another program in front leaves the focus where it is, as the windows see it.
+    const auto reason = event.reason();
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
+        reason == Qt::MenuBarFocusReason)
+        return;
+    const auto field = fields_.find(widget);
+    if (field == fields_.end()) return;
+    if (!mirroring_) field->second.read();
+    if (field->second.events.lostFocus) Forward(field->second.events.lostFocus);
+}
+
+bool Bindings::KeyToField(Field_& field, QObject* watched, QKeyEvent& event) {
+    field.read();
+    if (int keyCode = KeyCodeOf(event); keyCode != key::None && field.events.keyDown) {
+        Forward([&] { field.events.keyDown(keyCode); });
+        if (keyCode == key::None || !form_) return true;
+    }
+    const int character = CharacterOf(event);
+    if (character == key::None || !field.events.keyPress) return false;
+    int keyAscii = character;
+    Forward([&] { field.events.keyPress(keyAscii); });
+    if (keyAscii == key::None || !form_) return true;
+    if (keyAscii == character) return false;
+    QKeyEvent other(QEvent::KeyPress, 0, event.modifiers() & Qt::ShiftModifier,
+                    QString::fromUcs4(reinterpret_cast<const char32_t*>(&keyAscii), 1));
+    passing_ = true;
+    QCoreApplication::sendEvent(watched, &other);
+    passing_ = false;
+    return true;
+}
+
+bool Bindings::eventFilter(QObject* watched, QEvent* event) {
+    if (!form_ || passing_) return false;
+    auto* widget = static_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::FocusIn: FocusIn(widget); return false;
+    case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent&>(*event)); return false;
+    case QEvent::KeyPress: {
+        const auto field = fields_.find(watched);
+        return field != fields_.end() && KeyToField(field->second, watched, static_cast<QKeyEvent&>(*event));
+    }
+    default: return false;
+    }
+}
+
+} // namespace dorvan

@@ -1,0 +1,131 @@
+#include "desktop/child_face.h"
+
+#include "desktop/icons.h"
+#include "desktop/qt_text.h"
+#include "session/children.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+
+int Pixels(int twips) { return (twips + TwipsPerPixel / 2) / TwipsPerPixel; }
+
+} // namespace
+
+ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispatch)
+    : session_(session), window_(&window), dispatch_(dispatch) {
+    setObjectName(ToQt(window.Name + window.Tag));
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setWindowIcon(ProgramIcon());
+    auto* content = new QWidget;
+    content->setObjectName(ToQt(window.Name));
+    setWidget(content);
+    bindings_ = new Bindings(window, dispatch, content);
+    dispatch_.AddMirror(this, [this] { Mirror(); });
+}
+
+GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
+    grid_ = new GridWidget(grid, dispatch_, widget());
+    bindings_->Plain(grid_, grid, accessibleName);
+    bindings_->Also([shown = grid_] { shown->Mirror(); });
+    return *grid_;
+}
+
+ChildFace::Bounds ChildFace::WantedBounds() const {
+    return {window_->Left, window_->Top, window_->Width, window_->Height};
+}
+
+void ChildFace::Place() {
+    const QSize room = mdiArea()->viewport()->size();
+    QRect place(Pixels(window_->Left), Pixels(window_->Top), Pixels(window_->Width), Pixels(window_->Height));
+    if (place.width() <= 0 || place.height() <= 0) place.setSize(room * 4 / 5);
+    place.setSize(place.size().boundedTo(room));
+    setGeometry(place);
+    placed_ = true;
+    MirrorMode();
+    TellBounds();
+}
+
+WindowMode ChildFace::ShownMode() const {
+    return isMinimized() ? WindowMode::Minimized : isMaximized() ? WindowMode::Maximized : WindowMode::Normal;
+}
+
+// Place and size are those of the normal state, as long as that is the one shown.
+void ChildFace::TellBounds() {
+    if (!window_ || !placed_) return;
+    window_->Mode = toldMode_ = ShownMode();
+    window_->ScaleWidth = widget()->width() * TwipsPerPixel;
+    window_->ScaleHeight = widget()->height() * TwipsPerPixel;
+    if (window_->Mode == WindowMode::Normal) {
+        window_->Left = x() * TwipsPerPixel;
+        window_->Top = y() * TwipsPerPixel;
+        window_->Width = width() * TwipsPerPixel;
+        window_->Height = height() * TwipsPerPixel;
+    }
+    told_ = WantedBounds();
+}
+
+void ChildFace::MirrorMode() {
+    if (window_->Mode == ShownMode()) return;
+    switch (window_->Mode) {
+    case WindowMode::Normal: showNormal(); break;
+    case WindowMode::Minimized: showMinimized(); break;
+    case WindowMode::Maximized: showMaximized(); break;
+    }
+}
+
+void ChildFace::MirrorBounds() {
+    if (!placed_) return;
+    if (window_->Mode != toldMode_) {
+        toldMode_ = window_->Mode;
+        MirrorMode();
+    }
+    if (WantedBounds() == told_ || window_->Mode != WindowMode::Normal) return;
+    told_ = WantedBounds();
+    setGeometry(Pixels(told_.left), Pixels(told_.top), Pixels(told_.width), Pixels(told_.height));
+}
+
+void ChildFace::Mirror() {
+    if (!window_) return;
+    if (const QString title = ToQt(window_->Caption); windowTitle() != title) {
+        setWindowTitle(title);
+        widget()->setAccessibleName(title);
+    }
+    MirrorBounds();
+    bindings_->Mirror();
+}
+
+void ChildFace::Detach() {
+    window_ = nullptr;
+    bindings_->Detach();
+    if (grid_) grid_->Detach();
+}
+
+void ChildFace::closeEvent(QCloseEvent* event) {
+    event->ignore(); // when the window closes, its display removes this face
+    if (window_) dispatch_.Run([this] { CloseChild(session_, *window_); });
+}
+
+void ChildFace::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    if (!window_ || !placed_) return;
+    TellBounds();
+    dispatch_.Run([this] { window_->Form_Resize(); });
+}
+
+void ChildFace::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    TellBounds();
+}
+
+void ChildFace::changeEvent(QEvent* event) {
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) TellBounds();
+}
+
+} // namespace dorvan

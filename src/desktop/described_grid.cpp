@@ -1,0 +1,39 @@
+#include "desktop/described_grid.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int Margin = 4;
+
+} // namespace
+
+GridWidget& LayOutDescribedGrid(ChildFace& face, Grid& grid, const QString& gridName, TextBox& description,
+                                FieldEvents events) {
+    auto* column = new QVBoxLayout(face.widget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* panel = new QWidget(face.widget());
+    panel->setObjectName("BottomPanel"); // at the top, in spite of its name
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins(Margin, Margin, Margin, Margin);
+    auto* label = new QLabel("Description:", panel);
+    label->setObjectName("Label1");
+    auto* field = new QLineEdit(panel);
+    label->setBuddy(field);
+    face.Binder().Field(field, description, "Description", std::move(events));
+    row->addWidget(label);
+    row->addWidget(field, 1);
+    column->addWidget(panel);
+    auto& shown = face.ShowGrid(grid, gridName);
+    column->addWidget(&shown, 1);
+    if (!face.Window()->ActiveControl) face.Window()->SetFocus(grid);
+    return shown;
+}
+
+} // namespace dorvan

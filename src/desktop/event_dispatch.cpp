@@ -1,0 +1,56 @@
+#include "desktop/event_dispatch.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace dorvan {
+
+namespace {
+
+// Mirroring can cause events whose handlers change the state once more; a state that never settles must not
+// hang the program.
+constexpr int MostMirrorRounds = 8;
+
+struct Deeper {
+    explicit Deeper(int& depth) : depth_(depth) { ++depth_; }
+    ~Deeper() { --depth_; }
+    Deeper(const Deeper&) = delete;
+    Deeper& operator=(const Deeper&) = delete;
+    int& depth_;
+};
+
+} // namespace
+
+void EventDispatch::Run(const Handler& handler) {
+    {
+        const Deeper deeper(depth_);
+        try {
+            handler();
+            Mirror();
+        } catch (const std::exception& failure) {
+            if (!onEnd) throw;
+            onEnd(failure.what());
+        }
+    }
+    if (afterEvent) afterEvent();
+}
+
+void EventDispatch::AddMirror(QObject* owner, Handler mirror) {
+    std::erase_if(mirrors_, [](const MirrorEntry& entry) { return entry.owner.isNull(); });
+    mirrors_.push_back({owner, std::move(mirror)});
+}
+
+void EventDispatch::Mirror() {
+    mirrorAgain_ = true;
+    if (mirroring_) return;
+    mirroring_ = true;
+    for (int round = 0; mirrorAgain_ && round < MostMirrorRounds; ++round) {
+        mirrorAgain_ = false;
+        const auto mirrors = mirrors_; // a mirror may open or close a face
+        for (const auto& entry : mirrors)
+            if (entry.owner) entry.mirror();
+    }
+    mirroring_ = false;
+}
+
+} // namespace dorvan

@@ -1,0 +1,110 @@
+#include "desktop/form_face.h"
+
+#include "desktop/qt_text.h"
+
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QEventLoop>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int NoteWidth = 380; // pixels, of a text that wraps
+
+} // namespace
+
+FormFace::FormFace(Form& form, EventDispatch& dispatch, QWidget* parent)
+    : QDialog(parent), form_(form), dispatch_(dispatch), bindings_(new Bindings(form, dispatch, this)),
+      column_(new QVBoxLayout(this)) {
+    setObjectName(ToQt(form.Name));
+    column_->setSizeConstraint(QLayout::SetFixedSize);
+    dispatch_.AddMirror(this, [this] { Mirror(); });
+}
+
+void FormFace::Mirror() {
+    if (retired_) return;
+    if (const QString title = ToQt(form_.Caption); windowTitle() != title) setWindowTitle(title);
+    if (!form_.Visible && isVisible()) hide();
+}
+
+void FormFace::RunModal() {
+    setWindowModality(Qt::ApplicationModal);
+    form_.Visible = true;
+    QEventLoop loop;
+    dispatch_.AddMirror(&loop, [this, &loop] {
+        if (!form_.Visible) loop.quit();
+    });
+    dispatch_.Run([this] { form_.Form_Show(); });
+    if (!form_.Visible) return;
+    show();
+    dispatch_.Mirror();
+    if (form_.Visible) loop.exec();
+    hide();
+}
+
+void FormFace::Retire() {
+    retired_ = true;
+    bindings_->Detach();
+    hide();
+    deleteLater();
+}
+
+QFormLayout* FormFace::AddRows() {
+    auto* rows = new QFormLayout;
+    column_->addLayout(rows);
+    return rows;
+}
+
+QLineEdit* FormFace::AddField(QFormLayout* rows, const QString& label, TextBox& control, FieldEvents events) {
+    auto* field = new QLineEdit(this);
+    rows->addRow(label, field);
+    bindings_->Field(field, control, label, std::move(events));
+    return field;
+}
+
+QLabel* FormFace::AddLabel(const Control& control) {
+    auto* label = new QLabel(this);
+    label->setWordWrap(true);
+    label->setMinimumWidth(NoteWidth);
+    column_->addWidget(label);
+    bindings_->Text(label, control);
+    return label;
+}
+
+QLabel* FormFace::AddNote(const QString& text) {
+    auto* label = new QLabel(text, this);
+    label->setWordWrap(true);
+    label->setMinimumWidth(NoteWidth);
+    column_->addWidget(label);
+    return label;
+}
+
+void FormFace::AddButtons(const std::vector<std::pair<const CommandButton*, Bindings::Handler>>& buttons) {
+    auto* box = new QDialogButtonBox(this);
+    column_->addSpacing(6);
+    column_->addWidget(box);
+    for (std::size_t place = 0; place < buttons.size(); ++place) {
+        auto* button = new QPushButton(ToQt(buttons[place].first->Caption), this);
+        box->addButton(button, place == 0 ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole);
+        button->setAutoDefault(true);
+        button->setDefault(place == 0);
+        bindings_->Button(button, *buttons[place].first, buttons[place].second);
+    }
+}
+
+void FormFace::reject() {
+    if (!retired_) dispatch_.Run([this] { form_.CancelCommand(); });
+}
+
+void FormFace::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    reject();
+}
+
+} // namespace dorvan

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "desktop/event_dispatch.h"
+#include "platform/grid.h"
+
+#include <QAbstractScrollArea>
+#include <QHash>
+#include <QImage>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace dorvan {
+
+// What the pictures of a grid look like, and how they read.
+struct GridPictures {
+    std::function<QImage(std::uint8_t picture)> image; // at one image pixel per 15 twips
+    std::function<QString(std::uint8_t picture)> description;
+};
+
+// What a grid's owner wants to hear of. A key handler swallows a key by setting its code to 0.
+struct GridEvents {
+    std::function<void(int& keyCode)> keyDown;
+    std::function<void(int& keyAscii)> keyPress;
+    std::function<void()> doubleClick;
+    std::function<void(QPoint global)> rightButton;
+};
+
+// Shows any `Grid`: paints the visible cells, moves the current cell by keys and mouse. It scrolls by whole
+// cells. All edges lie on device pixels, whatever the scaling.
+class GridWidget : public QAbstractScrollArea {
+    Q_OBJECT
+
+public:
+    GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent = nullptr);
+
+    GridEvents events;
+
+    void SetPictures(GridPictures pictures);
+
+    // The grid's owner is about to go.
+    void Detach() { grid_ = nullptr; }
+
+    // Shows the grid's present state.
+    void Mirror();
+
+    // Null once the owner has gone.
+    const Grid* Shown() const { return grid_; }
+
+    // Where the cell lies in the viewport; empty when it is scrolled out.
+    QRect CellRect(int row, int column) const;
+
+    // The cell at a place of the viewport; -1 where there is none.
+    QPoint CellAt(QPoint place) const; // x column, y row
+
+    // What a screen reader says of the cell.
+    QString CellReading(int row, int column) const;
+
+    // A screen reader moves the current cell.
+    void MakeCurrent(int row, int column);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    bool event(QEvent* event) override;
+
+private:
+    // Sizes and places along one axis, in device pixels.
+    struct Axis {
+        std::vector<int> edges; // edges[i] is where cell i begins were nothing scrolled; one more at the end
+        int fixed = 0;          // cells that never scroll
+        int first = 0;          // the first cell shown behind the fixed ones
+
+        int Count() const { return int(edges.size()) - 1; }
+        int FixedEnd() const { return edges.empty() ? 0 : edges[std::size_t(fixed)]; }
+        int Start(int cell) const;
+        int Size(int cell) const { return edges[std::size_t(cell) + 1] - edges[std::size_t(cell)]; }
+        bool Scrolled(int cell) const { return cell >= fixed && cell < first; }
+        int CellAt(int place) const;                  // -1: behind the last one
+        int LastFirst(int room) const;                // the highest `first` that fills the room
+        int CellsIn(int room) const;                  // whole cells from `first` on, at least 1
+        int FirstThatShows(int cell, int room) const; // the nearest `first` that shows the cell whole
+    };
+
+    struct CellPaint;
+
+    double Ratio() const { return devicePixelRatioF(); }
+    Axis RowAxis() const;
+    Axis ColumnAxis() const;
+    void Measure();
+    void UpdateScrollBars();
+    void ShowCurrent();
+    void PaintCell(CellPaint& paint, int row, int column) const;
+    const QImage& ScaledTile(std::uint8_t picture) const;
+    void Forward(const std::function<void()>& handler);
+    bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
+    void MoveTo(int row, int column);
+    void ClickAt(QPoint place);
+    void TellCurrent();
+
+    Grid* grid_;
+    EventDispatch& dispatch_;
+    GridPictures pictures_;
+    Axis rows_;
+    Axis columns_;
+    double measuredRatio_ = 0;
+    std::uint64_t revision_ = ~std::uint64_t(0);
+    QPoint shownCurrent_{-1, -1};
+    mutable QHash<int, QImage> scaledTiles_; // for measuredRatio_
+};
+
+} // namespace dorvan

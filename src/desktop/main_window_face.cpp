@@ -1,0 +1,148 @@
+#include "desktop/main_window_face.h"
+
+#include "desktop/icons.h"
+#include "desktop/qt_text.h"
+#include "session/menus.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QKeySequence>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int SmallScreenWidth = 1500; // pixels; up to here the main window takes all there is
+constexpr int ToolIconSize = 22;
+
+} // namespace
+
+QRect MainWindowPlace(const QRect& available) {
+    if (available.width() <= SmallScreenWidth) return available;
+    const QSize size(available.width() * 17 / 20, available.height() * 17 / 20);
+    return {available.center() - QPoint(size.width() / 2, size.height() / 2), size};
+}
+
+MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& dispatch)
+    : session_(session), shell_(shell), dispatch_(dispatch), area_(new QMdiArea(this)) {
+    setObjectName("frmMDI");
+    setWindowIcon(ProgramIcon());
+    setContextMenuPolicy(Qt::NoContextMenu); // no menu of toolbars beside the program's own
+    area_->setObjectName("MDIArea");
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    for (const auto& item : MenuTree()) {
+        QMenu* menu = menuBar()->addMenu(ToQt(item.Caption));
+        menu->setObjectName(ToQt(item.Name));
+        menu->menuAction()->setObjectName(ToQt(item.Name));
+        menus_.emplace_back(item.Name, menu);
+        connect(menu, &QMenu::aboutToShow, this,
+                [this, name = item.Name] { dispatch_.Run([&] { shell_.MenuOpens(name); }); });
+        BuildMenu(*this, *menu, item.Items);
+    }
+    BuildToolbars();
+    dispatch_.AddMirror(this, [this] { Mirror(); });
+    Mirror();
+}
+
+void MainWindowFace::BuildMenu(QWidget& parent, QMenu& menu, const std::vector<MenuItem>& items) {
+    for (const auto& item : items) {
+        if (item.Items.empty()) {
+            if (QAction* action = BuildItem(menu, item); !item.Name.empty())
+                items_.emplace_back(item.Name, action);
+            continue;
+        }
+        QMenu* submenu = menu.addMenu(ToQt(item.Caption));
+        submenu->setObjectName(ToQt(item.Name));
+        submenu->menuAction()->setObjectName(ToQt(item.Name));
+        items_.emplace_back(item.Name, submenu->menuAction());
+        menus_.emplace_back(item.Name, submenu);
+        BuildMenu(parent, *submenu, item.Items);
+    }
+}
+
+QAction* MainWindowFace::BuildItem(QMenu& menu, const MenuItem& item) {
+    QAction* action = menu.addAction(ToQt(item.Caption));
+    action->setObjectName(ToQt(item.Name));
+    action->setMenuRole(QAction::NoRole);
+    if (item.Name.empty()) {
+        action->setSeparator(true);
+        action->setVisible(!item.Hidden);
+        return action;
+    }
+    if (!item.Shortcut.empty() && !item.Hidden) action->setShortcut(QKeySequence(ToQt(item.Shortcut)));
+    if (item.Name == "mnuOToolbar") action->setCheckable(true);
+    // The mirroring after the click sets the check mark; Qt's own flip of it does not count.
+    connect(action, &QAction::triggered, this,
+            [this, name = item.Name] { dispatch_.Run([&] { shell_.MenuClick(name); }); });
+    return action;
+}
+
+void MainWindowFace::BuildToolbars() {
+    for (const auto& toolbar : Toolbars()) {
+        auto* bar = new QToolBar(this);
+        bar->setObjectName(ToQt(toolbar.Name));
+        bar->setAccessibleName(ToQt(toolbar.Name));
+        bar->setMovable(false);
+        bar->setIconSize({ToolIconSize, ToolIconSize});
+        addToolBar(bar);
+        toolbars_.emplace_back(toolbar.Name, bar);
+        for (const auto& button : toolbar.Buttons) {
+            QAction* action = bar->addAction(ThemedIcon(ToQt(button.Key)), ToQt(button.ToolTip));
+            action->setObjectName(ToQt(toolbar.Name + "." + button.Key));
+            action->setToolTip(ToQt(button.ToolTip));
+            QWidget* widget = bar->widgetForAction(action);
+            widget->setObjectName(action->objectName());
+            widget->setAccessibleName(ToQt(button.ToolTip));
+            connect(action, &QAction::triggered, this, [this, bar = toolbar.Name, key = button.Key] {
+                dispatch_.Run([&] { shell_.ButtonClick(bar, key); });
+            });
+            buttons_.push_back({toolbar.Name, button.Key, action});
+        }
+    }
+}
+
+void MainWindowFace::MirrorToolbars() {
+    for (const auto& [name, bar] : toolbars_)
+        if (const bool shown = session_.mainWindow.ToolbarShown(name); bar->isHidden() == shown)
+            bar->setVisible(shown);
+    for (const auto& button : buttons_) {
+        button.action->setEnabled(shell_.ButtonEnabled(button.toolbar, button.key));
+        button.action->setVisible(session_.mainWindow.ButtonShown(button.toolbar, button.key));
+    }
+}
+
+void MainWindowFace::Mirror() {
+    if (const QString title = ToQt(session_.mainWindow.Caption); windowTitle() != title)
+        setWindowTitle(title);
+    for (const auto& [name, action] : items_) {
+        action->setEnabled(shell_.MenuEnabled(name));
+        action->setVisible(shell_.MenuShown(name));
+        const std::string caption = shell_.MenuCaption(name);
+        action->setSeparator(caption == "-");
+        if (const QString text = ToQt(caption); action->text() != text) action->setText(text);
+        if (action->isCheckable()) action->setChecked(session_.mainWindow.ToolbarChecked);
+    }
+    MirrorToolbars();
+}
+
+void MainWindowFace::PopUp(const std::string& menu, QPoint global) {
+    for (const auto& [name, entry] : menus_)
+        if (name == menu) entry->popup(global);
+}
+
+void MainWindowFace::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    dispatch_.Run([&] {
+        if (shell_.RequestClose()) event->accept();
+    });
+}
+
+} // namespace dorvan

@@ -1,0 +1,83 @@
+#include "desktop/child_faces.h"
+#include "platform/keys.h"
+#include "sheet/frmNotePad.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int DescriptionLines = 2;
+constexpr int EditCellWidth = 150; // pixels
+constexpr int Margin = 6;
+
+QPlainTextEdit* MakeDescription(QWidget* parent) {
+    auto* field = new QPlainTextEdit(parent);
+    field->setTabChangesFocus(true);
+    const int frame = 2 * (field->frameWidth() + 4);
+    field->setFixedHeight(field->fontMetrics().lineSpacing() * DescriptionLines + frame);
+    return field;
+}
+
+} // namespace
+
+void LayOutNotePad(ChildFace& face, const ChildContext& context) {
+    auto& window = dynamic_cast<frmNotePad&>(*face.Window());
+    auto& binder = face.Binder();
+    auto* column = new QVBoxLayout(face.widget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    auto* topPanel = new QWidget(face.widget());
+    auto* top = new QHBoxLayout(topPanel);
+    top->setContentsMargins(Margin, Margin, Margin, Margin);
+    binder.Plain(topPanel, window.TopPanel);
+    auto* label = new QLabel(topPanel);
+    binder.Text(label, window.Label1);
+    auto* description = MakeDescription(topPanel);
+    label->setBuddy(description);
+    binder.Field(description, window.OpisText, "Description",
+                 {.change = [&window] { window.OpisText_Change(); },
+                  .keyPress = [&window](int& keyAscii) { window.OpisText_KeyPress(keyAscii); },
+                  .keyDown = {},
+                  .lostFocus = {}});
+
+    auto* editPanel = new QWidget(topPanel);
+    auto* edit = new QHBoxLayout(editPanel);
+    edit->setContentsMargins(0, 0, 0, 0);
+    QSizePolicy keepsRoom = editPanel->sizePolicy();
+    keepsRoom.setRetainSizeWhenHidden(true);
+    editPanel->setSizePolicy(keepsRoom);
+    binder.Plain(editPanel, window.EditPanel);
+    auto* cell = new QLineEdit(editPanel);
+    cell->setFixedWidth(EditCellWidth);
+    edit->addWidget(cell, 0, Qt::AlignBottom);
+    binder.Field(cell, window.EditCell, "Cell",
+                 {.change = [&window] { window.EditCell_Change(); },
+                  .keyPress = [&window](int& keyAscii) { window.EditCell_KeyPress(keyAscii); },
+                  .keyDown = [&window](int& keyCode) { window.EditCell_KeyDown(keyCode); },
+                  .lostFocus = [&window] { window.EditCell_LostFocus(); }});
+
+    top->addWidget(label, 0, Qt::AlignTop);
+    top->addWidget(description, 1);
+    top->addWidget(editPanel);
+    column->addWidget(topPanel);
+
+    auto& grid = face.ShowGrid(window.Grid1, "Data sheet");
+    grid.events = {.keyDown = [&window](int& keyCode) { window.Grid1_KeyDown(keyCode); },
+                   .keyPress = [&window](int& keyAscii) { window.Grid1_KeyPress(keyAscii); },
+                   .doubleClick = [&window] { window.Grid1_DblClick(); },
+                   .rightButton =
+                       [&window, popUp = context.popUp](QPoint global) {
+                           if (window.Grid1_MouseDown(mouse::Right)) popUp("mnuEdit", global);
+                       }};
+    column->addWidget(&grid, 1);
+    if (!window.ActiveControl) window.SetFocus(window.Grid1);
+}
+
+} // namespace dorvan

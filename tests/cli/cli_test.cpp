@@ -1,0 +1,270 @@
+#include "command_line.h"
+#include "support/golden.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace dorvan::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Three records on a line at 0, 1 and 10: every distance is known.
+const std::string smallSheet =
+    "Dorvan DATA 3.3\r\n\r\n[HEADER]\r\nDescription=three\r\nRecCount=3\r\nVarCount=1\r\n\r\n"
+    "[RECORD_LABEL]\r\nA\r\nB\r\nC\r\n\r\n[VARIABLE_LABEL]\r\nx\r\n\r\n[DATA]\r\n"
+    "0.000\r\n10.000\r\n1.000\r\n";
+
+class CommandLine : public ::testing::Test {
+protected:
+    TemporaryFolder folder;
+    std::string sheet = folder / "small.mdt";
+    void SetUp() override { writeFile(sheet, smallSheet); }
+
+    std::string out(const std::string& name) { return folder / name; }
+
+    // The command is refused with one line that names the file, and writes nothing.
+    void expectRefusal(const std::vector<std::string>& arguments, const std::string& file,
+                       const std::string& part, const std::string& written) {
+        const Outcome outcome = runCli(arguments);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+        EXPECT_NE(outcome.err.find(file), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find(part), std::string::npos) << outcome.err;
+        EXPECT_FALSE(fs::exists(written));
+    }
+};
+
+TEST_F(CommandLine, MatrixOfASheetIsEuclideanByDefault) {
+    const Outcome outcome = runCli({"matrix", sheet, out("small.mtx")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.err, "");
+    EXPECT_EQ(
+        fileBytes(out("small.mtx")),
+        "Dorvan MATRIX "
+        "3.3\r\n\r\n[HEADER]\r\nDescription=three\r\nRecCount=3\r\n\r\n[RECORD_LABEL]\r\nA\r\nB\r\nC\r\n\r\n"
+        "[MATRIX]\r\n0.000;10.000;1.000\r\n10.000;0.000;9.000\r\n1.000;9.000;0.000\r\n");
+}
+
+TEST_F(CommandLine, EveryMeasureIsTakenByNameAndByNumber) {
+    const std::vector<std::string> names = {"henzel",    "czekanowski", "euclidean", "manhattan",
+                                            "chebychev", "customized",  "dfdd",      "lance-williams",
+                                            "jaccard",   "yule"};
+    for (std::size_t place = 0; place < names.size(); ++place) {
+        const Outcome byName =
+            runCli({"diagram", sample("Townships.mdt"), out("name.dgr"), "--measure", names[place]});
+        const Outcome byNumber = runCli(
+            {"diagram", sample("Townships.mdt"), out("number.dgr"), "--measure", std::to_string(place + 1)});
+        EXPECT_EQ(byName.status, 0) << names[place] << byName.err;
+        EXPECT_EQ(byNumber.status, 0) << names[place] << byNumber.err;
+        EXPECT_EQ(fileBytes(out("name.dgr")), fileBytes(out("number.dgr")));
+        EXPECT_NE(fileBytes(out("name.dgr")).find("DistType=" + std::to_string(place + 1) + "\r\n"),
+                  std::string::npos);
+    }
+}
+
+TEST_F(CommandLine, CustomizedMeasureTakesItsParameters) {
+    EXPECT_EQ(runCli({"matrix", sheet, out("m.mtx"), "--measure", "customized", "-p", "1", "-r", "2"}).status,
+              0);
+    EXPECT_NE(fileBytes(out("m.mtx")).find("0.000;3.162;1.000\r\n"), std::string::npos);
+}
+
+TEST_F(CommandLine, ParameterOfZeroIsRefusedInTheDialogsWords) {
+    expectRefusal({"matrix", sheet, out("m.mtx"), "--measure", "customized", "-p", "0"}, sheet,
+                  "Invalid value of parametr P", out("m.mtx"));
+    expectRefusal({"matrix", sheet, out("m.mtx"), "--measure", "customized", "-r", "0"}, sheet,
+                  "Invalid value of parametr R", out("m.mtx"));
+}
+
+TEST_F(CommandLine, DiagramIsWrittenWithDotsAndUnorderedByDefault) {
+    EXPECT_EQ(runCli({"diagram", sheet, out("d.dgr")}).status, 0);
+    const std::string diagram = fileBytes(out("d.dgr"));
+    EXPECT_TRUE(matchesGolden(diagram, "cli/golden/three_on_a_line.dgr"));
+}
+
+TEST_F(CommandLine, SimpleOrderWalksToTheNearest) {
+    EXPECT_EQ(runCli({"diagram", sheet, out("d.dgr"), "--order", "simple", "--type", "classic"}).status, 0);
+    const std::string diagram = fileBytes(out("d.dgr"));
+    EXPECT_NE(diagram.find("[RECORD_LABEL]\r\nA\r\nC\r\nB\r\n"), std::string::npos) << diagram;
+    EXPECT_NE(diagram.find("DiagType=3\r\n"), std::string::npos);
+    EXPECT_NE(diagram.find("[MATRIX]\r\n0.000;1.000;10.000\r\n1.000;0.000;9.000\r\n10.000;9.000;0.000\r\n"),
+              std::string::npos);
+}
+
+TEST_F(CommandLine, DiagramOfAMatrixKeepsNoData) {
+    ASSERT_EQ(runCli({"matrix", sheet, out("m.mtx")}).status, 0);
+    EXPECT_EQ(runCli({"diagram", out("m.mtx"), out("d.dgr"), "--type", "greyscale"}).status, 0);
+    const std::string diagram = fileBytes(out("d.dgr"));
+    EXPECT_NE(diagram.find("Type=1\r\n"), std::string::npos);
+    EXPECT_NE(diagram.find("[VARIABLE_LABEL]\r\nN/A\r\n\r\n[DATA]\r\nN/A\r\n"), std::string::npos);
+    EXPECT_NE(diagram.find("DiagType=1\r\n"), std::string::npos);
+}
+
+TEST_F(CommandLine, EverySampleBecomesADiagram) {
+    for (const auto& [name, measure] :
+         std::vector<std::pair<std::string, std::string>>{{"iris", "euclidean"},
+                                                          {"USArrests", "manhattan"},
+                                                          {"Townships", "jaccard"},
+                                                          {"Munsingen", "jaccard"},
+                                                          {"airquality", "henzel"},
+                                                          {"quakes250", "chebychev"}}) {
+        const Outcome outcome = runCli({"diagram", sample(name + ".mdt"), out(name + ".dgr"), "--measure",
+                                        measure, "--order", "simple"});
+        EXPECT_EQ(outcome.status, 0) << name << outcome.err;
+        EXPECT_EQ(runCli({"info", out(name + ".dgr")}).status, 0) << name;
+    }
+}
+
+TEST_F(CommandLine, MissingValuesNeedAMeasureThatSkipsThem) {
+    expectRefusal({"diagram", sample("airquality.mdt"), out("d.dgr")}, "airquality.mdt",
+                  "Nieprawidłowa funkcja odległości dla danych niepełnych!", out("d.dgr"));
+}
+
+TEST_F(CommandLine, TooManyRecordsForAMatrix) {
+    expectRefusal({"matrix", sample("quakes250.mdt"), out("m.mtx")}, "quakes250.mdt",
+                  "The number of records is > 150 (max. number of records)!", out("m.mtx"));
+}
+
+TEST_F(CommandLine, FailureByDesignNamesItself) {
+    std::string zeros = smallSheet;
+    zeros.replace(zeros.find("1.000"), 5,
+                  "0.000"); // two records of zeros have neither a difference nor a common 1
+    zeros.replace(zeros.rfind("10.000"), 6, "0.000");
+    writeFile(sheet, zeros);
+    expectRefusal({"matrix", sheet, out("m.mtx"), "--measure", "jaccard"}, sheet,
+                  "Run-time error '11': Division by zero", out("m.mtx"));
+}
+
+TEST_F(CommandLine, TwoRecordsEndTheAutomaticLimitsBySubscript) {
+    writeFile(sheet,
+              "Dorvan DATA "
+              "3.3\r\n\r\n[HEADER]\r\nDescription=\r\nRecCount=2\r\nVarCount=1\r\n\r\n[RECORD_LABEL]\r\n"
+              "A\r\nB\r\n\r\n[VARIABLE_LABEL]\r\nx\r\n\r\n[DATA]\r\n0.000\r\n1.000\r\n");
+    expectRefusal({"diagram", sheet, out("d.dgr")}, sheet, "Run-time error '9': Subscript out of range",
+                  out("d.dgr"));
+}
+
+TEST_F(CommandLine, FaultOfAFileNamesItsLine) {
+    writeFile(sheet, smallSheet.substr(0, smallSheet.find("10.000")) + "abc\r\n1.000\r\n");
+    expectRefusal({"matrix", sheet, out("m.mtx")}, sheet, "ine 18", out("m.mtx"));
+}
+
+TEST_F(CommandLine, FilesThatAreNoneAreRefused) {
+    expectRefusal({"matrix", out("absent.mdt"), out("m.mtx")}, out("absent.mdt"), "", out("m.mtx"));
+    fs::create_directory(out("folder.mdt"));
+    expectRefusal({"info", out("folder.mdt")}, out("folder.mdt"), "", out("m.mtx"));
+    writeFile(out("empty.mdt"), "");
+    expectRefusal({"info", out("empty.mdt")}, out("empty.mdt"), "", out("m.mtx"));
+    writeFile(out("notes.txt"), "hello");
+    expectRefusal({"info", out("notes.txt")}, out("notes.txt"),
+                  "Error! This file is not acceptable for Dorvan.", out("m.mtx"));
+}
+
+TEST_F(CommandLine, SaveThatCannotFinishLeavesTheFileThatWasThere) {
+    for (const std::string name : {"kept.mdt", "kept.mtx", "kept.dgr"}) {
+        fs::create_directory(out("shut"));
+        const std::string target = out("shut/" + name);
+        fs::create_directory(target); // a folder stands where the file should go
+        const std::string kind = name.substr(5);
+        const Outcome outcome = kind == "mdt"   ? runCli({"convert", sheet, target})
+                                : kind == "mtx" ? runCli({"matrix", sheet, target})
+                                                : runCli({"diagram", sheet, target});
+        EXPECT_EQ(outcome.status, 1) << name;
+        EXPECT_NE(outcome.err.find(target), std::string::npos) << outcome.err;
+        EXPECT_TRUE(fs::is_directory(target));
+        EXPECT_EQ(std::distance(fs::directory_iterator(out("shut")), fs::directory_iterator()), 1)
+            << "leftovers";
+        fs::remove_all(out("shut"));
+    }
+}
+
+TEST_F(CommandLine, ExistingOutputIsReplaced) {
+    writeFile(out("m.mtx"), "something else");
+    EXPECT_EQ(runCli({"matrix", sheet, out("m.mtx")}).status, 0);
+    EXPECT_EQ(fileBytes(out("m.mtx")).substr(0, 13), "Dorvan MATRIX");
+}
+
+TEST_F(CommandLine, WrongUsageIsStatusTwo) {
+    for (const std::vector<std::string>& arguments :
+         std::vector<std::vector<std::string>>{{},
+                                               {"draw"},
+                                               {"matrix", sheet},
+                                               {"matrix", sheet, out("m.mtx"), "--measure", "nearness"},
+                                               {"matrix", sheet, out("m.mtx"), "--measure", "11"},
+                                               {"diagram", sheet, out("d.dgr"), "--order", "best"},
+                                               {"diagram", sheet, out("d.dgr"), "--type", "colour"},
+                                               {"info", sheet, "--code-page", "437"},
+                                               {"convert", sheet, out("m.mtx")}}) {
+        const Outcome outcome = runCli(arguments);
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_NE(outcome.err, "");
+    }
+    EXPECT_FALSE(fs::exists(out("m.mtx")));
+}
+
+TEST_F(CommandLine, HelpShowsExamplesForEachSubcommand) {
+    for (const std::string command : {"matrix", "diagram", "convert", "info", "picture"}) {
+        const Outcome outcome = runCli({command, "--help"});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_NE(outcome.out.find("dorvan-cli " + command + " "), std::string::npos) << outcome.out;
+    }
+}
+
+TEST_F(CommandLine, CommaLocaleWritesCommasAndBothLocalesReadBoth) {
+    const std::string comma = "LC_ALL=pl_PL.UTF-8";
+    ASSERT_EQ(runCli({"matrix", sheet, out("comma.mtx")}, {comma}).status, 0);
+    EXPECT_NE(fileBytes(out("comma.mtx")).find("0,000;10,000;1,000\r\n"), std::string::npos);
+    ASSERT_EQ(runCli({"convert", out("comma.mtx"), out("point.mtx")}).status, 0);
+    EXPECT_NE(fileBytes(out("point.mtx")).find("0.000;10.000;1.000\r\n"), std::string::npos);
+    ASSERT_EQ(runCli({"convert", out("point.mtx"), out("again.mtx")}, {comma}).status, 0);
+    EXPECT_EQ(fileBytes(out("again.mtx")), fileBytes(out("comma.mtx")));
+    for (const std::string order : {"none", "simple"}) {
+        ASSERT_EQ(runCli({"diagram", sheet, out("comma.dgr"), "--order", order}, {comma}).status, 0);
+        ASSERT_EQ(runCli({"diagram", sheet, out("point.dgr"), "--order", order}).status, 0);
+        ASSERT_EQ(runCli({"convert", out("comma.dgr"), out("converted.dgr")}).status, 0);
+        EXPECT_EQ(fileBytes(out("converted.dgr")), fileBytes(out("point.dgr")));
+    }
+}
+
+TEST_F(CommandLine, PolishCharactersSurviveInTheLocalesCodePage) {
+    std::string polish = smallSheet;
+    polish.replace(polish.find("three"), 5, "Wykopaliska: \xB3\xF3\x9F"); // "łóź" in windows-1250
+    writeFile(sheet, polish);
+    ASSERT_EQ(runCli({"convert", sheet, out("again.mdt")}, {"LC_ALL=pl_PL.UTF-8"}).status, 0);
+    EXPECT_NE(fileBytes(out("again.mdt")).find("Description=Wykopaliska: \xB3\xF3\x9F\r\n"),
+              std::string::npos);
+    EXPECT_NE(runCli({"info", sheet}, {"LC_ALL=pl_PL.UTF-8"}).out.find("description: Wykopaliska: łóź\n"),
+              std::string::npos);
+    EXPECT_NE(runCli({"info", sheet, "--code-page", "1250"}).out.find("description: Wykopaliska: łóź\n"),
+              std::string::npos);
+}
+
+TEST_F(CommandLine, InfoTellsASheet) {
+    EXPECT_EQ(
+        runCli({"info", sample("airquality.mdt")}).out,
+        "kind: data sheet\nrecords: 153\nvariables: 6\n"
+        "description: New York 1973: air quality on 153 days from May to September - 42 with missing values\n"
+        "missing values: 44\n");
+}
+
+TEST_F(CommandLine, InfoTellsADiagram) {
+    ASSERT_EQ(runCli({"diagram", sheet, out("d.dgr"), "--order", "simple"}).status, 0);
+    EXPECT_EQ(
+        runCli({"info", out("d.dgr")}).out,
+        "kind: diagram\nrecords: 3\nvariables: 1\ndescription: three\nmeasure: Euclidean (3)\ndiagram type: "
+        "dots\n"
+        "limits: 1.000 1.000 10.000 10.000\ncells in class 5: 3\ncells in class 4: 0\ncells in class 3: 4\n"
+        "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\n");
+}
+
+TEST_F(CommandLine, PictureDrawsASymbolForEachPair) {
+    ASSERT_EQ(runCli({"diagram", sheet, out("d.dgr")}).status, 0);
+    ASSERT_EQ(runCli({"picture", out("d.dgr"), out("d.svg")}).status, 0);
+    EXPECT_TRUE(matchesGolden(fileBytes(out("d.svg")), "cli/golden/three_on_a_line.svg"));
+}
+
+} // namespace
+} // namespace dorvan::test
