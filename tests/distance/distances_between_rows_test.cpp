@@ -172,6 +172,14 @@ TEST(DistancesBetweenRows, CustomizedDecidesTiesAsThePlainDefinitionDoes) {
     ExpectLikePlain(values, 40, 3, {DistanceType::Customized, 3, 3}, "ties");
 }
 
+// This number to the power 77 lies so near the middle of two floats that repeated multiplication ends on the
+// other side of it than std::pow does.
+TEST(DistancesBetweenRows, CustomizedDecidesNearTiesAsThePlainDefinitionDoes) {
+    FloatTable values(40, 1);
+    for (std::int32_t i = 2; i <= 40; i += 2) values(i, 1) = 0x1.ed6178p+0f;
+    ExpectLikePlain(values, 40, 1, {DistanceType::Customized, 77, 1}, "a near tie");
+}
+
 TEST(DistancesBetweenRows, IsSymmetricWithAZeroDiagonalForEveryMeasure) {
     const FloatTable values = RandomSheet(70, 20, 37u, Score);
     for (std::int16_t type = 0; type <= 11; ++type) {
