@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 
 namespace dorvan::test {
@@ -149,13 +150,20 @@ void DesktopTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
+QPoint DesktopTest::PlaceOf(GridWidget& grid, int row, int column) {
+    if (grid.CellRect(row, column).isEmpty()) grid.horizontalScrollBar()->setValue(0);
+    if (grid.CellRect(row, column).isEmpty()) grid.verticalScrollBar()->setValue(0);
+    EXPECT_FALSE(grid.CellRect(row, column).isEmpty()) << row << "," << column;
+    return grid.CellRect(row, column).center();
+}
+
 void DesktopTest::ClickCell(GridWidget& grid, int row, int column) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
 }
 
 void DesktopTest::DoubleClickCell(GridWidget& grid, int row, int column) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
-    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
 }
 
 QString DesktopTest::Sample(const QString& name) const { return QString(DORVAN_SAMPLES_FOLDER) + "/" + name; }

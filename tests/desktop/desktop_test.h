@@ -61,6 +61,8 @@ protected:
     void NewSheet(int records, int variables);
     void Type(const QString& text);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // In the viewport, scrolled to if need be.
+    QPoint PlaceOf(GridWidget& grid, int row, int column);
     void ClickCell(GridWidget& grid, int row, int column);
     void DoubleClickCell(GridWidget& grid, int row, int column);
 
