@@ -3,9 +3,12 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <random>
+#include <string>
+#include <utility>
 
 // The distances between all records of a sheet, beside the plain definition in the same run: the counter
 // "ratio" tells how many times the plain loop takes as long.

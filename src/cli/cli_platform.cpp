@@ -36,6 +36,18 @@ void Fill(frmCustomized& form, const Choices& choices) {
     form.Command1_Click();
 }
 
+void Fill(frmPrzedzal& form, const Choices& choices) {
+    ChooseMeasure(form, choices);
+    if (choices.type == "greyscale") form.Option1_Click();
+    if (choices.type == "dots") form.Option2_Click();
+    if (choices.type == "classic") form.Option3_Click();
+    if (choices.order == "none") form.Option6_Click();
+    if (choices.order == "simple") form.Option7_Click();
+    if (choices.order == "genetic") form.Option8_Click();
+    if (choices.order == "ravelin") form.Option9_Click();
+    form.Command3_Click();
+}
+
 } // namespace
 
 Answer CliPlatform::show(const Message& message) {
@@ -50,6 +62,7 @@ void CliPlatform::showModal(Form& form) {
     form.Form_Show();
     if (auto* matrix = dynamic_cast<frmOpcjeMacierzy*>(&form)) Fill(*matrix, choices);
     if (auto* customized = dynamic_cast<frmCustomized*>(&form)) Fill(*customized, choices);
+    if (auto* diagram = dynamic_cast<frmPrzedzal*>(&form)) Fill(*diagram, choices);
     if (!form.Visible) return;
     const std::string reason =
         messages.empty() ? "the dialog " + form.Name + " has no answer" : messages.back();

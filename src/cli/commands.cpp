@@ -16,7 +16,10 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <initializer_list>
+#include <stdexcept>
 
 namespace dorvan::cli {
 
@@ -66,27 +69,37 @@ void Open(Run& run, const std::string& path, std::initializer_list<std::string_v
     if (run.kind() != kind) throw run.refusal("the file could not be read");
 }
 
+// A failure whose text names its file itself.
+struct SaveFailure : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
 // Saves the active document under the path.
 void Save(Run& run, const std::string& path) {
     const auto kind = run.kind();
     const std::int16_t slot = run.session.ActiveWindow->Index;
-    bool written = true;
-    if (kind == DocumentKind::Data) written = WriteDataFile(run.session, path);
-    if (kind == DocumentKind::Matrix) MatrixWindow(run.session, slot).SaveMatrixNew(path);
-    if (kind == DocumentKind::Diagram) written = DiagramWindow(run.session, slot).SaveDiagramNew(path);
-    if (!written) throw Refusal("the file could not be written: " + path);
+    try {
+        if (kind == DocumentKind::Data) WriteDataFile(run.session, path);
+        if (kind == DocumentKind::Matrix) MatrixWindow(run.session, slot).SaveMatrixNew(path);
+        if (kind == DocumentKind::Diagram) DiagramWindow(run.session, slot).SaveDiagramNew(path);
+    } catch (const RuntimeFailure& failure) {
+        throw SaveFailure(failure.what());
+    }
+    if (!run.session.SilentFailure.empty()) throw SaveFailure(path + ": " + run.session.SilentFailure);
 }
 
-// Runs the work and tells a failure in one line that names the file.
+// Does the work and tells a failure in one line that names the file.
 template <class Work> int Reported(const std::string& file, const Work& work) {
     std::string reason;
     try {
         work();
         return 0;
+    } catch (const SaveFailure& failure) {
+        reason = failure.what();
     } catch (const std::exception& failure) {
         reason = failure.what();
+        if (reason.find(file) == std::string::npos) reason = file + ": " + reason;
     }
-    if (reason.find(file) == std::string::npos) reason = file + ": " + reason;
     fmt::print(stderr, "dorvan-cli: {}\n", reason);
     return 1;
 }
@@ -116,6 +129,10 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
 }
 
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings) {
+    if (KindOf(in) != KindOf(out)) {
+        fmt::print(stderr, "dorvan-cli: {} and {} are not of the same kind\n", in, out);
+        return 2;
+    }
     return Reported(in, [&] {
         Run run({}, surroundings);
         Open(run, in, {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram});
@@ -136,7 +153,13 @@ int RunPicture(const std::string& diagram, const std::string& out, const Surroun
         Run run({}, surroundings);
         Open(run, diagram, {DocumentKind::Diagram});
         auto& window = DiagramWindow(run.session, run.session.ActiveWindow->Index);
-        ReplaceFile(out, DiagramSvg(window.Document(), window.BottomText.Text, run.session.DecimalSeparator));
+        const auto picture =
+            DiagramSvg(window.Document(), window.BottomText.Text, run.session.DecimalSeparator);
+        try {
+            ReplaceFile(out, picture);
+        } catch (const FileError& error) {
+            throw SaveFailure(fmt::format("{}: {}", out, error.what()));
+        }
     });
 }
 

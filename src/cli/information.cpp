@@ -2,7 +2,6 @@
 
 #include "distance/frmMacierz.h"
 #include "distance/measure_lists.h"
-#include "making/order_quality.h"
 #include "numbers/number_text.h"
 #include "sheet/frmNotePad.h"
 #include "view/frmDiagram.h"
@@ -38,13 +37,16 @@ std::string TypeText(std::int16_t type) {
 
 std::string Number(double value, char separator) { return FormatPattern(value, "###0.000", separator); }
 
+// The sum of the distances of following records.
+double PathLength(const FloatTable& distances) {
+    double length = 0;
+    for (std::int32_t place = 1; place < distances.Rows(); ++place) length += distances(place, place + 1);
+    return length;
+}
+
 // How good the order is as it stands.
 void AddQuality(Lines& lines, const FloatTable& distances, char separator) {
     lines.add("path length", Number(PathLength(distances), separator));
-    if (distances.Rows() < 2) return;
-    lines.add("F", FormatPattern(ScoreOfOrder(distances), "###0.00000", separator));
-    lines.add("UM coefficient", UmText(distances, separator));
-    lines.add("anti-Robinson events", static_cast<long>(AntiRobinsonEvents(distances)));
 }
 
 long MissingValues(const frmNotePad& sheet) {

@@ -33,7 +33,7 @@ std::string Text(int x, int y, std::string_view anchor, std::string_view text) {
 
 // A tile as the rectangles of its runs of equal dark pixels; white is left out.
 std::string TileShape(Tile tile) {
-    const auto& pixels = ImageOf(tile);
+    const auto& pixels = ImageOf(tile).Pixels;
     std::string shape;
     for (int row = 0; row < Cell; ++row)
         for (int column = 0; column < Cell;) {

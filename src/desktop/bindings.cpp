@@ -20,6 +20,8 @@ namespace dorvan {
 
 namespace {
 
+constexpr int LongestText = 32767;
+
 template <class Box> void MirrorItems(Box* box, const ListBox& control) {
     bool same = box->count() == static_cast<int>(control.List.size());
     for (int item = 0; same && item < box->count(); ++item) {
@@ -132,8 +134,11 @@ void Bindings::Field(QLineEdit* field, TextBox& control, const QString& accessib
     });
     mirrors_.push_back([field, &control] {
         const QSignalBlocker blocker(field);
-        field->setMaxLength(control.MaxLength > 0 ? control.MaxLength : 32767);
-        field->setAlignment(ToQt(control.TextAlignment));
+        // Even the same length would take the selection away.
+        const int longest = control.MaxLength > 0 ? control.MaxLength : LongestText;
+        if (field->maxLength() != longest) field->setMaxLength(longest);
+        if (field->alignment() != ToQt(control.TextAlignment))
+            field->setAlignment(ToQt(control.TextAlignment));
         const QString text = dorvan::ToQt(control.Text);
         if (field->text() == text) return;
         field->setText(text);

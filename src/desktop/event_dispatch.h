@@ -25,7 +25,7 @@ public:
     // Handlers that have not returned yet. Above 1 an event arrived during another one's work.
     int Depth() const { return depth_; }
 
-    Handler afterEvent;                                  // looks whether the run has to end
+    Handler afterEvent;                                 // looks whether the run has to end
     std::function<void(const std::string& what)> onEnd; // what ends the run; it should not return
 
 private:

@@ -28,6 +28,7 @@ FormFace::FormFace(Form& form, EventDispatch& dispatch, QWidget* parent)
 }
 
 void FormFace::Mirror() {
+    if (retired_) return;
     if (const QString title = ToQt(form_.Caption); windowTitle() != title) setWindowTitle(title);
     if (!form_.Visible && isVisible()) hide();
 }
@@ -45,6 +46,13 @@ void FormFace::RunModal() {
     dispatch_.Mirror();
     if (form_.Visible) loop.exec();
     hide();
+}
+
+void FormFace::Retire() {
+    retired_ = true;
+    bindings_->Detach();
+    hide();
+    deleteLater();
 }
 
 QFormLayout* FormFace::AddRows() {
@@ -91,7 +99,7 @@ void FormFace::AddButtons(const std::vector<std::pair<const CommandButton*, Bind
 }
 
 void FormFace::reject() {
-    dispatch_.Run([this] { form_.CancelCommand(); });
+    if (!retired_) dispatch_.Run([this] { form_.CancelCommand(); });
 }
 
 void FormFace::closeEvent(QCloseEvent* event) {

@@ -21,6 +21,9 @@ public:
     // Comes up, and returns once the form is hidden.
     void RunModal();
 
+    // Off the screen for good, and deleted once no event of its own is under way.
+    void Retire();
+
     Form& Shown() { return form_; }
     Bindings& Binder() { return *bindings_; }
 
@@ -43,6 +46,7 @@ private:
 
     Form& form_;
     EventDispatch& dispatch_;
+    bool retired_ = false;
     Bindings* bindings_;
     QVBoxLayout* column_;
 };

@@ -9,9 +9,9 @@ namespace dorvan {
 
 std::unique_ptr<FormFace> MakeFormFace(Form& form, EventDispatch& dispatch, QWidget* parent) {
     static const std::map<std::string, void (*)(FormFace&)> faces = {
-        {"frmAbout", LayOutAbout},
-        {"frmNowy", LayOutNowy},
-        {"frmCustomized", LayOutCustomized},
+        {"frmAbout", LayOutAbout},           {"frmNowy", LayOutNowy},
+        {"frmCustomized", LayOutCustomized}, {"frmOpcjeMacierzy", LayOutOptionsOfMatrix},
+        {"frmPrzedzal", LayOutPrzedzal},
     };
     const auto found = faces.find(form.Name);
     if (found == faces.end()) throw RuntimeFailure(Failure::InvalidProcedureCall, form.Name);

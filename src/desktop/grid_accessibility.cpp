@@ -111,7 +111,8 @@ public:
     // The cells are the children, row by row, the fixed ones among them.
     int childCount() const override { return rowCount() * columnCount(); }
     QAccessibleInterface* child(int index) const override {
-        return columnCount() > 0 && index >= 0 ? cellAt(index / columnCount(), index % columnCount()) : nullptr;
+        return columnCount() > 0 && index >= 0 ? cellAt(index / columnCount(), index % columnCount())
+                                               : nullptr;
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
         auto* cell = const_cast<QAccessibleInterface*>(child)->tableCellInterface();

@@ -69,8 +69,7 @@ int GridWidget::Axis::FirstThatShows(int cell, int room) const {
     if (cell < fixed) return first;
     if (cell < first) return cell;
     int shown = first;
-    while (shown < cell &&
-           FixedEnd() + edges[std::size_t(cell) + 1] - edges[std::size_t(shown)] > room)
+    while (shown < cell && FixedEnd() + edges[std::size_t(cell) + 1] - edges[std::size_t(shown)] > room)
         ++shown;
     return shown;
 }
@@ -145,8 +144,10 @@ void GridWidget::Mirror() {
     Measure();
     const QPoint current(grid_->Column(), grid_->Row());
     if (current != shownCurrent_) {
+        // A document opens at its upper left corner, wherever its filling left the current cell.
+        const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        ShowCurrent();
+        if (!opening) ShowCurrent();
         TellCurrent();
     }
     viewport()->update();
@@ -154,8 +155,8 @@ void GridWidget::Mirror() {
 
 void GridWidget::ShowCurrent() {
     if (grid_->Rows() == 0 || grid_->Columns() == 0) return;
-    verticalScrollBar()->setValue(
-        rows_.FirstThatShows(grid_->Row(), int(viewport()->height() * Ratio())) - rows_.fixed);
+    verticalScrollBar()->setValue(rows_.FirstThatShows(grid_->Row(), int(viewport()->height() * Ratio())) -
+                                  rows_.fixed);
     horizontalScrollBar()->setValue(
         columns_.FirstThatShows(grid_->Column(), int(viewport()->width() * Ratio())) - columns_.fixed);
 }
@@ -193,13 +194,13 @@ const QImage& GridWidget::ScaledTile(std::uint8_t picture) const {
     if (found != scaledTiles_.end()) return *found;
     const QImage image = pictures_.image ? pictures_.image(picture) : QImage();
     const double ratio = Ratio();
-    return *scaledTiles_.insert(
-        picture, image.isNull() ? image
-                                : image
-                                      .scaled(int(std::lround(image.width() * ratio)),
-                                              int(std::lround(image.height() * ratio)),
-                                              Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                                      .convertToFormat(QImage::Format_RGB32));
+    return *scaledTiles_.insert(picture, image.isNull()
+                                             ? image
+                                             : image
+                                                   .scaled(int(std::lround(image.width() * ratio)),
+                                                           int(std::lround(image.height() * ratio)),
+                                                           Qt::IgnoreAspectRatio, Qt::FastTransformation)
+                                                   .convertToFormat(QImage::Format_RGB32));
 }
 
 void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
@@ -216,7 +217,8 @@ void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
             painter.drawImage(rect.left() + (rect.width() - tile.width()) / 2,
                               rect.top() + (rect.height() - tile.height()) / 2, tile);
     if (const auto& text = grid_->Text(row, column); !text.empty()) {
-        const QRect inner = rect.width() < 4 * paint.margin ? rect : rect.adjusted(paint.margin, 0, -paint.margin, 0);
+        const QRect inner =
+            rect.width() < 4 * paint.margin ? rect : rect.adjusted(paint.margin, 0, -paint.margin, 0);
         QString shown = dorvan::ToQt(text);
         if (rect.width() >= NarrowestElidedCell)
             shown = painter.fontMetrics().elidedText(shown, Qt::ElideRight, inner.width());
@@ -236,7 +238,9 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     if (!grid_ || measuredRatio_ != Ratio()) {
         painter.fillRect(event->rect(), palette().base());
-        if (grid_) QMetaObject::invokeMethod(this, [this] { Mirror(); }, Qt::QueuedConnection);
+        if (grid_)
+            QMetaObject::invokeMethod(
+                this, [this] { Mirror(); }, Qt::QueuedConnection);
         return;
     }
     // From here on a unit is a device pixel, also where the viewport begins between two of them.
@@ -250,10 +254,13 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     painter.setFont(font);
     const QColor base = palette().color(QPalette::Base);
     const QColor text = palette().color(QPalette::Text);
-    CellPaint paint{painter, QPen(Blend(base, text, 0.22), std::max(1, int(ratio))),
-                    Blend(palette().color(QPalette::Button), text, 0.04), int(std::lround(TextMargin * ratio)),
+    CellPaint paint{painter,
+                    QPen(Blend(base, text, 0.22), std::max(1, int(ratio))),
+                    Blend(palette().color(QPalette::Button), text, 0.04),
+                    int(std::lround(TextMargin * ratio)),
                     {}};
-    const QRect exposed(int(std::floor(event->rect().left() * ratio)), int(std::floor(event->rect().top() * ratio)),
+    const QRect exposed(int(std::floor(event->rect().left() * ratio)),
+                        int(std::floor(event->rect().top() * ratio)),
                         int(std::ceil(event->rect().width() * ratio)) + 2,
                         int(std::ceil(event->rect().height() * ratio)) + 2);
     painter.fillRect(exposed, Blend(base, palette().color(QPalette::Window), 0.5));
@@ -273,11 +280,13 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     });
     const int row = grid_->Row();
     const int column = grid_->Column();
-    if (row >= rows_.Count() || column >= columns_.Count() || rows_.Scrolled(row) || columns_.Scrolled(column))
+    if (row >= rows_.Count() || column >= columns_.Count() || rows_.Scrolled(row) ||
+        columns_.Scrolled(column))
         return;
     const int width = std::max(1, int(std::lround((hasFocus() ? 2 : 1) * ratio)));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(hasFocus() ? QPalette::Active : QPalette::Inactive, QPalette::Highlight));
+    painter.setBrush(
+        palette().color(hasFocus() ? QPalette::Active : QPalette::Inactive, QPalette::Highlight));
     const QRect cell(columns_.Start(column), rows_.Start(row), columns_.Size(column), rows_.Size(row));
     painter.drawRect(cell.left(), cell.top(), cell.width(), width);
     painter.drawRect(cell.left(), cell.bottom() + 1 - width, cell.width(), width);
@@ -309,7 +318,8 @@ void GridWidget::scrollContentsBy(int dx, int dy) {
     if (dx != 0) {
         const int moved =
             oldColumns.edges[std::size_t(oldColumns.first)] - columns_.edges[std::size_t(columns_.first)];
-        viewport()->scroll(moved / whole, 0, viewport()->rect().adjusted(columns_.FixedEnd() / whole, 0, 0, 0));
+        viewport()->scroll(moved / whole, 0,
+                           viewport()->rect().adjusted(columns_.FixedEnd() / whole, 0, 0, 0));
     }
 }
 
@@ -318,7 +328,8 @@ void GridWidget::Forward(const std::function<void()>& handler) {
 }
 
 void GridWidget::MoveTo(int row, int column) {
-    if (row >= 0 && row < grid_->Rows() && column >= 0 && column < grid_->Columns()) grid_->SetCurrent(row, column);
+    if (row >= 0 && row < grid_->Rows() && column >= 0 && column < grid_->Columns())
+        grid_->SetCurrent(row, column);
 }
 
 void GridWidget::MakeCurrent(int row, int column) {
@@ -335,9 +346,14 @@ bool GridWidget::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
     case Qt::Key_Up: grid_->ArrowKey(key::Up); return true;
     case Qt::Key_Right: grid_->ArrowKey(key::Right); return true;
     case Qt::Key_Down: grid_->ArrowKey(key::Down); return true;
-    case Qt::Key_PageUp: MoveTo(std::max(grid_->Row() - page, std::min(grid_->FixedRows, lastRow)), grid_->Column()); return true;
+    case Qt::Key_PageUp:
+        MoveTo(std::max(grid_->Row() - page, std::min(grid_->FixedRows, lastRow)), grid_->Column());
+        return true;
     case Qt::Key_PageDown: MoveTo(std::min(grid_->Row() + page, lastRow), grid_->Column()); return true;
-    case Qt::Key_Home: MoveTo(control ? std::min(grid_->FixedRows, lastRow) : grid_->Row(), std::min(grid_->FixedColumns, lastColumn)); return true;
+    case Qt::Key_Home:
+        MoveTo(control ? std::min(grid_->FixedRows, lastRow) : grid_->Row(),
+               std::min(grid_->FixedColumns, lastColumn));
+        return true;
     case Qt::Key_End: MoveTo(control ? lastRow : grid_->Row(), lastColumn); return true;
     default: return false;
     }
@@ -345,7 +361,8 @@ bool GridWidget::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
 
 bool GridWidget::event(QEvent* event) {
     // Esc and the like are the grid's own while it has the focus, not a shortcut's.
-    if (event->type() == QEvent::ShortcutOverride && CharacterOf(static_cast<QKeyEvent&>(*event)) != key::None) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        CharacterOf(static_cast<QKeyEvent&>(*event)) != key::None) {
         event->accept();
         return true;
     }
@@ -373,7 +390,8 @@ void GridWidget::ClickAt(QPoint place) {
     const int row = cell.y();
     const int column = cell.x();
     if (row < 0 || column < 0) return;
-    MoveTo(row < grid_->FixedRows ? grid_->Row() : row, column < grid_->FixedColumns ? grid_->Column() : column);
+    MoveTo(row < grid_->FixedRows ? grid_->Row() : row,
+           column < grid_->FixedColumns ? grid_->Column() : column);
 }
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {

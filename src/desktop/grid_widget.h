@@ -84,9 +84,9 @@ private:
         int Start(int cell) const;
         int Size(int cell) const { return edges[std::size_t(cell) + 1] - edges[std::size_t(cell)]; }
         bool Scrolled(int cell) const { return cell >= fixed && cell < first; }
-        int CellAt(int place) const;                   // -1: behind the last one
-        int LastFirst(int room) const;                 // the highest `first` that fills the room
-        int CellsIn(int room) const;                   // whole cells from `first` on, at least 1
+        int CellAt(int place) const;                  // -1: behind the last one
+        int LastFirst(int room) const;                // the highest `first` that fills the room
+        int CellsIn(int room) const;                  // whole cells from `first` on, at least 1
         int FirstThatShows(int cell, int room) const; // the nearest `first` that shows the cell whole
     };
 

@@ -8,6 +8,10 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+// The drawings are linked from a library, which does not register them by itself. (The macro cannot stand in
+// a namespace.)
+static void RegisterDrawings() { Q_INIT_RESOURCE(dorvan); }
+
 namespace dorvan {
 
 namespace {
@@ -22,7 +26,9 @@ public:
         const QPalette palette = QGuiApplication::palette();
         const QColor line = palette.color(group, QPalette::WindowText);
         const bool dark = palette.color(QPalette::Window).lightness() < 128;
-        const QColor accent = mode == QIcon::Disabled ? line : dark ? QColor(0x6f, 0xb3, 0xff) : QColor(0x1f, 0x63, 0xb8);
+        const QColor accent = mode == QIcon::Disabled ? line
+                              : dark                  ? QColor(0x6f, 0xb3, 0xff)
+                                                      : QColor(0x1f, 0x63, 0xb8);
         QByteArray coloured = drawing_;
         coloured.replace("currentColor", line.name().toUtf8());
         coloured.replace("accentColor", accent.name().toUtf8());
@@ -45,12 +51,19 @@ private:
 
 } // namespace
 
-QIcon ThemedIcon(const QString& name) {
-    QFile file(":/icons/" + name + ".svg");
+namespace {
+
+QIcon DrawnIcon(const QString& path) {
+    RegisterDrawings();
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
     return QIcon(new ThemedIconEngine(file.readAll()));
 }
 
-QIcon ProgramIcon() { return QIcon(":/dorvan.svg"); }
+} // namespace
+
+QIcon ThemedIcon(const QString& name) { return DrawnIcon(":/icons/" + name + ".svg"); }
+
+QIcon ProgramIcon() { return DrawnIcon(":/dorvan.svg"); } // it has colours of its own
 
 } // namespace dorvan

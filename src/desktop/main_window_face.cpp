@@ -55,7 +55,8 @@ MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& d
 void MainWindowFace::BuildMenu(QWidget& parent, QMenu& menu, const std::vector<MenuItem>& items) {
     for (const auto& item : items) {
         if (item.Items.empty()) {
-            if (QAction* action = BuildItem(menu, item); !item.Name.empty()) items_.emplace_back(item.Name, action);
+            if (QAction* action = BuildItem(menu, item); !item.Name.empty())
+                items_.emplace_back(item.Name, action);
             continue;
         }
         QMenu* submenu = menu.addMenu(ToQt(item.Caption));
@@ -119,7 +120,8 @@ void MainWindowFace::MirrorToolbars() {
 }
 
 void MainWindowFace::Mirror() {
-    if (const QString title = ToQt(session_.mainWindow.Caption); windowTitle() != title) setWindowTitle(title);
+    if (const QString title = ToQt(session_.mainWindow.Caption); windowTitle() != title)
+        setWindowTitle(title);
     for (const auto& [name, action] : items_) {
         action->setEnabled(shell_.MenuEnabled(name));
         action->setVisible(shell_.MenuShown(name));

@@ -1,4 +1,5 @@
 #include "desktop/child_faces.h"
+#include "platform/keys.h"
 #include "sheet/frmNotePad.h"
 
 #include <QHBoxLayout>

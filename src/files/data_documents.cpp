@@ -78,14 +78,14 @@ void ReadOldDataFile(Session& session, const std::string& path) {
 bool WriteDataFile(Session& session, const std::string& path) {
     const frmNotePad& window = ActiveDataWindow(session);
     const WaitCursor wait(session.platform);
-    bool written = false;
+    session.SilentFailure.clear();
     try {
         ReplaceFile(path, ComposeDataFile(window.Grid1, window.OpisText.Text, FileTextOf(session)));
-        written = true;
-    } catch (const FileError&) { // silent by design: the document counts as saved all the same
+    } catch (const FileError& error) { // silent by design: the document counts as saved all the same
+        session.SilentFailure = error.what();
     }
     session.DataStates.at(std::size_t(window.Index)).Dirty = false;
-    return written;
+    return session.SilentFailure.empty();
 }
 
 void SaveData(Session& session) {

@@ -119,13 +119,15 @@ void ReadOldDiagramFile(Session& session, const std::string& path) {
 bool WriteDiagramFile(Session& session, const std::string& path, const DiagramDocument& document,
                       const std::string& description) {
     const WaitCursor wait(session.platform);
+    session.SilentFailure.clear();
     try {
         ReplaceFile(path, ComposeDiagramFile(document, description, FileTextOf(session)));
-        return true;
-    } catch (const FileError&) {
-    } catch (const RuntimeFailure&) { // a value that no file can hold
+    } catch (const FileError& error) {
+        session.SilentFailure = error.what();
+    } catch (const RuntimeFailure& failure) { // a value that no file can hold
+        session.SilentFailure = failure.what();
     }
-    return false;
+    return session.SilentFailure.empty();
 }
 
 } // namespace dorvan

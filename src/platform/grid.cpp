@@ -100,17 +100,12 @@ void Grid::RemoveRow(int row) {
 }
 
 void Grid::ArrowKey(int keyCode) {
-    int row = row_;
-    int column = column_;
-    switch (keyCode) {
-    case key::Left: --column; break;
-    case key::Right: ++column; break;
-    case key::Up: --row; break;
-    case key::Down: ++row; break;
-    default: return;
-    }
-    if (row < FixedRows || row >= rows_ || column < FixedColumns || column >= columns_) return;
-    SetCurrent(row, column);
+    const bool upright = keyCode == key::Up || keyCode == key::Down;
+    const int step = keyCode == key::Right || keyCode == key::Down ? 1 : -1;
+    if (!upright && keyCode != key::Left && keyCode != key::Right) return;
+    const int place = (upright ? row_ : column_) + step;
+    if (place < (upright ? FixedRows : FixedColumns) || place >= (upright ? rows_ : columns_)) return;
+    SetCurrent(upright ? place : row_, upright ? column_ : place);
 }
 
 } // namespace dorvan

@@ -53,7 +53,8 @@ public:
 
     void RemoveRow(int row);
 
-    // One step of the current cell by an arrow key code, not into the fixed cells and not over the edge.
+    // One step of the current cell by an arrow key code, not into the fixed cells and not over the edge. A
+    // current cell that a rule has put into a fixed row or column moves along it, and out of it.
     void ArrowKey(int keyCode);
 
     // Grows with every change: a face that has painted a revision need not paint it again.

@@ -57,7 +57,7 @@ bool frmMDI::Exists(std::string_view command) const {
     if (command.empty() || IsOwnCommand(command)) return true;
     if (!IsRoutedCommand(command)) return session_.commands.Has(command);
     const auto operation = RoutedOperation(command, ActiveKind());
-    return operation.empty() || session_.commands.Has(operation);
+    return !operation.empty() && session_.commands.Has(operation);
 }
 
 bool frmMDI::MenuEnabled(const std::string& item) const {

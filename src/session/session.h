@@ -47,6 +47,7 @@ struct Session {
     Flags RecordHasNA;
     bool DataHasNA = false;
     bool PendingError = false; // the pending-error indicator
+    std::string SilentFailure; // why the last writer that tells nothing could not write; empty: it could
 
     // Analysis options.
     Array1<float> SectionLimits; // four, unset until the first diagram

@@ -135,6 +135,7 @@ void frmDiagram::Form_Activate() {
     const bool hasData = !Document().NoData;
     SwitchMakeButtons(mainWindow, false);
     SwitchSaveButtons(mainWindow, true);
+    SetIcons(RowSelected == 1); // another diagram may have left them as it needs them
     mainWindow.ShowToolbar("toolDiagram", true);
     mainWindow.ShowButton("toolDiagram", "DataOrder", hasData);
     SwitchMenus(mainWindow, ExportMenus, true);

@@ -1,5 +1,7 @@
 #include "making/plain_making.h"
 
+#include "distance/plain_measures.h"
+
 #include <cmath>
 #include <utility>
 
@@ -63,16 +65,6 @@ Order PlainSimpleOrder(const FloatTable& distances) {
     return order;
 }
 
-FloatTable PlainDistances(const FloatTable& values, const Measure& measure) {
-    const std::int32_t n = values.Rows();
-    const std::int32_t m = values.Columns();
-    FloatTable distances(n, n);
-    for (std::int32_t i = 1; i <= n; ++i)
-        for (std::int32_t j = i + 1; j <= n; ++j)
-            distances(i, j) = distances(j, i) = DistanceBetween(values.Row(i), values.Row(j), m, measure);
-    return distances;
-}
-
 namespace {
 
 std::int16_t PlainClass(float v, const Array1<float>& limits) {
@@ -103,11 +95,11 @@ DiagramDocument PlainDiagram(const FloatTable& values, const Names& recordNames,
     document.Data = values;
     document.RecordNames = recordNames;
     document.VariableNames = variableNames;
-    document.Matrix = PlainDistances(values, measure);
+    document.Matrix = plainDistances(values, values.Rows(), values.Columns(), measure);
     document.SectionLimits = PlainAutomaticLimits(document.Matrix);
     if (ordered) {
         PlainRewrite(document, PlainSimpleOrder(document.Matrix));
-        document.Matrix = PlainDistances(document.Data, measure);
+        document.Matrix = plainDistances(document.Data, values.Rows(), values.Columns(), measure);
     }
     document.Classes = Array2<std::int16_t>(document.RecCount, document.RecCount);
     for (std::int32_t i = 1; i <= document.RecCount; ++i)

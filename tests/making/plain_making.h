@@ -14,9 +14,6 @@ Array1<float> PlainAutomaticLimits(const FloatTable& distances);
 
 Order PlainSimpleOrder(const FloatTable& distances);
 
-// Pair by pair.
-FloatTable PlainDistances(const FloatTable& values, const Measure& measure);
-
 // The document of a diagram made from a sheet, with the simple order or with none.
 DiagramDocument PlainDiagram(const FloatTable& values, const Names& recordNames, const Names& variableNames,
                              const Measure& measure, bool ordered);

@@ -1,0 +1,340 @@
+#include "desktop/qt_platform.h"
+
+#include "desktop/qt_text.h"
+#include "session/children.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMdiArea>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSettings>
+#include <QTime>
+
+#include <stdexcept>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+constexpr qint64 MillisecondsBetweenRuns = 8;
+
+// Over the window that the user works in.
+QWidget* ParentOfDialogs() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frmMDI") return window;
+    return nullptr;
+}
+
+QMessageBox::Icon ToQt(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Critical: return QMessageBox::Critical;
+    case MessageIcon::Question: return QMessageBox::Question;
+    case MessageIcon::Exclamation: return QMessageBox::Warning;
+    case MessageIcon::Information: return QMessageBox::Information;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+QMessageBox::StandardButton ToQt(Answer answer) {
+    switch (answer) {
+    case Answer::Yes: return QMessageBox::Yes;
+    case Answer::No: return QMessageBox::No;
+    case Answer::Cancel: return QMessageBox::Cancel;
+    default: return QMessageBox::Ok;
+    }
+}
+
+// A wait cursor does not stand over a question.
+class PlainCursor {
+public:
+    PlainCursor() : hidden_(QGuiApplication::overrideCursor() != nullptr) {
+        if (hidden_) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
+    }
+    ~PlainCursor() {
+        if (hidden_ && QGuiApplication::overrideCursor())
+            QGuiApplication::changeOverrideCursor(Qt::WaitCursor);
+    }
+    PlainCursor(const PlainCursor&) = delete;
+    PlainCursor& operator=(const PlainCursor&) = delete;
+
+private:
+    bool hidden_;
+};
+
+} // namespace
+
+Answer QtMessages::show(const Message& message) {
+    dispatch_.Mirror();
+    const PlainCursor cursor;
+    QMessageBox box(ParentOfDialogs());
+    box.setObjectName("MessageBox");
+    box.setWindowTitle(dorvan::ToQt(message.Title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(dorvan::ToQt(message.Text).replace("\r\n", "\n"));
+    box.setIcon(ToQt(message.Icon));
+    if (message.Buttons == MessageButtons::Ok) {
+        box.setStandardButtons(QMessageBox::Ok);
+        box.exec();
+        return Answer::Ok;
+    }
+    const bool cancels = message.Buttons == MessageButtons::YesNoCancel;
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    if (cancels) box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(ToQt(message.Default));
+    // A Yes-or-No question has no way around an answer: Esc and the close control stand for No.
+    box.setEscapeButton(cancels ? QMessageBox::Cancel : QMessageBox::No);
+    switch (box.exec()) {
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::Cancel: return Answer::Cancel;
+    default: return Answer::No;
+    }
+}
+
+std::string QtFiles::Ask(QFileDialog& dialog, const FileRequest& request) {
+    dispatch_.Mirror();
+    const PlainCursor cursor;
+    dialog.setObjectName("FileDialog");
+    dialog.setWindowTitle(dorvan::ToQt(request.Title));
+    QStringList filters;
+    for (const auto& filter : request.Filters) {
+        const QString description = dorvan::ToQt(filter.Description);
+        const QString wildcard = "(" + dorvan::ToQt(filter.Wildcard) + ")";
+        filters += description.endsWith(wildcard) ? description : description + " " + wildcard;
+    }
+    dialog.setNameFilters(filters);
+    if (!request.StartFolder.empty()) dialog.setDirectory(dorvan::ToQt(request.StartFolder));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return FromQt(dialog.selectedFiles().first());
+}
+
+std::string QtFiles::toOpen(const FileRequest& request) {
+    QFileDialog dialog(ParentOfDialogs());
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return Ask(dialog, request);
+}
+
+std::string QtFiles::toSave(const FileRequest& request) {
+    QFileDialog dialog(ParentOfDialogs());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    QString extension = dorvan::ToQt(request.Extension);
+    dialog.setDefaultSuffix(extension.mid(extension.lastIndexOf('.') + 1)); // "*.mtx" stands for "mtx"
+    return Ask(dialog, request);
+}
+
+void QtForms::showModal(Form& form) {
+    dispatch_.Mirror();
+    const PlainCursor cursor;
+    const auto face = MakeFormFace(form, dispatch_, ParentOfDialogs());
+    face->RunModal();
+}
+
+void QtForms::show(Form& form) {
+    form.Visible = true;
+    form.Form_Show();
+    auto& face = open_[&form];
+    if (!face) face = MakeFormFace(form, dispatch_, ParentOfDialogs());
+    face->setWindowFlag(Qt::WindowStaysOnTopHint);
+    face->setWindowModality(Qt::NonModal);
+    face->show();
+    news_ = true;
+}
+
+// The screen follows at the next run of events.
+void QtForms::update(Form& form) {
+    if (open_.contains(&form) && form.Visible) return;
+    close(form);
+}
+
+void QtForms::close(Form& form) {
+    form.Visible = false;
+    const auto found = open_.find(&form);
+    if (found == open_.end()) return;
+    FormFace* face = found->second.release(); // its own event may be the one that closes it
+    open_.erase(found);
+    face->Retire();
+    news_ = true;
+}
+
+void QtChildren::Attach(ChildContext context, QMdiArea& area) {
+    context_ = std::make_unique<ChildContext>(std::move(context));
+    area_ = &area;
+    QObject::connect(&area, &QMdiArea::subWindowActivated, &area, [this](QMdiSubWindow* subWindow) {
+        auto* face = dynamic_cast<ChildFace*>(subWindow);
+        if (!face || !face->Window()) return;
+        context_->dispatch.Run([&] { ActivateChild(context_->session, *face->Window()); });
+    });
+}
+
+ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
+    const auto found = faces_.find(&window);
+    return found == faces_.end() ? nullptr : found->second.data();
+}
+
+void QtChildren::show(ChildWindow& window) {
+    ChildFace* face = FaceOf(window);
+    if (!face) {
+        face = MakeChildFace(window, *context_);
+        faces_[&window] = face;
+        area_->addSubWindow(face);
+        face->Place();
+        face->show();
+    }
+    face->Mirror();
+    area_->setActiveSubWindow(face);
+}
+
+void QtChildren::update(ChildWindow& window) {
+    if (ChildFace* face = FaceOf(window)) face->Mirror();
+}
+
+void QtChildren::close(ChildWindow& window) {
+    ChildFace* face = FaceOf(window);
+    faces_.erase(&window);
+    if (!face) return;
+    face->Detach();
+    face->hide();
+    area_->removeSubWindow(face);
+    face->deleteLater();
+}
+
+void QtChildren::arrange(int mode) {
+    if (mode == 0) area_->cascadeSubWindows();
+    if (mode == 1) area_->tileSubWindows();
+    if (mode == 3) ArrangeIcons();
+}
+
+// The minimized windows side by side along the lower edge, row upon row.
+void QtChildren::ArrangeIcons() {
+    const QSize room = area_->viewport()->size();
+    int left = 0;
+    int bottom = room.height();
+    for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder)) {
+        if (!window->isMinimized()) continue;
+        if (left > 0 && left + window->width() > room.width()) {
+            left = 0;
+            bottom -= window->height();
+        }
+        window->move(left, bottom - window->height());
+        left += window->width();
+    }
+}
+
+void QtSignals::beep() { QApplication::beep(); }
+
+void QtSignals::setCursor(Cursor cursor) {
+    const bool wait = cursor == Cursor::Wait;
+    if (wait == waiting_) return;
+    waiting_ = wait;
+    if (wait)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+int QtEvents::run() {
+    if (!forms_.TakeNews() && sinceLast_.isValid() && sinceLast_.elapsed() < MillisecondsBetweenRuns)
+        return windows_;
+    dispatch_.Mirror();
+    QCoreApplication::processEvents();
+    sinceLast_.start();
+    windows_ = 0;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() != Qt::ToolTip) ++windows_;
+    return windows_;
+}
+
+namespace {
+
+struct NamedKey {
+    const char* name;
+    int key;
+};
+
+constexpr NamedKey NamedKeys[] = {
+    {"{TAB}", Qt::Key_Tab},    {"{HOME}", Qt::Key_Home},    {"{END}", Qt::Key_End}, {"{F2}", Qt::Key_F2},
+    {"{LEFT}", Qt::Key_Left},  {"{RIGHT}", Qt::Key_Right},  {"{UP}", Qt::Key_Up},   {"{DOWN}", Qt::Key_Down},
+    {"{ESC}", Qt::Key_Escape}, {"{ENTER}", Qt::Key_Return},
+};
+
+void SendKey(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    QWidget* target = QApplication::focusWidget();
+    if (QWidget* modal = QApplication::activeModalWidget();
+        modal && (!target || !modal->isAncestorOf(target)))
+        target = modal->focusWidget() ? modal->focusWidget() : modal;
+    if (!target) return;
+    const QPointer<QWidget> alive = target;
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(target, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+    if (alive) QCoreApplication::sendEvent(target, &release);
+}
+
+} // namespace
+
+void QtKeyboard::send(const std::string& keys) {
+    dispatch_.Mirror(); // a focus that a rule has just moved
+    const bool shift = keys.starts_with('+') && keys.size() > 1;
+    const std::string name = shift ? keys.substr(1) : keys;
+    const auto modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
+    for (const auto& named : NamedKeys)
+        if (name == named.name) {
+            SendKey(named.key, modifiers, {});
+            return;
+        }
+    for (const QChar character : dorvan::ToQt(keys)) SendKey(0, Qt::NoModifier, character);
+}
+
+int QtScreen::width() {
+    return QGuiApplication::primaryScreen()->availableGeometry().width() * TwipsPerPixel;
+}
+
+int QtScreen::height() {
+    return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
+}
+
+double QtClock::seconds() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+
+namespace {
+
+// Per user, in a text file under the user's configuration folder.
+class Section : public QSettings {
+public:
+    explicit Section(const std::string& name)
+        : QSettings(QSettings::IniFormat, QSettings::UserScope, "Dorvan", "Dorvan") {
+        beginGroup(dorvan::ToQt(name));
+    }
+};
+
+} // namespace
+
+std::string QtSettings::read(const std::string& section, const std::string& key, const std::string& missing) {
+    Section store(section);
+    return FromQt(store.value(dorvan::ToQt(key), dorvan::ToQt(missing)).toString());
+}
+
+void QtSettings::write(const std::string& section, const std::string& key, const std::string& value) {
+    Section store(section);
+    store.setValue(dorvan::ToQt(key), dorvan::ToQt(value));
+}
+
+std::vector<std::pair<std::string, std::string>> QtSettings::readSection(const std::string& section) {
+    Section store(section);
+    QStringList keys = store.childKeys();
+    keys.sort();
+    std::vector<std::pair<std::string, std::string>> values;
+    for (const auto& key : keys) values.emplace_back(FromQt(key), FromQt(store.value(key).toString()));
+    return values;
+}
+
+void QtHelp::show(const std::string& file, int) {
+    throw std::runtime_error("The help file " + file + " cannot be shown on this system.");
+}
+
+} // namespace dorvan

@@ -1,0 +1,218 @@
+#include "desktop_test.h"
+
+#include "desktop/qt_text.h"
+#include "session/menus.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace dorvan::test {
+
+namespace {
+
+void ExpectMenu(const QMenu& menu, const std::vector<MenuItem>& items) {
+    const auto actions = menu.actions();
+    ASSERT_EQ(actions.size(), qsizetype(items.size())) << menu.objectName().toStdString();
+    for (int place = 0; place < actions.size(); ++place) {
+        const QAction& action = *actions[place];
+        const MenuItem& item = items[std::size_t(place)];
+        EXPECT_EQ(action.objectName().toStdString(), item.Name);
+        EXPECT_EQ(action.isSeparator(), item.IsSeparator()) << item.Name;
+        if (item.Hidden) {
+            EXPECT_FALSE(action.isVisible()) << item.Name;
+        }
+        if (item.IsSeparator()) continue;
+        EXPECT_EQ(FromQt(action.text()), item.Caption);
+        const QString shortcut = item.Hidden ? QString() : ToQt(item.Shortcut);
+        EXPECT_EQ(FromQt(action.shortcut().toString()), FromQt(shortcut)) << item.Name;
+        if (!item.Items.empty()) ExpectMenu(*action.menu(), item.Items);
+    }
+}
+
+} // namespace
+
+using MainWindowTest = DesktopTest;
+
+TEST_F(MainWindowTest, CarriesTheProgramsCaption) {
+    EXPECT_EQ(desktop.mainWindow->windowTitle().toStdString(), "Dorvan 3.3.44");
+    EXPECT_EQ(desktop.mainWindow->objectName(), "frmMDI");
+}
+
+TEST_F(MainWindowTest, MenusFollowTheMenuTreeItemByItem) {
+    const auto actions = desktop.mainWindow->menuBar()->actions();
+    ASSERT_EQ(actions.size(), qsizetype(MenuTree().size()));
+    for (int place = 0; place < actions.size(); ++place) {
+        const auto& entry = MenuTree()[std::size_t(place)];
+        EXPECT_EQ(FromQt(actions[place]->text()), entry.Caption);
+        EXPECT_EQ(actions[place]->objectName().toStdString(), entry.Name);
+        ExpectMenu(*actions[place]->menu(), entry.Items);
+    }
+}
+
+TEST_F(MainWindowTest, ToolbarsFollowTheirTablesWithToolTipsIconsAndAccessibleNames) {
+    for (const auto& toolbar : Toolbars()) {
+        auto& bar = Find<QToolBar>(*desktop.mainWindow, ToQt(toolbar.Name));
+        ASSERT_EQ(bar.actions().size(), qsizetype(toolbar.Buttons.size())) << toolbar.Name;
+        for (int place = 0; place < bar.actions().size(); ++place) {
+            const auto& button = toolbar.Buttons[std::size_t(place)];
+            auto* action = bar.actions()[place];
+            EXPECT_EQ(FromQt(action->toolTip()), button.ToolTip);
+            EXPECT_FALSE(action->icon().isNull()) << button.Key;
+            EXPECT_EQ(FromQt(bar.widgetForAction(action)->accessibleName()), button.ToolTip);
+        }
+    }
+}
+
+TEST_F(MainWindowTest, StartsWithTheMainToolbarAloneAndDocumentCommandsOff) {
+    for (const auto& toolbar : Toolbars())
+        EXPECT_EQ(Find<QToolBar>(*desktop.mainWindow, ToQt(toolbar.Name)).isVisible(), toolbar.Name == "toolMain")
+            << toolbar.Name;
+    for (const auto* off : {"mnuSave", "mnuSaveAs", "mnuFileClose", "mnuFilePrint", "mnuExport", "mnuEditUp",
+                            "mnuAnalysisMatrix", "mnuAnalysisDiagram", "toolMain.Save", "toolMain.MakeMatrix"})
+        EXPECT_FALSE(Item(off).isEnabled()) << off;
+    for (const auto* on : {"mnuFNew", "mnuFData", "mnuFDiagram", "mnuFMatrix", "mnuFExit", "toolMain.New",
+                           "toolMain.Open", "toolMain.Help"})
+        EXPECT_TRUE(Item(on).isEnabled()) << on;
+}
+
+TEST_F(MainWindowTest, HiddenItemsAndEmptyRecentFilesAreNotSeen) {
+    for (const auto* hidden : {"mnuRaport", "mnuEditCell"}) EXPECT_FALSE(Item(hidden).isVisible()) << hidden;
+    for (int index = 0; index < RecentFileItems; ++index)
+        EXPECT_FALSE(Item(ToQt(RecentFileItem(index))).isVisible()) << index;
+    EXPECT_TRUE(Item("mnuSeparator").isVisible());
+    EXPECT_TRUE(Item("mnuSeparator").isSeparator());
+}
+
+TEST_F(MainWindowTest, TheToolbarCommandTogglesTheMainToolbarAndItsCheckMark) {
+    auto& bar = Find<QToolBar>(*desktop.mainWindow, "toolMain");
+    EXPECT_TRUE(Item("mnuOToolbar").isChecked());
+    Click("mnuOToolbar");
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(Item("mnuOToolbar").isChecked());
+    Click("mnuOToolbar");
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_TRUE(Item("mnuOToolbar").isChecked());
+}
+
+TEST_F(MainWindowTest, ASheetTurnsItsCommandsOnAndItsClosingTurnsThemOff) {
+    NewSheet(3, 2);
+    EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());
+    for (const auto* on : {"mnuSave", "mnuSaveAs", "mnuFileClose", "mnuAnalysisMatrix", "mnuAnalysisDiagram",
+                           "toolMain.Save", "toolMain.MakeDiagram"})
+        EXPECT_TRUE(Item(on).isEnabled()) << on;
+    EXPECT_FALSE(Item("toolMain.Print").isEnabled());
+    Click("mnuFileClose");
+    EXPECT_FALSE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());
+    EXPECT_FALSE(Item("mnuSave").isEnabled());
+    EXPECT_FALSE(Item("toolMain.MakeDiagram").isEnabled());
+}
+
+TEST_F(MainWindowTest, CaptionsAndCascadeTileAndIcons) {
+    NewSheet(3, 2);
+    ChildFace& first = Face();
+    NewSheet(4, 2);
+    ChildFace& second = Face();
+    EXPECT_EQ(first.windowTitle().toStdString(), "[DATA]: Untitled:1");
+    EXPECT_EQ(second.windowTitle().toStdString(), "[DATA]: Untitled:2");
+    Click("mnuTile");
+    EXPECT_FALSE(first.geometry().intersects(second.geometry()));
+    Click("mnuCascade");
+    EXPECT_TRUE(first.geometry().intersects(second.geometry()));
+    EXPECT_NE(first.pos(), second.pos());
+    first.showMinimized();
+    second.showMinimized();
+    Click("mnuArrangeIcons");
+    const int bottom = desktop.mainWindow->Area().viewport()->height();
+    EXPECT_EQ(first.geometry().bottom() + 1, bottom);
+    EXPECT_EQ(second.geometry().bottom() + 1, bottom);
+    EXPECT_FALSE(first.geometry().intersects(second.geometry()));
+}
+
+TEST_F(MainWindowTest, ANewWindowFitsIntoTheArea) {
+    desktop.mainWindow->resize(700, 500);
+    QCoreApplication::processEvents();
+    NewSheet(3, 2);
+    EXPECT_EQ(Face().pos(), QPoint(0, 0));
+    EXPECT_LE(Face().width(), desktop.mainWindow->Area().viewport()->width());
+    EXPECT_LE(Face().height(), desktop.mainWindow->Area().viewport()->height());
+}
+
+TEST_F(MainWindowTest, AWindowThatIsMadeTooSmallSnapsBack) {
+    NewSheet(3, 2);
+    Face().resize(50, 60);
+    QCoreApplication::processEvents();
+    EXPECT_GE(Face().width(), 3000 / 15);
+    EXPECT_GE(Face().height(), 2500 / 15);
+}
+
+TEST_F(MainWindowTest, BringingAWindowToTheFrontSwitchesTheCommands) {
+    NewSheet(3, 2);
+    ChildWindow* sheet = desktop.session.ActiveWindow;
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command2").click(); });
+    Click("mnuAnalysisMatrix");
+    EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolMatrix").isVisible());
+    EXPECT_FALSE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());
+    desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    EXPECT_EQ(desktop.session.ActiveWindow, sheet);
+    EXPECT_FALSE(Find<QToolBar>(*desktop.mainWindow, "toolMatrix").isVisible());
+    EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());
+}
+
+TEST_F(MainWindowTest, TheAboutBoxSaysWhatItIsAndCloses) {
+    InDialog([this](QDialog& dialog) {
+        EXPECT_EQ(Find<QLabel>(dialog, "lblVersion").text().toStdString(), "Dorvan 3.3.44");
+        EXPECT_EQ(Find<QLabel>(dialog, "lblLicence").text().toStdString(), "This program is FREEWARE");
+        Find<QPushButton>(dialog, "cmdOK").click();
+    });
+    Click("mnuAbout");
+}
+
+TEST_F(MainWindowTest, HelpSaysThatThereIsNone) {
+    AnswerNext("OK", "Nie można wyświetlić pliku pomocy. Brak pliku pomocy skojarzonego z tym programem.");
+    Click("mnuDorvanHelp");
+    AnswerNext("OK", "Sorry, not ready yet!");
+    Click("mnuDorvanHelpEng");
+}
+
+TEST_F(MainWindowTest, ClosingAsksForAChangedSheetAndCancelKeepsAllOpen) {
+    NewSheet(3, 2);
+    desktop.session.DataStates.at(1).Dirty = true;
+    AnswerNext("Cancel", "The data in [[DATA]: Untitled:1] has changed.\nDo you want to save the changes?");
+    EXPECT_FALSE(desktop.mainWindow->close());
+    EXPECT_FALSE(desktop.shell.EndOfRun());
+    EXPECT_EQ(desktop.session.Children.size(), 1u);
+    AnswerNext("No");
+    EXPECT_TRUE(desktop.mainWindow->close());
+    EXPECT_TRUE(desktop.shell.EndOfRun());
+}
+
+TEST_F(MainWindowTest, ExitEndsTheRunEvenAfterCancel) {
+    NewSheet(3, 2);
+    desktop.session.DataStates.at(1).Dirty = true;
+    AnswerNext("Cancel");
+    Click("mnuFExit");
+    EXPECT_TRUE(desktop.shell.EndOfRun());
+}
+
+TEST_F(MainWindowTest, EscInASaveQuestionIsCancel) {
+    NewSheet(3, 2);
+    desktop.session.DataStates.at(1).Dirty = true;
+    InDialog([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    Click("mnuFileClose");
+    EXPECT_EQ(desktop.session.Children.size(), 1u);
+}
+
+TEST(MainWindowPlaceTest, TakesAllOfASmallScreenAndMostOfALargeOne) {
+    EXPECT_EQ(MainWindowPlace({0, 0, 1366, 768}), QRect(0, 0, 1366, 768));
+    const QRect large(0, 0, 3840, 2160);
+    const QRect place = MainWindowPlace(large);
+    EXPECT_TRUE(large.contains(place));
+    EXPECT_EQ(place.size(), QSize(3264, 1836));
+}
+
+} // namespace dorvan::test

@@ -1,0 +1,62 @@
+#include "distance/measure_lists.h"
+#include "distance/measures.h"
+#include "support/expect_failure.h"
+#include "support/test_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace dorvan {
+namespace {
+
+TEST(MeasureLists, DataKindsInTheirOrder) {
+    EXPECT_EQ(DataKinds(), (std::vector<std::string>{"numerical data", "numerical data with NA", "binary"}));
+}
+
+TEST(MeasureLists, EachMeasureStandsAtItsPlaceWithItsText) {
+    const struct {
+        std::int16_t Code;
+        const char* Text;
+        int DataKind;
+        int Position;
+    } rows[] = {{1, "Henzel distance", 1, 0},  {2, "Czekanowski distance (mean City-Block)", 1, 1},
+                {3, "Euclidean", 0, 0},        {4, "Manhattan City-Block", 0, 1},
+                {5, "Chebychev", 0, 2},        {6, "Customized", 0, 3},
+                {7, "DfDD Distance", 2, 0},    {8, "Lance and Williams", 2, 1},
+                {9, "Jaccard (mirror)", 2, 2}, {10, "Yule's Q (mirror)", 2, 3}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(MeasuresOfKind(row.DataKind).at(std::size_t(row.Position)), row.Text);
+        EXPECT_EQ(MeasureCode(row.DataKind, row.Position), row.Code);
+        EXPECT_EQ(PlaceOfMeasure(row.Code).DataKind, row.DataKind);
+        EXPECT_EQ(PlaceOfMeasure(row.Code).Position, row.Position);
+    }
+    EXPECT_EQ(MeasuresOfKind(0).size(), 4u);
+    EXPECT_EQ(MeasuresOfKind(1).size(), 2u);
+    EXPECT_EQ(MeasuresOfKind(2).size(), 4u);
+}
+
+TEST(MeasureLists, FailOutside) {
+    EXPECT_FAILURE(Failure::InvalidProcedureCall, PlaceOfMeasure(0));
+    EXPECT_FAILURE(Failure::InvalidProcedureCall, PlaceOfMeasure(11));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, MeasuresOfKind(3));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, MeasureCode(-1, 0));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, MeasureCode(1, 2));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, MeasureCode(0, -1));
+}
+
+TEST(CurrentMeasure, IsWhatTheSessionHasInForce) {
+    test::TestSession test;
+    EXPECT_EQ(CurrentMeasure(test.session).Type, 1);
+    test.session.CurrentDistType = 6;
+    test.session.Par_P = 4;
+    test.session.Par_R = 5;
+    const Measure measure = CurrentMeasure(test.session);
+    EXPECT_EQ(measure.Type, 6);
+    EXPECT_EQ(measure.Par_P, 4);
+    EXPECT_EQ(measure.Par_R, 5);
+}
+
+} // namespace
+} // namespace dorvan

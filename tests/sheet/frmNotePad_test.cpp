@@ -1,0 +1,266 @@
+#include "sheet/frmNotePad.h"
+
+#include "numbers/runtime_failure.h"
+#include "platform/keys.h"
+#include "session/frmMDI.h"
+#include "sheet_session.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace dorvan::test {
+namespace {
+
+constexpr const char* SheetItems[] = {"mnuExport",
+                                      "mnuExportText",
+                                      "mnuExportExcel",
+                                      "mnuSave",
+                                      "mnuSaveAs",
+                                      "mnuFileClose",
+                                      "mnuEditCell",
+                                      "mnuEditVarAdd",
+                                      "mnuEditVarEdit",
+                                      "mnuEditVarDelete",
+                                      "mnuEditRecAdd",
+                                      "mnuEditRecDelete",
+                                      "mnuEditStandarization",
+                                      "mnuAnalysisDiagram",
+                                      "mnuAnalysisMatrix"};
+constexpr const char* MakeAndSaveButtons[] = {"MakeMatrix", "MakeDiagram", "Save", "SaveAs"};
+
+TEST(DataSheetActivation, TurnsItsCommandsOn) {
+    SheetSession test;
+    auto& mainWindow = test.session.mainWindow;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
+    mainWindow.EnableButton("toolMain", "Print", true);
+    auto& window = test.NewSheet(1, 1);
+    EXPECT_EQ(window.TypeOfForm, "DATA");
+    for (const auto* item : SheetItems) EXPECT_TRUE(mainWindow.MenuEnabled(item)) << item;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
+        EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
+    for (const auto* key : MakeAndSaveButtons) EXPECT_TRUE(mainWindow.ButtonEnabled("toolMain", key)) << key;
+    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
+    EXPECT_TRUE(mainWindow.ToolbarShown("toolData"));
+}
+
+TEST(DataSheetActivation, LeavesTheOtherCommandsAsTheyWere) {
+    constexpr const char* others[] = {"mnuFilePrint", "mnuEditCopyClip", "mnuEditUp", "mnuEditCreateDataset"};
+    for (const bool before : {false, true}) {
+        SheetSession test;
+        auto& window = test.NewSheet(1, 1);
+        for (const auto* item : others) test.session.mainWindow.EnableMenu(item, before);
+        window.Form_Activate();
+        window.Form_Deactivate();
+        for (const auto* item : others) EXPECT_EQ(test.session.mainWindow.MenuEnabled(item), before) << item;
+    }
+}
+
+TEST(DataSheetActivation, PrintIsOffForADataSheet) {
+    SheetSession test;
+    test.NewSheet(1, 1);
+    frmMDI main(test.session);
+    EXPECT_FALSE(main.MenuEnabled("mnuFilePrint"));
+    EXPECT_FALSE(main.ButtonEnabled("toolMain", "Print"));
+}
+
+TEST(DataSheetDeactivation, TurnsAllOfThemOff) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    auto& mainWindow = test.session.mainWindow;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
+    mainWindow.EnableButton("toolMain", "Print", true);
+    window.Form_Deactivate();
+    for (const auto* item : SheetItems) EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
+        EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
+    for (const auto* key : MakeAndSaveButtons) EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", key)) << key;
+    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
+    EXPECT_FALSE(mainWindow.ToolbarShown("toolData"));
+}
+
+TEST(DataSheetUnload, TurnsThemOffButForTheExportsAndFreesTheSlot) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    auto& mainWindow = test.session.mainWindow;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
+    mainWindow.EnableButton("toolMain", "Print", true);
+    EXPECT_FALSE(test.session.DataStates[1].Deleted);
+    window.Form_Unload();
+    EXPECT_TRUE(test.session.DataStates[1].Deleted);
+    for (const std::string item : SheetItems)
+        EXPECT_EQ(mainWindow.MenuEnabled(item), item.starts_with("mnuExport")) << item;
+    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
+        EXPECT_TRUE(mainWindow.MenuEnabled(item)) << item;
+    for (const auto* key : MakeAndSaveButtons) EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", key)) << key;
+    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
+    EXPECT_FALSE(mainWindow.ToolbarShown("toolData"));
+}
+
+// A changed sheet whose save is recorded.
+struct ChangedSheet : SheetSession {
+    frmNotePad& window = NewSheet(1, 1);
+    int saves = 0;
+    ChangedSheet() {
+        window.OpisText_Change();
+        session.commands.Set("SaveData", [this](const CommandCall&) { ++saves; });
+    }
+};
+
+TEST(ClosingADataSheet, AsksNothingWhenNothingHasChanged) {
+    SheetSession test;
+    EXPECT_TRUE(CloseChild(test.session, test.NewSheet(1, 1)));
+    EXPECT_TRUE(test.messages.shown.empty());
+}
+
+TEST(ClosingADataSheet, AsksWithTheWholeCaption) {
+    ChangedSheet test;
+    test.messages.answers = {Answer::No};
+    CloseChild(test.session, test.window);
+    const Message question{
+        .Text = "The data in [[DATA]: Untitled:1] has changed.\r\nDo you want to save the changes?",
+        .Icon = MessageIcon::Exclamation,
+        .Buttons = MessageButtons::YesNoCancel,
+        .Title = "Dorvan 3.3.44"};
+    EXPECT_EQ(test.messages.shown, std::vector<Message>{question});
+}
+
+TEST(ClosingADataSheet, CancelKeepsItOpen) {
+    ChangedSheet test;
+    test.messages.answers = {Answer::Cancel};
+    EXPECT_FALSE(CloseChild(test.session, test.window));
+    EXPECT_EQ(test.saves, 0);
+    EXPECT_FALSE(test.session.DataStates[1].Deleted);
+    EXPECT_TRUE(test.session.DataStates[1].Dirty);
+    EXPECT_TRUE(test.session.mainWindow.MenuEnabled("mnuSave"));
+}
+
+TEST(ClosingADataSheet, NoClosesItUnsaved) {
+    ChangedSheet test;
+    test.messages.answers = {Answer::No};
+    EXPECT_TRUE(CloseChild(test.session, test.window));
+    EXPECT_EQ(test.saves, 0);
+    EXPECT_TRUE(test.session.DataStates[1].Deleted);
+}
+
+TEST(ClosingADataSheet, YesSavesAndClosesWhateverCameOfTheSave) {
+    ChangedSheet test;
+    test.messages.answers = {Answer::Yes};
+    EXPECT_TRUE(CloseChild(test.session, test.window));
+    EXPECT_EQ(test.saves, 1);
+    EXPECT_TRUE(test.session.DataStates[1].Dirty) << "this save has saved nothing";
+    EXPECT_TRUE(test.session.DataStates[1].Deleted);
+}
+
+TEST(ExitWithAChangedSheet, EndsTheRunAfterACancelWithTheChangesUnsaved) {
+    ChangedSheet test;
+    frmMDI main(test.session);
+    test.messages.answers = {Answer::Cancel};
+    main.MenuClick("mnuFExit");
+    EXPECT_TRUE(main.EndOfRun());
+    EXPECT_EQ(test.saves, 0);
+    EXPECT_TRUE(test.session.DataStates[1].Dirty);
+}
+
+TEST(OwnCloseControlWithAChangedSheet, StaysOpenAfterACancelAndEndsAfterANo) {
+    ChangedSheet test;
+    frmMDI main(test.session);
+    test.messages.answers = {Answer::Cancel, Answer::No};
+    EXPECT_FALSE(main.RequestClose());
+    EXPECT_FALSE(main.EndOfRun());
+    EXPECT_TRUE(main.RequestClose());
+    EXPECT_TRUE(main.EndOfRun());
+}
+
+TEST(DataSheetDescription, MarksTheSheetAsChanged) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    EXPECT_FALSE(test.session.DataStates[1].Dirty);
+    window.OpisText_Change();
+    EXPECT_TRUE(test.session.DataStates[1].Dirty);
+}
+
+TEST(DataSheetDescription, AKeyBeepsWhileADiagramIsMadeAndTakesEffect) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    int character = 'x';
+    window.OpisText_KeyPress(character);
+    EXPECT_EQ(test.signals.beeps, 0);
+    test.session.DiagramBusy = 1;
+    window.OpisText_KeyPress(character);
+    EXPECT_EQ(test.signals.beeps, 1);
+    EXPECT_EQ(character, 'x');
+}
+
+TEST(DataSheetResize, KeepsTheActiveWindowAboveItsSmallestSize) {
+    SheetSession test;
+    auto& behind = test.NewSheet(1, 1);
+    auto& active = test.NewSheet(1, 1);
+    behind.Height = behind.Width = 100;
+    active.Height = 2499;
+    active.Width = 2999;
+    behind.Form_Resize();
+    EXPECT_EQ(active.Height, 2500);
+    EXPECT_EQ(active.Width, 3000);
+    EXPECT_EQ(behind.Height, 100);
+    EXPECT_EQ(test.children.log.back(), "update [DATA]: Untitled:2");
+}
+
+TEST(DataSheetResize, LeavesLargerAndMinimizedWindowsAlone) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    window.Height = 2500;
+    window.Width = 3000;
+    window.Form_Resize();
+    EXPECT_EQ(window.Height, 2500);
+    EXPECT_EQ(window.Width, 3000);
+    for (const auto mode : {WindowMode::Minimized, WindowMode::Maximized}) {
+        window.Mode = mode;
+        window.Height = window.Width = 10;
+        window.Form_Resize();
+        EXPECT_EQ(window.Height, 10);
+        EXPECT_EQ(window.Width, 10);
+    }
+}
+
+TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
+    SheetSession test;
+    auto& session = test.session;
+    session.RecordNames = Names(2);
+    session.RecordNames(1) = "Biskupin";
+    session.RecordNames(2) = "Kraków";
+    session.VariableNames = Names(2);
+    session.VariableNames(1) = "length";
+    session.VariableNames(2) = "width";
+    session.DataValues = FloatTable(2, 2);
+    session.DataValues(1, 1) = 1.5f;
+    session.DataValues(1, 2) = NaValue;
+    session.DataValues(2, 1) = -12.3456f;
+    session.DataValues(2, 2) = 1000.0f;
+    session.NewWindowIndex = FindFreeDataSlot(session);
+    auto& window = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
+    window.Present("two places");
+    const char* const cells[3][4] = {{"Number", "Record Name", "length", "width"},
+                                     {" 1", "Biskupin", "1.500", "N/A"},
+                                     {" 2", "Kraków", "-12.346", "1000.000"}};
+    ASSERT_EQ(window.Grid1.Rows(), 3);
+    ASSERT_EQ(window.Grid1.Columns(), 4);
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 4; ++column)
+            EXPECT_EQ(window.Grid1.Text(row, column), cells[row][column]) << row << "," << column;
+    EXPECT_EQ(window.OpisText.Text, "two places");
+    session.DecimalSeparator = ',';
+    window.Present("");
+    EXPECT_EQ(window.Grid1.Text(1, 2), "1,500");
+}
+
+TEST(ActiveDataWindow, FailsWhenTheActiveWindowIsNone) {
+    SheetSession test;
+    EXPECT_THROW(ActiveDataWindow(test.session), RuntimeFailure);
+    auto& window = test.NewSheet(1, 1);
+    EXPECT_EQ(&ActiveDataWindow(test.session), &window);
+    EXPECT_EQ(&DataWindow(test.session, 1), &window);
+}
+
+} // namespace
+} // namespace dorvan::test
