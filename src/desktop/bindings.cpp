@@ -254,7 +254,7 @@ void Bindings::Mirror() {
 }
 
 void Bindings::MirrorFocus() {
-    if (!form_ || !form_->ActiveControl) return;
+    if (!form_ || !form_->ActiveControl || (active_ && !active_())) return;
     QWidget* wanted = WidgetOf(form_->ActiveControl);
     if (wanted && wanted->isVisibleTo(root_) && wanted->isEnabledTo(root_) && root_->focusWidget() != wanted)
         wanted->setFocus(Qt::OtherFocusReason);

@@ -57,8 +57,10 @@ public:
     // Run at each mirroring, after the controls.
     void Also(Handler mirror) { mirrors_.push_back(std::move(mirror)); }
 
+    // Of several windows with bindings only the active one may move the focus. Always, if not set.
+    void MirrorFocusWhile(std::function<bool()> active) { active_ = std::move(active); }
+
     void Mirror();
-    void MirrorFocus();
 
     // The form is about to go: nothing is forwarded or mirrored any more.
     void Detach();
@@ -77,6 +79,7 @@ private:
         Handler read; // the widget's text and selection into the control
     };
 
+    void MirrorFocus();
     void Name(QWidget* widget, const Control& control, const QString& accessibleName);
     void Forward(const Handler& handler);
     bool KeyToField(Field_& field, QObject* watched, QKeyEvent& event);
@@ -86,6 +89,7 @@ private:
     Form* form_;
     EventDispatch& dispatch_;
     QWidget* root_;
+    std::function<bool()> active_;
     std::vector<Handler> mirrors_;
     std::map<const QObject*, Field_> fields_;
     std::vector<std::pair<QWidget*, const Control*>> widgets_;

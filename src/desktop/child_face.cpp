@@ -26,6 +26,7 @@ ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispa
     content->setObjectName(ToQt(window.Name));
     setWidget(content);
     bindings_ = new Bindings(window, dispatch, content);
+    bindings_->MirrorFocusWhile([this] { return session_.ActiveWindow == window_; });
     dispatch_.AddMirror(this, [this] { Mirror(); });
 }
 

@@ -31,6 +31,26 @@ QColor Blend(const QColor& one, const QColor& other, double share) {
                             float(one.blueF() * (1 - share) + other.blueF() * share));
 }
 
+// Which of `count` pixels the place of a line of `side` pixels shows. The second half mirrors the first, so
+// that a symmetric picture stays so where the scale is no whole number.
+int SourcePixel(int place, int side, int count) {
+    if (place >= side / 2) return count - 1 - (2 * (side - 1 - place) + 1) * count / (2 * side);
+    return (2 * place + 1) * count / (2 * side);
+}
+
+// Enlarged without any new colour: each pixel becomes one or more.
+QImage ScaledBySpreading(const QImage& image, double ratio) {
+    if (image.isNull()) return image;
+    QImage scaled(int(std::lround(image.width() * ratio)), int(std::lround(image.height() * ratio)),
+                  QImage::Format_RGB32);
+    for (int y = 0; y < scaled.height(); ++y)
+        for (int x = 0; x < scaled.width(); ++x)
+            scaled.setPixel(x, y,
+                            image.pixel(SourcePixel(x, scaled.width(), image.width()),
+                                        SourcePixel(y, scaled.height(), image.height())));
+    return scaled;
+}
+
 Qt::Alignment ToQt(Alignment alignment) {
     switch (alignment) {
     case Alignment::Right: return Qt::AlignRight | Qt::AlignVCenter;
@@ -193,14 +213,7 @@ const QImage& GridWidget::ScaledTile(std::uint8_t picture) const {
     const auto found = scaledTiles_.find(picture);
     if (found != scaledTiles_.end()) return *found;
     const QImage image = pictures_.image ? pictures_.image(picture) : QImage();
-    const double ratio = Ratio();
-    return *scaledTiles_.insert(picture, image.isNull()
-                                             ? image
-                                             : image
-                                                   .scaled(int(std::lround(image.width() * ratio)),
-                                                           int(std::lround(image.height() * ratio)),
-                                                           Qt::IgnoreAspectRatio, Qt::FastTransformation)
-                                                   .convertToFormat(QImage::Format_RGB32));
+    return *scaledTiles_.insert(picture, ScaledBySpreading(image, Ratio()));
 }
 
 void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {

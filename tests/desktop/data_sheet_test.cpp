@@ -163,10 +163,11 @@ TEST_F(DataSheetTest, SavesUnderAChosenNameAndReadsItBack) {
     ChooseFile(Path("sheet"));
     Click("mnuSave");
     const QString path = Path("sheet.mdt");
-    const std::string bytes = "Dorvan DATA 3.3\r\n\r\n[HEADER]\r\nDescription=\r\nRecCount=3\r\nVarCount=2\r\n\r\n"
-                              "[RECORD_LABEL]\r\nRecord 1\r\nRecord 2\r\nRecord 3\r\n\r\n"
-                              "[VARIABLE_LABEL]\r\nVAR  1\r\nVAR  2\r\n\r\n"
-                              "[DATA]\r\n1.500;0.000\r\n0.000;0.000\r\n0.000;0.000\r\n";
+    const std::string bytes =
+        "Dorvan DATA 3.3\r\n\r\n[HEADER]\r\nDescription=\r\nRecCount=3\r\nVarCount=2\r\n\r\n"
+        "[RECORD_LABEL]\r\nRecord 1\r\nRecord 2\r\nRecord 3\r\n\r\n"
+        "[VARIABLE_LABEL]\r\nVAR  1\r\nVAR  2\r\n\r\n"
+        "[DATA]\r\n1.500;0.000\r\n0.000;0.000\r\n0.000;0.000\r\n";
     EXPECT_EQ(BytesOf(path), bytes);
     EXPECT_EQ(FromQt(Face().windowTitle()), "[DATA]: " + FromQt(path.toLower()));
     Click("mnuFileClose");

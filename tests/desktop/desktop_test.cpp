@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSettings>
 
 namespace dorvan::test {
@@ -29,17 +30,21 @@ DesktopTest::DesktopTest() : desktop(MakeSettingsFolder(folder_)) {
     desktop.mainWindow->show();
     QApplication::setActiveWindow(desktop.mainWindow.get());
     QCoreApplication::processEvents();
-    QObject::connect(&dialogs_, &QTimer::timeout, [this] { RunScripts(); });
-    dialogs_.start(LookForDialogs);
+    LookAgain();
 }
 
 DesktopTest::~DesktopTest() {
-    dialogs_.stop();
     EXPECT_TRUE(scripts_.empty()) << scripts_.size() << " dialogs did not come";
     EXPECT_EQ(ended, "");
 }
 
+// A script may open a further dialog, so the next look is due before it returns.
+void DesktopTest::LookAgain() {
+    QTimer::singleShot(LookForDialogs, &dialogs_, [this] { RunScripts(); });
+}
+
 void DesktopTest::RunScripts() {
+    LookAgain();
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog || !dialog->isVisible()) {
         answered_ = nullptr;
@@ -64,6 +69,7 @@ void DesktopTest::RunScripts() {
     unanswered_ = 0;
     const Script script = scripts_.front();
     scripts_.pop_front();
+    QApplication::setActiveWindow(dialog);
     script(*dialog);
     if (QApplication::activeModalWidget() != dialog) answered_ = nullptr;
 }
@@ -110,7 +116,8 @@ void DesktopTest::Click(const QString& name) {
 }
 
 ChildFace& DesktopTest::Face() {
-    auto* face = desktop.session.ActiveWindow ? desktop.ports.children.FaceOf(*desktop.session.ActiveWindow) : nullptr;
+    auto* face =
+        desktop.session.ActiveWindow ? desktop.ports.children.FaceOf(*desktop.session.ActiveWindow) : nullptr;
     if (!face) throw std::runtime_error("no child window");
     return *face;
 }
@@ -143,13 +150,20 @@ void DesktopTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
+QPoint DesktopTest::PlaceOf(GridWidget& grid, int row, int column) {
+    if (grid.CellRect(row, column).isEmpty()) grid.horizontalScrollBar()->setValue(0);
+    if (grid.CellRect(row, column).isEmpty()) grid.verticalScrollBar()->setValue(0);
+    EXPECT_FALSE(grid.CellRect(row, column).isEmpty()) << row << "," << column;
+    return grid.CellRect(row, column).center();
+}
+
 void DesktopTest::ClickCell(GridWidget& grid, int row, int column) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
 }
 
 void DesktopTest::DoubleClickCell(GridWidget& grid, int row, int column) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
-    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, column).center());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
 }
 
 QString DesktopTest::Sample(const QString& name) const { return QString(DORVAN_SAMPLES_FOLDER) + "/" + name; }

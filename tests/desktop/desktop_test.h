@@ -5,10 +5,11 @@
 #include "view/frmDiagram.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
-#include <QDialog>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -40,9 +41,9 @@ protected:
     // Chooses a path in the next file dialog.
     void ChooseFile(const QString& path);
 
-    QAction& Item(const QString& name);          // of a menu
+    QAction& Item(const QString& name);            // of a menu
     QAction& Button(const QString& toolbarAndKey); // "toolMain.Save"
-    void Click(const QString& name);             // a menu item or a button
+    void Click(const QString& name);               // a menu item or a button
 
     template <class Widget = QWidget> Widget& Find(QWidget& root, const QString& name) {
         auto* widget = root.findChild<Widget*>(name);
@@ -60,6 +61,8 @@ protected:
     void NewSheet(int records, int variables);
     void Type(const QString& text);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // In the viewport, scrolled to if need be.
+    QPoint PlaceOf(GridWidget& grid, int row, int column);
     void ClickCell(GridWidget& grid, int row, int column);
     void DoubleClickCell(GridWidget& grid, int row, int column);
 
@@ -72,11 +75,12 @@ protected:
     Desktop desktop;
 
 private:
+    void LookAgain();
     void RunScripts();
 
     std::deque<Script> scripts_;
     QDialog* answered_ = nullptr;
-    QTimer dialogs_;
+    QObject dialogs_; // ends the looking for them
     int unanswered_ = 0;
 };
 

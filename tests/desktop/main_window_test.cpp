@@ -70,10 +70,12 @@ TEST_F(MainWindowTest, ToolbarsFollowTheirTablesWithToolTipsIconsAndAccessibleNa
 
 TEST_F(MainWindowTest, StartsWithTheMainToolbarAloneAndDocumentCommandsOff) {
     for (const auto& toolbar : Toolbars())
-        EXPECT_EQ(Find<QToolBar>(*desktop.mainWindow, ToQt(toolbar.Name)).isVisible(), toolbar.Name == "toolMain")
+        EXPECT_EQ(Find<QToolBar>(*desktop.mainWindow, ToQt(toolbar.Name)).isVisible(),
+                  toolbar.Name == "toolMain")
             << toolbar.Name;
-    for (const auto* off : {"mnuSave", "mnuSaveAs", "mnuFileClose", "mnuFilePrint", "mnuExport", "mnuEditUp",
-                            "mnuAnalysisMatrix", "mnuAnalysisDiagram", "toolMain.Save", "toolMain.MakeMatrix"})
+    for (const auto* off :
+         {"mnuSave", "mnuSaveAs", "mnuFileClose", "mnuFilePrint", "mnuExport", "mnuEditUp",
+          "mnuAnalysisMatrix", "mnuAnalysisDiagram", "toolMain.Save", "toolMain.MakeMatrix"})
         EXPECT_FALSE(Item(off).isEnabled()) << off;
     for (const auto* on : {"mnuFNew", "mnuFData", "mnuFDiagram", "mnuFMatrix", "mnuFExit", "toolMain.New",
                            "toolMain.Open", "toolMain.Help"})

@@ -1,0 +1,110 @@
+#include "desktop_test.h"
+
+#include "desktop/qt_text.h"
+
+#include <QAction>
+#include <QMdiArea>
+#include <QRadioButton>
+#include <QToolBar>
+
+namespace dorvan::test {
+
+class DiagramTest : public DesktopTest {
+protected:
+    DiagramTest() {
+        ChooseFile(Sample("Townships.mdt"));
+        Click("mnuFData");
+        sheet = desktop.session.ActiveWindow;
+        InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command3").click(); });
+        Click("mnuAnalysisDiagram");
+    }
+
+    std::string Name(int row) { return Diagram().Siatka.Text(row, 1); }
+
+    ChildWindow* sheet = nullptr;
+};
+
+TEST_F(DiagramTest, OpensAtItsUpperLeftCornerWithItsOwnToolbar) {
+    EXPECT_EQ(Face().windowTitle(), "[DIAGRAM]: Untitled:1");
+    EXPECT_FALSE(ActiveGrid().CellRect(1, 2).isEmpty());
+    EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolDiagram").isVisible());
+    EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+    EXPECT_TRUE(Item("mnuEditUp").isEnabled());
+}
+
+TEST_F(DiagramTest, ADoubleClickSelectsARowAndTheButtonsMoveIt) {
+    const std::string second = Name(2);
+    const std::string last = Name(Diagram().Siatka.Rows() - 1);
+    DoubleClickCell(ActiveGrid(), 2, 1);
+    EXPECT_EQ(Diagram().SelectedRow, 2);
+    for (const auto* key : {"Home", "Up", "Down", "End", "Insert"})
+        EXPECT_TRUE(Item(QString("toolDiagram.") + key).isEnabled()) << key;
+    Click("toolDiagram.Up");
+    EXPECT_EQ(Name(1), second);
+    Click("toolDiagram.End");
+    EXPECT_EQ(Name(Diagram().Siatka.Rows() - 1), second);
+    EXPECT_EQ(Name(Diagram().Siatka.Rows() - 2), last);
+    Click("toolDiagram.Home");
+    EXPECT_EQ(Name(1), second);
+    Click("toolDiagram.Down");
+    EXPECT_EQ(Name(2), second);
+    ClickCell(ActiveGrid(), 5, 1);
+    Click("toolDiagram.Insert");
+    EXPECT_EQ(Name(5), second);
+    EXPECT_EQ(Diagram().SelectedRow, 5);
+    DoubleClickCell(ActiveGrid(), 5, 1);
+    EXPECT_EQ(Diagram().RowSelected, 0);
+    EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+}
+
+TEST_F(DiagramTest, KeysReachTheTargetOfAnInsertion) {
+    const std::string third = Name(3);
+    ClickCell(ActiveGrid(), 3, 1);
+    Click("mnuEditSelect");
+    EXPECT_EQ(QApplication::focusWidget(), &ActiveGrid());
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Diagram().Siatka.Row(), 5);
+    Click("mnuEditInsert");
+    EXPECT_EQ(Name(5), third);
+}
+
+TEST_F(DiagramTest, SavedAndReopenedItIsTheSame) {
+    DoubleClickCell(ActiveGrid(), 2, 1);
+    Click("toolDiagram.Home");
+    const std::string first = Name(1);
+    ChooseFile(Path("towns.dgr"));
+    Click("mnuSave");
+    const std::string bytes = BytesOf(Path("towns.dgr"));
+    EXPECT_EQ(bytes.substr(0, 18), "Dorvan DIAGRAM 3.3");
+    EXPECT_EQ(FromQt(Face().windowTitle()), "[DIAGRAM]: " + FromQt(Path("towns.dgr")));
+    AnswerNext("No"); // a save leaves the diagram changed
+    Click("mnuFileClose");
+    ChooseFile(Path("towns.dgr"));
+    Click("mnuFDiagram");
+    EXPECT_EQ(Name(1), first);
+    ChooseFile(Path("again.dgr"));
+    Click("mnuSaveAs");
+    EXPECT_EQ(BytesOf(Path("again.dgr")), bytes);
+}
+
+TEST_F(DiagramTest, ARunTimeFailureReachesTheEndOfTheRun) {
+    Click("mnuEditDown"); // without a selected row
+    EXPECT_EQ(ended.substr(0, 46), "Run-time error '9': Subscript out of range");
+    ended.clear();
+}
+
+TEST_F(DiagramTest, CancelInTheQuestionKeepsTheDiagram) {
+    AnswerNext("Cancel", "The diagram in [Untitled:1] has changed.\nDo you want to save the changes?");
+    Face().close();
+    EXPECT_EQ(desktop.session.Children.size(), 2u);
+}
+
+TEST_F(DiagramTest, WhileADiagramIsMadeCommandsOnlyBeep) {
+    desktop.session.DiagramBusy = 1;
+    Click("mnuFNew"); // no dialog comes
+    desktop.session.DiagramBusy = 0;
+    EXPECT_EQ(desktop.session.Children.size(), 2u);
+}
+
+} // namespace dorvan::test
