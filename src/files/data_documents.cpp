@@ -91,8 +91,9 @@ bool WriteDataFile(Session& session, const std::string& path) {
 void SaveData(Session& session) {
     if (RefusedWhileBusy(session)) return;
     frmNotePad& window = ActiveDataWindow(session);
-    std::string path = FileOf(window);
-    if (IsUntitled(path)) path = PickFileToSave(session, DataFileFilters(), " - Save mdt file", "mdt");
+    const std::string path = IsUntitled(window.Caption)
+                                 ? PickFileToSave(session, DataFileFilters(), " - Save mdt file", "mdt")
+                                 : FileOf(window);
     if (path.empty()) return;
     WriteDataFile(session, path);
     NameAfterFile(window, path);

@@ -8,9 +8,10 @@
 // What the openers of the three kinds share.
 namespace dorvan {
 
-// Does `read` under the wait cursor when `wait` is set. A FileFault in it (or a file too large for the
-// memory) becomes one message about `path`, and the result is false.
 enum class Wait { No, Yes };
+
+// Does `read`, under the wait cursor where `wait` says so. A FileFault in it (or a file too large for the
+// memory) becomes one message about `path`, and the result is false.
 bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
                        const std::function<void()>& read);
 

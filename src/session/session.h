@@ -9,6 +9,7 @@
 #include "session/forms.h"
 #include "session/main_window.h"
 #include "session/ordering_method.h"
+#include "session/ordering_options.h"
 #include "session/version.h"
 
 #include <cstdint>
@@ -96,6 +97,7 @@ struct Session {
     std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
 
     OrderingMethods orderingMethods;
+    OrderingOptions ordering; // of the two genetic ones
 };
 
 // The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.

@@ -268,7 +268,16 @@ TEST_F(DataDocuments, SaveGoesToTheFileThatWasOpenedWhateverTheCaseOfItsName) {
     EXPECT_EQ(window().FilePath, path);
 }
 
-TEST_F(DataDocuments, AFileNamedUntitledHasNoFile) {
+TEST_F(DataDocuments, TheLowerCaseOfACaptionHidesThatAFileIsNamedUntitled) {
+    const std::string path = file("Untitled.mdt", golden("sheet.mdt"));
+    ReadDataFile(session, path);
+    window().Grid1.SetText(1, 2, "7");
+    SaveData(session);
+    EXPECT_TRUE(files.requests.empty());
+    EXPECT_NE(fileBytes(path).find("7.000;"), std::string::npos);
+}
+
+TEST_F(DataDocuments, ACaptionWithTheWordUntitledHasNoFile) {
     newSheet().Caption = "[DATA]: /home/user/Untitled sheet.mdt";
     files.paths = {""};
     SaveData(session);

@@ -231,13 +231,17 @@ TEST_F(DiagramDocuments, OpenOnlyBeepsWhileADiagramIsBeingMade) {
 }
 
 TEST_F(DiagramDocuments, WhatIsReadIsWrittenAgain) {
+    const auto again = [this](const std::string& name) {
+        ReadDiagramFile(session, goldenFile(name));
+        const auto slot = static_cast<std::size_t>(session.NewWindowIndex);
+        EXPECT_TRUE(WriteDiagramFile(session, folder / "f.dgr", document(slot), window(slot).presented[0]));
+        EXPECT_EQ(fileBytes(folder / "f.dgr"), golden(name));
+    };
+    again("diagram.dgr");
+    again("diagram_without_data.dgr");
     session.DecimalSeparator = ',';
     session.codePage = CodePage(1250);
-    for (const char* name : {"diagram_comma.dgr"}) {
-        ReadDiagramFile(session, goldenFile(name));
-        EXPECT_TRUE(WriteDiagramFile(session, folder / "f.dgr", document(), window().presented[0]));
-        EXPECT_EQ(fileBytes(folder / "f.dgr"), golden(name));
-    }
+    again("diagram_comma.dgr");
 }
 
 TEST_F(DiagramDocuments, AWriteThatCannotFinishIsSilentAndKeepsTheFileWhole) {

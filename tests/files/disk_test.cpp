@@ -94,6 +94,15 @@ TEST_F(Disk, ReplacesAFileAndKeepsItsPermissions) {
     EXPECT_EQ(entries(), 1u);
 }
 
+TEST_F(Disk, ReplacesAFileOfTheCurrentFolder) {
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    EXPECT_EQ(errorOf([] { ReplaceFile("f", "new"); }), 0);
+    fs::current_path(before);
+    EXPECT_EQ(fileBytes(folder / "f"), "new");
+    EXPECT_EQ(entries(), 1u);
+}
+
 TEST_F(Disk, KeepsTheOwnerWhereItCan) {
     if (::geteuid() != 0) GTEST_SKIP() << "only an administrator can give files away";
     writeFile(folder / "f", "old");
