@@ -23,5 +23,9 @@ manager=$!
 /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &
 launcher=$!
 trap 'kill $manager $launcher 2>/dev/null || true; rm -rf "$home"' EXIT
-sleep 0.5
+for _ in $(seq 100); do
+    xdotool get_num_desktops >/dev/null 2>&1 && break # the window manager answers
+    sleep 0.1
+done
+sleep 0.3
 "$@"

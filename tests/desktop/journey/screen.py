@@ -72,7 +72,7 @@ class Program:
     def __init__(self, path, *arguments):
         self.process = subprocess.Popen([path, *arguments], stderr=subprocess.PIPE, text=True)
         self.root = wait_for("program on the accessibility bus", self._application)
-        wait_for("main window", lambda: self.window("Dorvan"))
+        wait_for("main window in front", self._bring_to_front)
         time.sleep(0.3)
 
     def _application(self):
@@ -82,6 +82,13 @@ class Program:
             if application and application.get_process_id() == self.process.pid:
                 return application
         return None
+
+    def _bring_to_front(self):
+        """Not before the window manager has taken the window over."""
+        main = self.window("Dorvan")
+        subprocess.run(["xdotool", "windowactivate", str(main)], capture_output=True)
+        active = subprocess.run(["xdotool", "getactivewindow"], capture_output=True, text=True).stdout.strip()
+        return main and active == main
 
     def find(self, role, name=None, showing=True):
         for accessible in walk(self.root):
