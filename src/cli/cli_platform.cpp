@@ -3,16 +3,25 @@
 #include "distance/frmCustomized.h"
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/measure_lists.h"
+#include "making/frmGenetic.h"
+#include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"
+#include "making/frmWork.h"
+#include "making/frmWorkUM.h"
 #include "numbers/text.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
+#include <csignal>
 #include <ctime>
-#include <map>
+#include <unistd.h>
 
 namespace dorvan::cli {
 
 namespace {
+
+constexpr int BarLength = 30; // characters
 
 std::string OneLine(std::string_view text) { return ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "); }
 
@@ -48,6 +57,48 @@ void Fill(frmPrzedzal& form, const Choices& choices) {
     form.Command3_Click();
 }
 
+void Select(ComboBox& list, const std::string& item) {
+    const auto found = std::find(list.List.begin(), list.List.end(), item);
+    if (found != list.List.end()) list.ListIndex = static_cast<int>(found - list.List.begin());
+}
+
+void Fill(frmGenetic& form, const Choices& choices) {
+    Select(form.cboGen, choices.generations);
+    Select(form.cboVar, choices.variants);
+    form.Command1_Click();
+}
+
+void Fill(frmGeneticUM& form, const Choices& choices) {
+    for (const auto& row : form.Rows())
+        if (const auto text = choices.ravelin.find(row.Field->Name); text != choices.ravelin.end())
+            row.Field->Text = text->second;
+    form.Command1_Click();
+}
+
+std::string ProgressLine(const frmWork& form) {
+    return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
+                       form.lblFunkcja.Caption);
+}
+
+std::string ProgressLine(const frmWorkUM& form) {
+    return fmt::format("generation {}  mutation {}  UM {}  best {}  {}", form.Generacje.Caption,
+                       form.Mutacje.Caption, form.lblFunkcja.Caption, form.BestUm.Caption,
+                       form.InfoTime.Caption);
+}
+
+// Ctrl+C once asks a search to end early; a second one ends the process as usual.
+volatile std::sig_atomic_t interrupted = 0;
+
+void Interrupt(int) { interrupted = 1; }
+
+void WatchForInterrupt() {
+    interrupted = 0;
+    struct sigaction action {};
+    action.sa_handler = Interrupt;
+    action.sa_flags = SA_RESETHAND;
+    sigaction(SIGINT, &action, nullptr);
+}
+
 } // namespace
 
 Answer CliPlatform::show(const Message& message) {
@@ -63,6 +114,8 @@ void CliPlatform::showModal(Form& form) {
     if (auto* matrix = dynamic_cast<frmOpcjeMacierzy*>(&form)) Fill(*matrix, choices);
     if (auto* customized = dynamic_cast<frmCustomized*>(&form)) Fill(*customized, choices);
     if (auto* diagram = dynamic_cast<frmPrzedzal*>(&form)) Fill(*diagram, choices);
+    if (auto* genetic = dynamic_cast<frmGenetic*>(&form)) Fill(*genetic, choices);
+    if (auto* ravelin = dynamic_cast<frmGeneticUM*>(&form)) Fill(*ravelin, choices);
     if (!form.Visible) return;
     const std::string reason =
         messages.empty() ? "the dialog " + form.Name + " has no answer" : messages.back();
@@ -70,13 +123,39 @@ void CliPlatform::showModal(Form& form) {
     throw Refusal(reason);
 }
 
-void CliPlatform::show(Form& form) { running_ = &form; }
+void CliPlatform::show(Form& form) {
+    form.Visible = true;
+    running_ = &form;
+    WatchForInterrupt();
+}
 
-void CliPlatform::close(Form&) { running_ = nullptr; }
+// A bar in place, on a terminal only, at most ten times a second.
+void CliPlatform::update(Form& form) {
+    const double now = seconds();
+    if (!isatty(STDERR_FILENO) || now - shownAt_ < 0.1) return;
+    shownAt_ = now;
+    std::string line;
+    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) {
+        const int filled = static_cast<int>(genetic->Procent1.Width / genetic->Procent.Width * BarLength);
+        line = fmt::format("[{:=<{}}{:<{}}] {}", "", filled, "", BarLength - filled, ProgressLine(*genetic));
+    }
+    if (const auto* ravelin = dynamic_cast<const frmWorkUM*>(&form)) line = ProgressLine(*ravelin);
+    fmt::print(stderr, "\r{}\x1b[K", line);
+}
 
-void CliPlatform::update(Form&) {}
+void CliPlatform::close(Form& form) {
+    form.Visible = false;
+    if (running_ != &form) return;
+    running_ = nullptr;
+    std::signal(SIGINT, SIG_DFL);
+    if (shownAt_ > 0) fmt::print(stderr, "\r\x1b[K");
+    shownAt_ = 0;
+}
 
-int CliPlatform::run() { return 1; }
+int CliPlatform::run() {
+    if (interrupted && running_) running_->CancelCommand();
+    return 1;
+}
 
 double CliPlatform::seconds() {
     timespec now{};

@@ -3,7 +3,6 @@
 #include "cli/requests.h"
 #include "platform/platform.h"
 
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -32,8 +31,6 @@ class CliPlatform : public MessageBoxes,
 public:
     Choices choices;
     std::vector<std::string> messages; // in one line each
-    // Shows how far a search is (0 to 1), at most 20 times a second.
-    std::function<void(const std::string& line)> progress = [](const std::string&) {};
 
     Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
 
@@ -64,6 +61,7 @@ public:
 
 private:
     Form* running_ = nullptr; // the progress window that is up
+    double shownAt_ = 0;      // when its bar was shown last; 0 when there is none
 };
 
 } // namespace dorvan::cli

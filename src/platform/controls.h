@@ -31,6 +31,12 @@ struct CommandButton : Control {
     using Control::Control;
 };
 
+// A filled area that grows with a quantity. Lengths in twips.
+struct Bar : Control {
+    Bar(std::string name, double width) : Control(std::move(name)), Width(width) {}
+    double Width;
+};
+
 enum class Alignment { Left, Right, Centre };
 
 struct TextBox : Control {

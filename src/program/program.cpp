@@ -6,6 +6,7 @@
 #include "files/diagram_documents.h"
 #include "files/matrix_documents.h"
 #include "making/making_diagram.h"
+#include "making/ordering_runs.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/new_data_sheet.h"
 #include "view/classes.h"
@@ -65,6 +66,7 @@ void AddMatrices(Session& session) {
 void AddDiagrams(Session& session) {
     MakesWindows<frmDiagram>(session, DocumentKind::Diagram);
     AddOperation(session, "MakeDiagram", MakeDiagram);
+    AddGeneticOrderings(session);
     AddMethod(session, "frmDiagram.SelectThisRow", DiagramWindow, &frmDiagram::SelectThisRow);
     AddMethod(session, "frmDiagram.Home", DiagramWindow, &frmDiagram::Home);
     AddMethod(session, "frmDiagram.Up", DiagramWindow, &frmDiagram::Up);

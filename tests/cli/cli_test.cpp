@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <sys/wait.h>
 
 namespace dorvan::test {
 namespace {
@@ -260,6 +262,75 @@ TEST_F(CommandLine, InfoTellsADiagram) {
         "dots\n"
         "limits: 1.000 1.000 10.000 10.000\ncells in class 5: 3\ncells in class 4: 0\ncells in class 3: 4\n"
         "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\n");
+}
+
+TEST_F(CommandLine, ASeedFixesTheGeneticOrders) {
+    for (const std::string order : {"genetic", "ravelin"}) {
+        const std::vector<std::string> arguments = {
+            "diagram", sample("Townships.mdt"), out("1.dgr"), "--order", order, "--seed", "7"};
+        auto again = arguments;
+        again[2] = out("2.dgr");
+        auto other = again;
+        other[2] = out("3.dgr");
+        other.back() = "8";
+        ASSERT_EQ(runCli(arguments).status, 0);
+        ASSERT_EQ(runCli(again).status, 0);
+        ASSERT_EQ(runCli(other).status, 0);
+        EXPECT_EQ(fileBytes(out("1.dgr")), fileBytes(out("2.dgr"))) << order;
+        EXPECT_NE(fileBytes(out("1.dgr")), fileBytes(out("3.dgr"))) << order;
+    }
+}
+
+// Each of them changes the order that a seed gives, so each reaches its own field of the dialog.
+TEST_F(CommandLine, EveryParameterOfTheSearchesArrives) {
+    const auto diagram = [&](std::vector<std::string> options) {
+        std::vector<std::string> arguments = {
+            "diagram", sample("USArrests.mdt"), out("d.dgr"), "--seed", "7", "--measure", "manhattan"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const Outcome outcome = runCli(arguments);
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        EXPECT_EQ(outcome.err, "");
+        return fileBytes(out("d.dgr"));
+    };
+    const std::string genetic = diagram({"--order", "genetic"});
+    EXPECT_TRUE(diagram({"--order", "genetic", "--generations", "100"}) != genetic);
+    EXPECT_TRUE(diagram({"--order", "genetic", "--variants", "10"}) != genetic);
+    // Short generations, so that no run reaches the best order of all.
+    const std::string shortly = "--critical-mutation-number=20";
+    const std::string ravelin = diagram({"--order", "ravelin", shortly});
+    EXPECT_TRUE(diagram({"--order", "ravelin"}) != ravelin);
+    for (const auto& [option, value] :
+         std::vector<std::pair<std::string, std::string>>{{"--sequence-change", "50"},
+                                                          {"--fragment-transfer", "90"},
+                                                          {"--some-single-transfers", "0"},
+                                                          {"--single-transfer", "0"},
+                                                          {"--some-remote-conversions", "300"},
+                                                          {"--remote-conversion", "0"},
+                                                          {"--some-neighbour-conversions", "0"},
+                                                          {"--neighbour-conversion", "0"},
+
+                                                          {"--critical-generation-number", "0"},
+                                                          {"--matrix-conversion-coefficient", "0.1"}})
+        EXPECT_TRUE(diagram({"--order", "ravelin", shortly, option, value}) != ravelin) << option;
+}
+
+TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
+    expectRefusal({"diagram", sheet, out("d.dgr"), "--order", "ravelin", "--single-transfer", "many"}, sheet,
+                  "Parametr error!", out("d.dgr"));
+}
+
+// An endless search; Ctrl+C ends it, and the best order so far is written.
+TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
+    const std::string command =
+        std::string("timeout -s INT 1 ") + DORVAN_CLI + " diagram " + sample("Townships.mdt") + " " +
+        out("d.dgr") +
+        " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
+        "2>" +
+        out("err");
+    const int status = std::system(command.c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 124); // of timeout, which had to interrupt
+    EXPECT_EQ(fileBytes(out("err")), "");
+    EXPECT_EQ(fileBytes(out("d.dgr")).substr(0, 14), "Dorvan DIAGRAM");
 }
 
 TEST_F(CommandLine, PictureDrawsASymbolForEachPair) {

@@ -1,0 +1,98 @@
+#include "making/ordering_runs.h"
+
+#include "making/frmGenetic.h"
+#include "making/frmGeneticUM.h"
+#include "making/frmWork.h"
+#include "making/frmWorkUM.h"
+#include "making/genetic_ordering.h"
+#include "making/ravelin_ordering.h"
+
+#include <utility>
+
+namespace dorvan {
+
+namespace {
+
+constexpr double SecondsBetweenPaintings = 1.0 / 60;
+
+template <class Dialog> void AskOptions(Session& session) {
+    session.platform.forms.showModal(session.forms.Load<Dialog>(session));
+}
+
+// The progress window of one run, on the screen for as long as it lives.
+template <class Window> class Watch {
+public:
+    explicit Watch(Session& session)
+        : session_(session), window_(session.forms.Load<Window>(session)), start_(Now()) {
+        session_.platform.forms.show(window_);
+    }
+    ~Watch() {
+        if (window_.Visible) session_.platform.forms.close(window_);
+        session_.forms.Unload<Window>();
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+
+    Window& window() { return window_; }
+
+    // Lets events run, after the window was brought up to date where that is due.
+    template <class Progress> int Yield(Progress& progress) {
+        const double now = session_.platform.clock.seconds();
+        if (progress.Generation != decltype(progress.Generation){} && IsDue(now)) {
+            window_.ShowProgress(progress, static_cast<float>(now) - start_);
+            progress.TimeDue = false;
+            Update();
+        }
+        return session_.platform.events.run();
+    }
+
+    void Update() {
+        if (window_.Visible) session_.platform.forms.update(window_);
+    }
+
+private:
+    float Now() { return static_cast<float>(session_.platform.clock.seconds()); }
+
+    bool IsDue(double now) {
+        if (painted_ && now - paintedAt_ < SecondsBetweenPaintings) return false;
+        painted_ = true;
+        paintedAt_ = now;
+        return true;
+    }
+
+    Session& session_;
+    Window& window_;
+    float start_; // of the clock, in seconds
+    bool painted_ = false;
+    double paintedAt_ = 0;
+};
+
+Order RunSimpleGenetic(Session& session, const FloatTable& distances) {
+    Watch<frmWork> watch(session);
+    auto found = SimpleGeneticOrder(distances, session.ordering, session.random,
+                                    [&watch](GeneticProgress& progress) { return watch.Yield(progress); });
+    watch.window().ShowEnd();
+    watch.Update();
+    return std::move(found.BestOrder);
+}
+
+Order RunRavelin(Session& session, const FloatTable& distances) {
+    Watch<frmWorkUM> watch(session);
+    const RavelinHooks hooks{.yield = [&watch](RavelinProgress& progress) { return watch.Yield(progress); },
+                             .invalidMinimum =
+                                 [&session] {
+                                     session.platform.signals.beep();
+                                     session.platform.messages.show({.Text = "Error - Min invalid value"});
+                                 },
+                             .decimalSeparator = session.DecimalSeparator};
+    return RavelinOrder(distances, session.ordering, session.random, hooks).BestOrder;
+}
+
+} // namespace
+
+void AddGeneticOrderings(Session& session) {
+    session.orderingMethods[3] = {.askOptions = AskOptions<frmGenetic>, .run = RunSimpleGenetic};
+    session.orderingMethods[4] = {.askOptions = AskOptions<frmGeneticUM>, .run = RunRavelin};
+}
+
+} // namespace dorvan
