@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 #define DORVAN_INLINE [[gnu::always_inline]] inline
 
@@ -64,9 +65,9 @@ int LaneWidth(int lanes) {
     return lanes <= 16 ? 16 : MostLanes;
 }
 
-void SumLanes(const LaneOrders& orders, double* cells, float* sums) {
+void SumLanes(const LaneOrders& orders, LaneCells* work, float* sums) {
     static const SumFunction sum = FindSum();
-    sum(orders, cells, sums);
+    sum(orders, work->numbers, sums);
 }
 
 } // namespace dorvan

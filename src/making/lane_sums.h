@@ -18,23 +18,32 @@ struct LaneOrders {
     int lanes; // orders
     int width; // LaneWidth(lanes)
     const std::int16_t* reference;
-    const double* reciprocals;      // of the denominators: (record from 0, place in the reference order)
-    const double* squares;          // squares[k] = k * k, k < n
-    const std::int16_t* from;       // (lane, place): the reference order's place of the record there
-    const LaneMove* moves;          // where a lane differs from the reference order, by place
+    const double* reciprocals; // of the denominators: (record from 0, place in the reference order)
+    const double* squares;     // squares[k] = k * k, k < n
+    const std::int16_t* from;  // (lane, place): the reference order's place of the record there
+    const int* farLanes;       // those that differ from the reference order at most places
+    int farCount;
+    const LaneMove* moves;          // where the others differ, by place
     const std::int32_t* firstMoves; // n + 1: those of place p stand from firstMoves[p] to firstMoves[p + 1]
     bool positive;                  // all denominators are above 0
     bool whole;                     // they are integers up to 256, and n is at most 512
 };
 
 inline constexpr int MostLanes = 32;
-inline constexpr int LaneColumns = 64;
+
+// One number of eight lanes; a cache line.
+struct alignas(64) LaneCells {
+    double numbers[8];
+};
+
+// Room for the stretches of a row at work.
+inline constexpr int LaneWork = 256;
 
 // How many lanes a number of orders up to MostLanes takes.
 int LaneWidth(int lanes);
 
-// The sums over the places i < j of (j - i)^2 / denominator(P(i), P(j)), one a lane. `cells` is working room
-// for LaneColumns * MostLanes numbers.
-void SumLanes(const LaneOrders& orders, double* cells, float* sums);
+// The sums over the places i < j of (j - i)^2 / denominator(P(i), P(j)), one a lane. `work` is room for
+// LaneWork cells.
+void SumLanes(const LaneOrders& orders, LaneCells* work, float* sums);
 
 } // namespace dorvan

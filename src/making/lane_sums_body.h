@@ -7,7 +7,13 @@ using Numbers [[gnu::vector_size(8 * Wide)]] = double;
 using Floats [[gnu::vector_size(4 * Wide)]] = float;
 using Bits [[gnu::vector_size(8 * Wide)]] = std::int64_t;
 
-DORVAN_INLINE void Load(Numbers& to, const double* from) { std::memcpy(&to, from, sizeof to); }
+// Numbers in memory stand at multiples of their size.
+DORVAN_INLINE void Load(Numbers& to, const double* from) {
+    std::memcpy(&to, __builtin_assume_aligned(from, sizeof to), sizeof to);
+}
+DORVAN_INLINE void Store(double* to, const Numbers& from) {
+    std::memcpy(__builtin_assume_aligned(to, sizeof from), &from, sizeof from);
+}
 
 // The sums at work. While a sum stays within a binade, [2^23 units, 2^24 units) with the unit a power of two,
 // rounding to a 32-bit float is rounding to whole units. Shifted up to where a 64-bit float holds just whole
@@ -50,9 +56,10 @@ template <int Vectors> DORVAN_INLINE void LeaveUnits(Sums<Vectors>& state) {
 }
 
 DORVAN_INLINE bool AnyLane(const Bits& bits) {
-    std::int64_t any = 0;
-    for (int lane = 0; lane < Wide; ++lane) any |= bits[lane];
-    return any != 0;
+    std::int64_t lanes[Wide];
+    std::memcpy(lanes, &bits, sizeof lanes);
+    return ((lanes[0] | lanes[1]) | (lanes[2] | lanes[3]) | ((lanes[4] | lanes[5]) | (lanes[6] | lanes[7]))) !=
+           0;
 }
 
 // Adds `columns` terms to each lane; false, with the sums as they were, where a lane leaves its binade or a
@@ -101,49 +108,60 @@ DORVAN_INLINE void AddPlainly(Sums<Vectors>& state, const double* cells, const d
     for (int v = 0; v < Vectors; ++v) state.sums[v] = sums[v];
 }
 
+// Where the whole does not stay in units, most parts of it still do.
 template <int Vectors, bool Whole>
 DORVAN_INLINE void AddColumns(Sums<Vectors>& state, const LaneOrders& orders, const double* cells,
                               const double* squares, int columns) {
-    if (state.inUnits) {
-        if (AddInUnits<Vectors, Whole>(state, cells, squares, columns)) return;
-        LeaveUnits(state);
+    if (state.inUnits && AddInUnits<Vectors, Whole>(state, cells, squares, columns)) return;
+    constexpr int Part = 8;
+    for (int first = 0; first < columns; first += Part) {
+        const int length = std::min(Part, columns - first);
+        const double* part = cells + first * Vectors * Wide;
+        if (state.inUnits && AddInUnits<Vectors, Whole>(state, part, squares + first, length)) continue;
+        if (state.inUnits) LeaveUnits(state);
+        AddPlainly(state, part, squares + first, length);
+        TakeUnits(state, orders.positive);
     }
-    AddPlainly(state, cells, squares, columns);
-    TakeUnits(state, orders.positive);
 }
 
 DORVAN_INLINE const double* RowOf(const LaneOrders& orders, int place) {
     return orders.reciprocals + std::int64_t(orders.reference[place] - 1) * orders.n;
 }
 
+// A lane's own reciprocals for the record that it has at the place.
+template <int Vectors>
+DORVAN_INLINE void FillLane(double* cells, const LaneOrders& orders, int lane, int place, int first, int columns) {
+    const std::int16_t* from = orders.from + std::int64_t(lane) * orders.n;
+    const double* row = RowOf(orders, from[place]);
+    for (int column = 0; column < columns; ++column)
+        cells[column * Vectors * Wide + lane] = row[from[first + column]];
+}
+
 // The reciprocals of the records at one place with those at the places from `first` on, in all lanes: the
 // reference order's, then what differs in the columns, then the lanes that have another record at the place.
 template <int Vectors>
-DORVAN_INLINE void FillCells(double* cells, const LaneOrders& orders, int place, int first,
-                             int columns) {
+DORVAN_INLINE void FillCells(double* cells, const LaneOrders& orders, int place, int first, int columns) {
     constexpr int Lanes = Vectors * Wide;
     const double* row = RowOf(orders, place);
     for (int column = 0; column < columns; ++column) {
         const Numbers reciprocal = Numbers{} + row[first + column];
-        for (int v = 0; v < Vectors; ++v)
-            std::memcpy(cells + (column * Vectors + v) * Wide, &reciprocal, sizeof reciprocal);
+        for (int v = 0; v < Vectors; ++v) Store(cells + (column * Vectors + v) * Wide, reciprocal);
     }
     double* origin = cells - std::int64_t(first) * Lanes;
     for (int move = orders.firstMoves[first]; move < orders.firstMoves[first + columns]; ++move)
         origin[orders.moves[move].cell] = row[orders.moves[move].from];
-    for (int move = orders.firstMoves[place]; move < orders.firstMoves[place + 1]; ++move) {
-        const int lane = orders.moves[move].cell - place * Lanes;
-        const double* own = RowOf(orders, orders.moves[move].from);
-        const std::int16_t* from = orders.from + std::int64_t(lane) * orders.n + first;
-        for (int column = 0; column < columns; ++column) cells[column * Lanes + lane] = own[from[column]];
-    }
+    for (int move = orders.firstMoves[place]; move < orders.firstMoves[place + 1]; ++move)
+        FillLane<Vectors>(cells, orders, orders.moves[move].cell - place * Lanes, place, first, columns);
+    for (int k = 0; k < orders.farCount; ++k)
+        FillLane<Vectors>(cells, orders, orders.farLanes[k], place, first, columns);
 }
 
 template <int Vectors, bool Whole>
 DORVAN_INLINE void SumAll(const LaneOrders& orders, double* cells, Sums<Vectors>& state) {
+    constexpr int Stretch = LaneWork / Vectors;
     for (int place = 0; place + 1 < orders.n; ++place)
-        for (int first = place + 1; first < orders.n; first += LaneColumns) {
-            const int columns = std::min(LaneColumns, orders.n - first);
+        for (int first = place + 1; first < orders.n; first += Stretch) {
+            const int columns = std::min(Stretch, orders.n - first);
             FillCells<Vectors>(cells, orders, place, first, columns);
             AddColumns<Vectors, Whole>(state, orders, cells, orders.squares + (first - place), columns);
         }

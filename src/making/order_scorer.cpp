@@ -15,7 +15,7 @@ std::size_t Size(int count) { return static_cast<std::size_t>(count); }
 OrderScorer::OrderScorer(const FloatTable& denominators)
     : n_(denominators.Rows()), squares_(Size(n_)), reciprocals_(Size(n_) * Size(n_)), reference_(Size(n_)),
       placeOf_(Size(n_) + 1), from_(Size(n_) * MostLanes), moves_(Size(n_) * MostLanes + 1),
-      firstMoves_(Size(n_) + 1), cells_(std::max(Size(n_), Size(LaneColumns * MostLanes))) {
+      firstMoves_(Size(n_) + 1), moved_(Size(n_)), work_(LaneWork) {
     for (std::size_t k = 0; k < squares_.size(); ++k) squares_[k] = double(k) * double(k);
     std::iota(reference_.begin(), reference_.end(), std::int16_t(1));
     std::iota(placeOf_.begin(), placeOf_.end(), std::int16_t(-1));
@@ -48,11 +48,13 @@ void OrderScorer::Score(Orders orders, std::span<float> scores) {
                               reciprocals_.data(),
                               squares_.data(),
                               from_.data(),
+                              far_.data(),
+                              static_cast<int>(far_.size()),
                               moves_.data(),
                               firstMoves_.data(),
                               positive_,
                               whole_};
-        SumLanes(work, cells_.data(), scores.data() + first);
+        SumLanes(work, work_.data(), scores.data() + first);
     }
     for (float& score : scores) {
         if (!std::isfinite(score)) throw RuntimeFailure(Failure::DivisionByZero);
@@ -60,14 +62,25 @@ void OrderScorer::Score(Orders orders, std::span<float> scores) {
     }
 }
 
-// Without a branch to mispredict: what did not move is overwritten by the next.
 void OrderScorer::FindMoves(Orders orders, int lanes) {
     for (std::size_t k = 0; k < orders.size(); ++k) from_[k] = placeOf_[Size(orders[k])];
-    const int width = LaneWidth(lanes);
+    near_.clear();
+    far_.clear();
+    for (int lane = 0; lane < lanes; ++lane) {
+        const std::int16_t* from = from_.data() + Size(lane) * Size(n_);
+        int moved = 0;
+        for (int place = 0; place < n_; ++place) moved += from[place] != place ? 1 : 0;
+        (2 * moved > n_ ? far_ : near_).push_back(lane);
+    }
+    ListMoves(LaneWidth(lanes));
+}
+
+// Without a branch to mispredict: what did not move is overwritten by the next.
+void OrderScorer::ListMoves(int width) {
     int count = 0;
     for (int place = 0; place < n_; ++place) {
         firstMoves_[Size(place)] = count;
-        for (int lane = 0; lane < lanes; ++lane) {
+        for (const int lane : near_) {
             const std::int32_t from = from_[Size(lane) * Size(n_) + Size(place)];
             moves_[Size(count)] = {place * width + lane, from};
             count += from != place ? 1 : 0;
@@ -77,12 +90,19 @@ void OrderScorer::FindMoves(Orders orders, int lanes) {
 }
 
 void OrderScorer::Refer(Orders order) {
-    FindMoves(order, 1);
-    const int moves = firstMoves_[Size(n_)];
+    std::vector<std::int16_t> places;
+    std::vector<std::int16_t> from;
+    for (int place = 0; place < n_; ++place) {
+        const std::int16_t place16 = static_cast<std::int16_t>(place);
+        const std::int16_t previous = placeOf_[Size(order[Size(place)])];
+        if (previous == place16) continue;
+        places.push_back(place16);
+        from.push_back(previous);
+    }
     for (int record = 0; record < n_; ++record) {
         double* row = reciprocals_.data() + Size(record) * Size(n_);
-        for (int k = 0; k < moves; ++k) cells_[Size(k)] = row[moves_[Size(k)].from];
-        for (int k = 0; k < moves; ++k) row[moves_[Size(k)].cell / LaneWidth(1)] = cells_[Size(k)];
+        for (std::size_t k = 0; k < from.size(); ++k) moved_[k] = row[from[k]];
+        for (std::size_t k = 0; k < places.size(); ++k) row[places[k]] = moved_[k];
     }
     std::copy(order.begin(), order.end(), reference_.begin());
     for (int place = 0; place < n_; ++place) placeOf_[Size(order[Size(place)])] = std::int16_t(place);

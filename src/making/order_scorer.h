@@ -32,6 +32,7 @@ public:
 private:
     void MakeReciprocals(const FloatTable& denominators);
     void FindMoves(Orders orders, int lanes);
+    void ListMoves(int width);
 
     int n_;
     bool positive_ = true;
@@ -41,9 +42,12 @@ private:
     std::vector<std::int16_t> reference_;
     std::vector<std::int16_t> placeOf_; // of a record in reference_
     std::vector<std::int16_t> from_;
+    std::vector<int> near_; // lanes that differ from reference_ at few places
+    std::vector<int> far_;
     std::vector<LaneMove> moves_;
     std::vector<std::int32_t> firstMoves_;
-    std::vector<double> cells_;
+    std::vector<double> moved_;
+    std::vector<LaneCells> work_;
 };
 
 } // namespace dorvan
