@@ -11,16 +11,20 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QTextCursor>
+
+#include <algorithm>
 
 namespace dorvan {
 
 namespace {
 
 constexpr int LongestText = 32767;
+constexpr int ProgressSteps = 1000;
 
 template <class Box> void MirrorItems(Box* box, const ListBox& control) {
     bool same = box->count() == static_cast<int>(control.List.size());
@@ -233,6 +237,16 @@ void Bindings::List(QListWidget* list, ListBox& control, const QString& accessib
         const QSignalBlocker blocker(list);
         MirrorItems(list, control);
         list->setCurrentRow(control.ListIndex);
+    });
+}
+
+void Bindings::Progress(QProgressBar* widget, const Bar& track, const Bar& bar,
+                        const QString& accessibleName) {
+    Name(widget, bar, accessibleName);
+    widget->setRange(0, ProgressSteps);
+    mirrors_.push_back([widget, &track, &bar] {
+        const double share = track.Width > 0 ? bar.Width / track.Width : 0;
+        widget->setValue(static_cast<int>(std::clamp(share, 0.0, 1.0) * ProgressSteps));
     });
 }
 

@@ -18,6 +18,7 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
+class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QWidget;
@@ -53,6 +54,9 @@ public:
     void Check(QCheckBox* box, CheckBox& control, Handler click = {});
     void Combo(QComboBox* box, ListBox& control, const QString& accessibleName, Handler click = {});
     void List(QListWidget* list, ListBox& control, const QString& accessibleName, Handler click = {});
+
+    // `bar` fills as far over its range as its control does over `track`. The widget has the name of `bar`.
+    void Progress(QProgressBar* widget, const Bar& track, const Bar& bar, const QString& accessibleName);
 
     // Run at each mirroring, after the controls.
     void Also(Handler mirror) { mirrors_.push_back(std::move(mirror)); }

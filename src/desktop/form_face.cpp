@@ -23,6 +23,8 @@ FormFace::FormFace(Form& form, EventDispatch& dispatch, QWidget* parent)
     : QDialog(parent), form_(form), dispatch_(dispatch), bindings_(new Bindings(form, dispatch, this)),
       column_(new QVBoxLayout(this)) {
     setObjectName(ToQt(form.Name));
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint); // nothing to minimize or maximize
     column_->setSizeConstraint(QLayout::SetFixedSize);
     dispatch_.AddMirror(this, [this] { Mirror(); });
 }
@@ -66,6 +68,13 @@ QLineEdit* FormFace::AddField(QFormLayout* rows, const QString& label, TextBox& 
     rows->addRow(label, field);
     bindings_->Field(field, control, label, std::move(events));
     return field;
+}
+
+void FormFace::AddRow(QFormLayout* rows, const Label& label, QWidget* widget) {
+    auto* shown = new QLabel(this);
+    bindings_->Text(shown, label);
+    shown->setBuddy(widget);
+    rows->addRow(shown, widget);
 }
 
 QLabel* FormFace::AddLabel(const Control& control) {

@@ -31,6 +31,8 @@ public:
     QVBoxLayout& Column() { return *column_; }
     QFormLayout* AddRows();
     QLineEdit* AddField(QFormLayout* rows, const QString& label, TextBox& control, FieldEvents events);
+    // A line of rows, with the form's own label before the widget.
+    void AddRow(QFormLayout* rows, const Label& label, QWidget* widget);
     QLabel* AddLabel(const Control& control);
     QLabel* AddNote(const QString& text);
     // The row of buttons at the bottom; the first one is the default.

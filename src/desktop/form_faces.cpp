@@ -11,7 +11,9 @@ std::unique_ptr<FormFace> MakeFormFace(Form& form, EventDispatch& dispatch, QWid
     static const std::map<std::string, void (*)(FormFace&)> faces = {
         {"frmAbout", LayOutAbout},           {"frmNowy", LayOutNowy},
         {"frmCustomized", LayOutCustomized}, {"frmOpcjeMacierzy", LayOutOptionsOfMatrix},
-        {"frmPrzedzal", LayOutPrzedzal},
+        {"frmPrzedzal", LayOutPrzedzal},     {"frmGenetic", LayOutGenetic},
+        {"frmGeneticUM", LayOutGeneticUM},   {"frmWork", LayOutWork},
+        {"frmWorkUM", LayOutWorkUM},
     };
     const auto found = faces.find(form.Name);
     if (found == faces.end()) throw RuntimeFailure(Failure::InvalidProcedureCall, form.Name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/form_face.h"
+#include "desktop/qt_text.h"
 
 namespace dorvan {
 

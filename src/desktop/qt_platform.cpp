@@ -73,6 +73,8 @@ Answer QtMessages::show(const Message& message) {
     const PlainCursor cursor;
     QMessageBox box(ParentOfDialogs());
     box.setObjectName("MessageBox");
+    box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                       Qt::WindowCloseButtonHint);
     box.setWindowTitle(dorvan::ToQt(message.Title));
     box.setTextFormat(Qt::PlainText);
     box.setText(dorvan::ToQt(message.Text).replace("\r\n", "\n"));
@@ -299,7 +301,9 @@ int QtScreen::height() {
     return QGuiApplication::primaryScreen()->availableGeometry().height() * TwipsPerPixel;
 }
 
-double QtClock::seconds() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+QtClock::QtClock() : start_(QTime::currentTime().msecsSinceStartOfDay() / 1000.0) { sinceStart_.start(); }
+
+double QtClock::seconds() { return start_ + double(sinceStart_.nsecsElapsed()) / 1e9; }
 
 namespace {
 

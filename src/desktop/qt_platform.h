@@ -112,9 +112,16 @@ public:
     int height() override;
 };
 
+// Asked at each step of a search, so it is cheap; and it goes on over midnight, so that no time taken is ever
+// negative.
 class QtClock : public Clock {
 public:
+    QtClock();
     double seconds() override;
+
+private:
+    double start_; // seconds since midnight
+    QElapsedTimer sinceStart_;
 };
 
 class QtSettings : public SettingsStore {

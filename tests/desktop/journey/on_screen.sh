@@ -8,9 +8,10 @@ for program in Xvfb xvfb-run xauth openbox xdotool dbus-run-session; do
 done
 /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || { echo "on_screen.sh needs pyatspi" >&2; exit 77; }
 
+# Without -noreset the server would start all over when its first client, one that only asks, goes.
 if [ -z "${ON_SCREEN:-}" ]; then
     export ON_SCREEN=1
-    exec xvfb-run -a -s "-screen 0 ${SCREEN_SIZE:-1366x768}x24" dbus-run-session -- "$0" "$@"
+    exec xvfb-run -a -s "-noreset -screen 0 ${SCREEN_SIZE:-1366x768}x24" dbus-run-session -- "$0" "$@"
 fi
 
 home=$(mktemp -d)

@@ -1,0 +1,62 @@
+#include "desktop/form_faces.h"
+#include "making/frmWork.h"
+#include "making/frmWorkUM.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace dorvan {
+
+namespace {
+
+constexpr int FigureWidth = 110; // pixels; figures that grow do not resize the window
+
+QLabel* AddFigure(FormFace& face, const Label& label) {
+    auto* shown = new QLabel(&face);
+    shown->setMinimumWidth(FigureWidth);
+    face.Binder().Text(shown, label);
+    return shown;
+}
+
+} // namespace
+
+void LayOutWork(FormFace& face) {
+    auto& form = dynamic_cast<frmWork&>(face.Shown());
+    auto* percent = AddFigure(face, form.InfoString);
+    percent->setAlignment(Qt::AlignHCenter);
+    face.Column().addWidget(percent);
+    auto* bar = new QProgressBar(&face);
+    bar->setTextVisible(false);
+    bar->setFixedWidth(int(form.Procent.Width) / 15);
+    face.Binder().Progress(bar, form.Procent, form.Procent1, "Progress");
+    face.Column().addWidget(bar);
+    auto* rows = face.AddRows();
+    face.AddRow(rows, form.Label1, AddFigure(face, form.InfoTime));
+    face.AddRow(rows, form.Label2, AddFigure(face, form.lblFunkcja));
+    face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
+}
+
+void LayOutWorkUM(FormFace& face) {
+    auto& form = dynamic_cast<frmWorkUM&>(face.Shown());
+    auto* rows = face.AddRows();
+    const auto addPair = [&](const Label& caption, const Label& first, const Label& second) {
+        auto* line = new QWidget(&face);
+        auto* figures = new QHBoxLayout(line);
+        figures->setContentsMargins(0, 0, 0, 0);
+        figures->addWidget(AddFigure(face, first));
+        figures->addWidget(AddFigure(face, second));
+        face.AddRow(rows, caption, line);
+    };
+    addPair(form.Label1, form.Generacje, form.lblChangesG);
+    addPair(form.Label2, form.Mutacje, form.lblChangeM);
+    face.AddRow(rows, form.Label3, AddFigure(face, form.lblFunkcja));
+    face.AddRow(rows, form.Label4, AddFigure(face, form.lblActualUM));
+    face.AddRow(rows, form.Label5, AddFigure(face, form.BestUm));
+    face.AddRow(rows, form.Label6, AddFigure(face, form.InfoTime));
+    face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
+}
+
+} // namespace dorvan
