@@ -2,7 +2,10 @@
 
 #include "distance/frmMacierz.h"
 #include "distance/measure_lists.h"
+#include "making/order_quality.h"
 #include "numbers/number_text.h"
+#include "numbers/runtime_failure.h"
+#include "numbers/text.h"
 #include "sheet/frmNotePad.h"
 #include "view/frmDiagram.h"
 
@@ -37,16 +40,21 @@ std::string TypeText(std::int16_t type) {
 
 std::string Number(double value, char separator) { return FormatPattern(value, "###0.000", separator); }
 
-// The sum of the distances of following records.
-double PathLength(const FloatTable& distances) {
-    double length = 0;
-    for (std::int32_t place = 1; place < distances.Rows(); ++place) length += distances(place, place + 1);
-    return length;
+// A score, or why there is none, such as "overflow".
+std::string Score(float (*scoreOf)(const FloatTable&), const FloatTable& distances, char separator) {
+    try {
+        return FormatPattern(double(scoreOf(distances)), "###0.00000", separator);
+    } catch (const RuntimeFailure& failure) {
+        return LowerCase(FailureText(failure.failure()));
+    }
 }
 
 // How good the order is as it stands.
 void AddQuality(Lines& lines, const FloatTable& distances, char separator) {
     lines.add("path length", Number(PathLength(distances), separator));
+    lines.add("F", Score(ScoreOfOrder, distances, separator));
+    lines.add("UM coefficient", Score(UmOfOrder, distances, separator));
+    lines.add("anti-Robinson events", AntiRobinsonEvents(distances));
 }
 
 long MissingValues(const frmNotePad& sheet) {

@@ -5,6 +5,7 @@
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
 #include "session/children.h"
+#include "session/registry.h"
 
 #include <fmt/format.h>
 
@@ -14,10 +15,6 @@ namespace dorvan {
 
 namespace {
 
-constexpr int LeastHeight = 2500;
-constexpr int HeightInstead = 3200;
-constexpr int LeastWidth = 5000;
-constexpr int RightMargin = 100;
 constexpr int NameWidthFactor = 3;
 
 constexpr const char* MatrixMenus[] = {"mnuExport", "mnuExportText", "mnuExportExcel", "mnuSave",
@@ -54,7 +51,7 @@ double WidthFactor(std::size_t length) {
 
 } // namespace
 
-frmMacierz::frmMacierz(Session& session) : ChildWindow("frmMacierz"), session_(session) {}
+frmMacierz::frmMacierz(Session& session) : GridWindow("frmMacierz", session) {}
 
 DistanceMatrix& frmMacierz::Document() { return session_.MatrixDocuments.at(std::size_t(Index)); }
 
@@ -142,25 +139,10 @@ void frmMacierz::Form_Unload() {
 }
 
 // It is the active window that is kept from getting too small, which need not be this one.
-void frmMacierz::Form_Resize() {
-    ChildWindow* active = session_.ActiveWindow;
-    if (Mode == WindowMode::Normal && active &&
-        (active->Height < LeastHeight || active->Width < LeastWidth)) {
-        if (active->Height < LeastHeight) active->Height = HeightInstead;
-        active->Width = std::max(active->Width, LeastWidth);
-        session_.platform.children.update(*active);
-    }
-    if (Mode == WindowMode::Minimized || ScaleHeight <= 0) return;
-    SiatkaBounds = {0, BottomPanelHeight, ScaleWidth, std::max(0, ScaleHeight - BottomPanelHeight)};
-    BottomTextWidth = std::max(0, ScaleWidth - BottomTextLeft - RightMargin);
-}
+void frmMacierz::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 3200, .Width = 5000}); }
 
 frmMacierz& MatrixWindow(Session& session, std::int16_t slot) {
-    if (slot < 1 || std::size_t(slot) >= session.MatrixWindows.size())
-        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a matrix's slot");
-    auto* window = dynamic_cast<frmMacierz*>(session.MatrixWindows[std::size_t(slot)].get());
-    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "no matrix window in that slot");
-    return *window;
+    return WindowInSlot<frmMacierz>(session.MatrixWindows, slot);
 }
 
 } // namespace dorvan

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/child_window.h"
-#include "platform/grid.h"
-#include "session/session.h"
+#include "session/grid_window.h"
 
 #include <string>
 
@@ -10,25 +8,9 @@ namespace dorvan {
 
 // The window that shows one matrix of distances. The matrix itself is `MatrixDocuments(Index)`; the grid
 // shows its cells through "###0.000" and is read-only.
-class frmMacierz : public ChildWindow {
+class frmMacierz : public GridWindow {
 public:
     explicit frmMacierz(Session& session);
-
-    static constexpr int BottomPanelHeight = 390; // twips; the panel of the description, above the grid
-
-    TextBox BottomText{"BottomText"}; // the description
-    Grid Siatka{"Siatka"};
-
-    // Where the last resize put the grid, and the width it gave to the description: twips inside the window.
-    struct Bounds {
-        int Left = 0;
-        int Top = BottomPanelHeight;
-        int Width = 0;
-        int Height = 0;
-    };
-    Bounds SiatkaBounds;
-    int BottomTextLeft = 1200; // right of the label "Description:"; told by the face
-    int BottomTextWidth = 0;
 
     DistanceMatrix& Document();
 
@@ -55,8 +37,6 @@ public:
 private:
     void LayOutColumns(float highest);
     void FillGrid(const FloatTable& distances);
-
-    Session& session_;
 };
 
 frmMacierz& MatrixWindow(Session& session, std::int16_t slot);

@@ -103,7 +103,6 @@ private:
         if (smallest == fitness_.begin()) return;
         const Row row = Variant(static_cast<std::size_t>(smallest - fitness_.begin()) + 1);
         std::copy(row.begin(), row.end(), best_.begin());
-        scorer_.Refer(best_);
     }
 
     std::int32_t n_;

@@ -1,40 +1,25 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
-// Scores of many orders side by side, one order to a lane. Each lane's sum is a 32-bit float to which the
-// terms are added one by one, rounded to it after every addition, in the order of the places.
+// Scores of orders side by side, one order to a lane. Each lane's sum is a 32-bit float to which the terms are
+// added one by one, rounded to it after every addition, in the order of the places.
 namespace dorvan {
 
-// A lane's order has, at some place, the record that the reference order has at the place `from`.
-struct LaneMove {
-    std::int32_t cell; // place * width + lane
-    std::int32_t from;
-};
+inline constexpr int Lanes = 4;
 
-// Orders given by what they differ in from one reference order. Places count from 0, records from 1.
+// Places and records count from 0.
 struct LaneOrders {
     int n;
-    int lanes; // orders
-    int width; // LaneWidth(lanes)
-    const std::int16_t* reference;
-    const double* reciprocals;      // of the denominators: (record from 0, place in the reference order)
-    const double* squares;          // squares[k] = k * k, k < n
-    const std::int16_t* from;       // (lane, place): the reference order's place of the record there
-    const LaneMove* moves;          // where a lane differs from the reference order, by place
-    const std::int32_t* firstMoves; // n + 1: those of place p stand from firstMoves[p] to firstMoves[p + 1]
-    bool positive;                  // all denominators are above 0
-    bool whole;                     // they are integers up to 256, and n is at most 512
+    const std::int32_t* records; // (place, lane)
+    const double* reciprocals;   // of the denominators: (record, record)
+    const double* squares;       // squares[k] = k * k, k < n
+    bool positive;               // all denominators are above 0
+    bool whole;                  // they are integers up to 256, and n is at most 512
 };
 
-inline constexpr int MostLanes = 32;
-inline constexpr int LaneColumns = 64;
-
-// How many lanes a number of orders up to MostLanes takes.
-int LaneWidth(int lanes);
-
-// The sums over the places i < j of (j - i)^2 / denominator(P(i), P(j)), one a lane. `cells` is working room
-// for LaneColumns * MostLanes numbers.
-void SumLanes(const LaneOrders& orders, double* cells, float* sums);
+// The sums over the places i < j of (j - i)^2 / denominator(P(i), P(j)).
+std::array<float, Lanes> SumLanes(const LaneOrders& orders);
 
 } // namespace dorvan

@@ -1,91 +1,46 @@
 #include "making/order_scorer.h"
 
+#include "making/lane_sums.h"
+
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace dorvan {
 
-namespace {
-
-std::size_t Size(int count) { return static_cast<std::size_t>(count); }
-
-} // namespace
-
-OrderScorer::OrderScorer(const FloatTable& denominators)
-    : n_(denominators.Rows()), squares_(Size(n_)), reciprocals_(Size(n_) * Size(n_)), reference_(Size(n_)),
-      placeOf_(Size(n_) + 1), from_(Size(n_) * MostLanes), moves_(Size(n_) * MostLanes + 1),
-      firstMoves_(Size(n_) + 1), cells_(std::max(Size(n_), Size(LaneColumns * MostLanes))) {
-    for (std::size_t k = 0; k < squares_.size(); ++k) squares_[k] = double(k) * double(k);
-    std::iota(reference_.begin(), reference_.end(), std::int16_t(1));
-    std::iota(placeOf_.begin(), placeOf_.end(), std::int16_t(-1));
-    MakeReciprocals(denominators);
-}
-
-void OrderScorer::MakeReciprocals(const FloatTable& denominators) {
+OrderScorer::OrderScorer(const FloatTable& denominators) : n_(denominators.Rows()) {
+    const auto n = static_cast<std::size_t>(n_);
+    squares_.resize(n);
+    for (std::size_t k = 0; k < n; ++k) squares_[k] = double(k) * double(k);
+    records_.resize(n * Lanes);
     whole_ = n_ <= 512;
-    for (int row = 0; row < n_; ++row)
-        for (int column = 0; column < n_; ++column) {
+    reciprocals_.reserve(n * n);
+    for (int row = 1; row <= n_; ++row)
+        for (int column = 1; column <= n_; ++column) {
+            const float denominator = denominators(row, column);
+            reciprocals_.push_back(1.0 / double(denominator));
             if (row == column) continue;
-            const float denominator = denominators(row + 1, column + 1);
             positive_ = positive_ && denominator > 0;
             whole_ = whole_ && denominator <= 256 && std::floor(denominator) == denominator;
-            reciprocals_[Size(row) * Size(n_) + Size(column)] = 1.0 / double(denominator);
         }
 }
 
 void OrderScorer::Score(Orders orders, std::span<float> scores) {
-    const auto count = static_cast<int>(scores.size());
-    const int batches = (count + MostLanes - 1) / MostLanes;
-    for (int batch = 0; batch < batches; ++batch) {
-        const int first = batch * count / batches;
-        const int lanes = (batch + 1) * count / batches - first;
-        FindMoves(orders.subspan(Size(first) * Size(n_), Size(lanes) * Size(n_)), lanes);
-        const LaneOrders work{n_,
-                              lanes,
-                              LaneWidth(lanes),
-                              reference_.data(),
-                              reciprocals_.data(),
-                              squares_.data(),
-                              from_.data(),
-                              moves_.data(),
-                              firstMoves_.data(),
-                              positive_,
-                              whole_};
-        SumLanes(work, cells_.data(), scores.data() + first);
-    }
-    for (float& score : scores) {
-        if (!std::isfinite(score)) throw RuntimeFailure(Failure::DivisionByZero);
-        score = static_cast<float>(double(score) / (double(n_) * double(n_) / 2.0));
-    }
-}
-
-// Without a branch to mispredict: what did not move is overwritten by the next.
-void OrderScorer::FindMoves(Orders orders, int lanes) {
-    for (std::size_t k = 0; k < orders.size(); ++k) from_[k] = placeOf_[Size(orders[k])];
-    const int width = LaneWidth(lanes);
-    int count = 0;
-    for (int place = 0; place < n_; ++place) {
-        firstMoves_[Size(place)] = count;
-        for (int lane = 0; lane < lanes; ++lane) {
-            const std::int32_t from = from_[Size(lane) * Size(n_) + Size(place)];
-            moves_[Size(count)] = {place * width + lane, from};
-            count += from != place ? 1 : 0;
+    const auto n = static_cast<std::size_t>(n_);
+    for (std::size_t first = 0; first < scores.size(); first += Lanes) {
+        const std::size_t count = std::min(scores.size() - first, std::size_t(Lanes));
+        for (std::size_t lane = 0; lane < Lanes; ++lane) {
+            const Orders order = orders.subspan((first + std::min(lane, count - 1)) * n, n);
+            for (std::size_t place = 0; place < n; ++place)
+                records_[place * Lanes + lane] = order[place] - 1;
+        }
+        const auto sums = SumLanes(
+            {n_, records_.data(), reciprocals_.data(), squares_.data(), positive_, whole_});
+        for (std::size_t lane = 0; lane < count; ++lane) {
+            if (!std::isfinite(sums[lane])) throw RuntimeFailure(Failure::DivisionByZero);
+            scores[first + lane] =
+                static_cast<float>(double(sums[lane]) / (double(n_) * double(n_) / 2.0));
         }
     }
-    firstMoves_[Size(n_)] = count;
-}
-
-void OrderScorer::Refer(Orders order) {
-    FindMoves(order, 1);
-    const int moves = firstMoves_[Size(n_)];
-    for (int record = 0; record < n_; ++record) {
-        double* row = reciprocals_.data() + Size(record) * Size(n_);
-        for (int k = 0; k < moves; ++k) cells_[Size(k)] = row[moves_[Size(k)].from];
-        for (int k = 0; k < moves; ++k) row[moves_[Size(k)].cell / LaneWidth(1)] = cells_[Size(k)];
-    }
-    std::copy(order.begin(), order.end(), reference_.begin());
-    for (int place = 0; place < n_; ++place) placeOf_[Size(order[Size(place)])] = std::int16_t(place);
 }
 
 } // namespace dorvan

@@ -1,5 +1,6 @@
 #include "making/ravelin_ordering.h"
 
+#include "making/lane_sums.h"
 #include "making/order_scorer.h"
 #include "making/order_scores.h"
 #include "making/ravelin_operators.h"
@@ -16,8 +17,7 @@ namespace dorvan {
 
 namespace {
 
-constexpr int FewestAhead = 8;
-constexpr int MostAhead = MostLanes;
+constexpr int MostAhead = Lanes;
 
 using Records = std::vector<std::int16_t>;
 
@@ -132,7 +132,6 @@ private:
         base_ = *baseOfBest_;
         progress_.Base = base_;
         ahead_.Drop();
-        aheadCount_ = FewestAhead;
     }
 
     void RunMutations() {
@@ -173,20 +172,17 @@ private:
             base_ = double(trial);
             mutationsLost_ = 0;
             current_.assign(order.begin(), order.end());
-            scorer_.Refer(current_);
             ahead_.Drop();
-            aheadCount_ = FewestAhead;
         } else {
             ++mutationsLost_;
         }
         mutated_ = current_;
     }
 
-    // No more than can follow before the generation ends, and the more the longer none was accepted.
+    // No more than can follow before the generation ends.
     void DrawAhead() {
         const int left = std::max(1, options_.CriticalMutationNumber - mutationsLost_);
-        ahead_.Draw(std::min(aheadCount_, left), mutated_, current_, random_, options_);
-        aheadCount_ = std::min(2 * aheadCount_, MostAhead);
+        ahead_.Draw(std::min(MostAhead, left), mutated_, current_, random_, options_);
     }
 
     // The first generation sets the mark and does not write the best order.
@@ -212,9 +208,8 @@ private:
     RandomSource& random_;
     const RavelinHooks& hooks_;
     ByteTable bytes_;
-    OrderScorer scorer_; // refers to current_
+    OrderScorer scorer_;
     MutationsAhead ahead_;
-    int aheadCount_ = FewestAhead;
 
     Records current_; // last accepted, kept across generations
     Records mutated_; // from which the next mutation starts

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "numbers/runtime_failure.h"
 #include "session/session.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Slots of the registry.
 namespace dorvan {
@@ -22,6 +26,17 @@ bool AnyDataWindowOpen(const Session& session);
 // Makes the window of a kind (a DocumentKind) for the slot in `NewWindowIndex`, its `Index` and `Tag` set,
 // and puts it into the registry in the place of the one that stood there. It is not shown yet.
 ChildWindow& CreateChildWindow(Session& session, std::string_view kind);
+
+// The window of a slot, by its class. Fails with SubscriptOutOfRange for a slot that is not in the registry,
+// with InvalidProcedureCall for one that holds no such window.
+template <class Window>
+Window& WindowInSlot(const std::vector<std::shared_ptr<ChildWindow>>& windows, std::int16_t slot) {
+    if (slot < 1 || std::size_t(slot) >= windows.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a window's slot");
+    auto* window = dynamic_cast<Window*>(windows[std::size_t(slot)].get());
+    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "no such window in that slot");
+    return *window;
+}
 
 // "[DATA]: Untitled:1" and its likes.
 std::string UntitledCaption(std::string_view kind, std::int16_t slot);

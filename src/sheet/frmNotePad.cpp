@@ -4,6 +4,7 @@
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
 #include "session/children.h"
+#include "session/registry.h"
 
 #include <algorithm>
 
@@ -132,7 +133,7 @@ void frmNotePad::OpisText_KeyPress(int&) {
 }
 
 frmNotePad& DataWindow(Session& session, std::int16_t slot) {
-    return dynamic_cast<frmNotePad&>(*session.DataWindows.at(std::size_t(slot)));
+    return WindowInSlot<frmNotePad>(session.DataWindows, slot);
 }
 
 frmNotePad& ActiveDataWindow(Session& session) {

@@ -3,6 +3,7 @@
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
 #include "session/children.h"
+#include "session/registry.h"
 #include "view/tiles.h"
 
 #include <fmt/format.h>
@@ -17,11 +18,6 @@ constexpr int NumberColumnWidth = 382; // 1.5 boxes, the tie rounded to even
 constexpr int NameColumnWidth = 1800;
 constexpr int BoxSide = 255; // 16 pixels of a tile and a spare one
 constexpr int MostDescriptionCharacters = 150;
-
-constexpr int LeastHeight = 2500; // below it a window snaps to SnapHeight
-constexpr int SnapHeight = 4500;
-constexpr int LeastWidth = 9480;
-constexpr int RightMargin = 100;
 
 // What an active diagram turns on, and what turns off with it.
 constexpr const char* ExportMenus[] = {"mnuExport", "mnuExportExcel", "mnuExportBitmap", "mnuExportMeta"};
@@ -45,7 +41,7 @@ void SwitchSaveButtons(MainWindow& mainWindow, bool enabled) {
 
 } // namespace
 
-frmDiagram::frmDiagram(Session& session) : ChildWindow("frmDiagram"), session_(session) {
+frmDiagram::frmDiagram(Session& session) : GridWindow("frmDiagram", session) {
     BottomText.MaxLength = MostDescriptionCharacters;
     Siatka.GridLines = false;
 }
@@ -178,18 +174,7 @@ void frmDiagram::Form_Unload() {
     for (const auto* item : {"mnuEditCopyClip", "mnuEditCreateDataset"}) mainWindow.EnableMenu(item, false);
 }
 
-void frmDiagram::Form_Resize() {
-    ChildWindow* active = session_.ActiveWindow; // it is the one that snaps, be it this window or another
-    if (Mode == WindowMode::Normal && active &&
-        (active->Height < LeastHeight || active->Width < LeastWidth)) {
-        if (active->Height < LeastHeight) active->Height = SnapHeight;
-        active->Width = std::max(active->Width, LeastWidth);
-        session_.platform.children.update(*active);
-    }
-    if (Mode == WindowMode::Minimized || ScaleHeight <= 0) return;
-    SiatkaBounds = {0, BottomPanelHeight, ScaleWidth, std::max(0, ScaleHeight - BottomPanelHeight)};
-    BottomTextWidth = std::max(0, ScaleWidth - BottomTextLeft - RightMargin);
-}
+void frmDiagram::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
 bool frmDiagram::IsBusy() {
     if (session_.DiagramBusy != 1) return false;
@@ -200,11 +185,7 @@ bool frmDiagram::IsBusy() {
 void frmDiagram::Beep() { session_.platform.signals.beep(); }
 
 frmDiagram& DiagramWindow(Session& session, std::int16_t slot) {
-    if (slot < 1 || std::size_t(slot) >= session.DiagramWindows.size())
-        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's slot");
-    auto* window = dynamic_cast<frmDiagram*>(session.DiagramWindows[std::size_t(slot)].get());
-    if (!window) throw RuntimeFailure(Failure::InvalidProcedureCall, "no diagram window in that slot");
-    return *window;
+    return WindowInSlot<frmDiagram>(session.DiagramWindows, slot);
 }
 
 } // namespace dorvan

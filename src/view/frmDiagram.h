@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/child_window.h"
-#include "platform/grid.h"
-#include "session/session.h"
+#include "session/grid_window.h"
 
 #include <cstdint>
 #include <string>
@@ -18,25 +16,9 @@ namespace dorvan {
 // A move of a row carries its record and the selection to another place. It beeps and changes nothing where
 // it is not possible, or while a diagram is being made. It never touches `Dirty`. `Down`, `EndRow` and
 // `Insert` without a selected row fail with SubscriptOutOfRange.
-class frmDiagram : public ChildWindow {
+class frmDiagram : public GridWindow {
 public:
     explicit frmDiagram(Session& session);
-
-    static constexpr int BottomPanelHeight = 390; // twips; the panel of the description, above the grid
-
-    TextBox BottomText{"BottomText"}; // the description
-    Grid Siatka{"Siatka"};
-
-    // Places of the controls, in twips, as the last resize set them.
-    struct Bounds {
-        int Left = 0;
-        int Top = BottomPanelHeight;
-        int Width = 0;
-        int Height = 0;
-    };
-    Bounds SiatkaBounds;
-    int BottomTextLeft = 1200; // right of the label "Description:"; told by the face
-    int BottomTextWidth = 0;
 
     std::int16_t SelectedRow = 0;  // the selected grid row, 0 when none
     std::int16_t RowSelected = 0;  // 1 while a row is selected
@@ -105,8 +87,6 @@ private:
     void MakeRoom(std::int32_t place);
     void Exchange(std::int16_t neighbour);
     void LandOn(std::int16_t place);
-
-    Session& session_;
 };
 
 frmDiagram& DiagramWindow(Session& session, std::int16_t slot);

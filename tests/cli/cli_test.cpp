@@ -261,7 +261,24 @@ TEST_F(CommandLine, InfoTellsADiagram) {
         "kind: diagram\nrecords: 3\nvariables: 1\ndescription: three\nmeasure: Euclidean (3)\ndiagram type: "
         "dots\n"
         "limits: 1.000 1.000 10.000 10.000\ncells in class 5: 3\ncells in class 4: 0\ncells in class 3: 4\n"
-        "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\n");
+        "cells in class 2: 0\ncells in class 1: 2\npath length: 10.000\n"
+        "F: 0.21414\nUM coefficient: 0.21414\nanti-Robinson events: 0\n");
+}
+
+TEST_F(CommandLine, InfoTellsAMatrix) {
+    ASSERT_EQ(runCli({"matrix", sheet, out("m.mtx")}).status, 0);
+    EXPECT_EQ(runCli({"info", out("m.mtx")}).out,
+              "kind: matrix\nrecords: 3\ndescription: three\npath length: 19.000\n"
+              "F: 0.48687\nUM coefficient: 0.48687\nanti-Robinson events: 2\n");
+}
+
+TEST_F(CommandLine, InfoTellsWhyThereIsNoScore) {
+    writeFile(out("m.mtx"), "Dorvan MATRIX 3.3\r\n\r\n[HEADER]\r\nDescription=two\r\nRecCount=2\r\n\r\n"
+                            "[RECORD_LABEL]\r\nA\r\nB\r\n\r\n[MATRIX]\r\n0.000;-1.000\r\n-1.000;0.000\r\n");
+    const Outcome outcome = runCli({"info", out("m.mtx")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, "kind: matrix\nrecords: 2\ndescription: two\npath length: -1.000\n"
+                           "F: division by zero\nUM coefficient: overflow\nanti-Robinson events: 0\n");
 }
 
 TEST_F(CommandLine, ASeedFixesTheGeneticOrders) {
