@@ -34,6 +34,8 @@ GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
     grid_ = new GridWidget(grid, dispatch_, widget());
     bindings_->Plain(grid_, grid, accessibleName);
     bindings_->Also([shown = grid_] { shown->Mirror(); });
+    // A computation reads the sheet by way of its current cell; what the user looks at stays in view then.
+    grid_->follows = [this] { return session_.ActiveWindow == window_ && session_.DiagramBusy != 1; };
     return *grid_;
 }
 

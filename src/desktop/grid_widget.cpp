@@ -59,6 +59,31 @@ Qt::Alignment ToQt(Alignment alignment) {
     }
 }
 
+// The number of a column of tiles is one digit wider than the column in some fonts: it is drawn narrower
+// then, and does not touch its neighbours.
+class NarrowedFont {
+public:
+    NarrowedFont(QPainter& painter, const QString& text, int room)
+        : painter_(painter), font_(painter.font()) {
+        const int width = painter.fontMetrics().horizontalAdvance(text);
+        if (room >= NarrowestElidedCell || width < room - 1) return;
+        QFont narrow = font_;
+        narrow.setStretch(std::max(50, 100 * (room - 2) / std::max(1, width)));
+        painter_.setFont(narrow);
+        changed_ = true;
+    }
+    ~NarrowedFont() {
+        if (changed_) painter_.setFont(font_);
+    }
+    NarrowedFont(const NarrowedFont&) = delete;
+    NarrowedFont& operator=(const NarrowedFont&) = delete;
+
+private:
+    QPainter& painter_;
+    QFont font_;
+    bool changed_ = false;
+};
+
 } // namespace
 
 int GridWidget::Axis::Start(int cell) const {
@@ -167,7 +192,7 @@ void GridWidget::Mirror() {
         // A document opens at its upper left corner, wherever its filling left the current cell.
         const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        if (!opening) ShowCurrent();
+        if (!opening && (!follows || follows())) ShowCurrent();
         TellCurrent();
     }
     viewport()->update();
@@ -238,6 +263,7 @@ void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
         const Alignment alignment =
             row < grid_->FixedRows ? grid_->HeaderAlignment(column) : grid_->ColumnAlignment(column);
         painter.setPen(palette().color(fixed ? QPalette::ButtonText : QPalette::Text));
+        const NarrowedFont narrowed(painter, shown, rect.width());
         painter.drawText(inner, int(ToQt(alignment)) | Qt::TextSingleLine | Qt::TextDontClip, shown);
     }
     if (grid_->GridLines) {

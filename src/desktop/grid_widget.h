@@ -37,6 +37,9 @@ public:
 
     GridEvents events;
 
+    // Whether a new current cell is scrolled into view. Always, if not set.
+    std::function<bool()> follows;
+
     void SetPictures(GridPictures pictures);
 
     // The grid's owner is about to go.

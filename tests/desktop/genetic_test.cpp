@@ -98,6 +98,8 @@ TEST_F(GeneticTest, DuringTheRavelinSearchTheMainWindowRespondsAndRefuses) {
             Item("mnuAbout").trigger();
             EXPECT_EQ(desktop.session.Children.size(), 1u);
             EXPECT_EQ(desktop.session.DiagramBusy, 1);
+            // The sheet was read cell by cell, and is still where its user left it.
+            EXPECT_FALSE(ActiveGrid().CellRect(1, 1).isEmpty());
             cancelled = true;
             ClickCancel(window);
             return true;

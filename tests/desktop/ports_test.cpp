@@ -13,12 +13,12 @@ using PortsTest = DesktopTest;
 TEST_F(PortsTest, SettingsAreKeptPerUserAndListedByKey) {
     auto& settings = desktop.ports.settings;
     EXPECT_EQ(settings.read("Recent Files", "RecentFile1", "none"), "none");
-    settings.write("Recent Files", "RecentFile2", "/tmp/b ą.mtx");
-    settings.write("Recent Files", "RecentFile1", "/tmp/a.mdt");
-    const std::vector<std::pair<std::string, std::string>> expected = {{"RecentFile1", "/tmp/a.mdt"},
-                                                                       {"RecentFile2", "/tmp/b ą.mtx"}};
+    settings.write("Recent Files", "RecentFile2", "/home/ann/b ą.mtx");
+    settings.write("Recent Files", "RecentFile1", "/home/ann/a.mdt");
+    const std::vector<std::pair<std::string, std::string>> expected = {{"RecentFile1", "/home/ann/a.mdt"},
+                                                                       {"RecentFile2", "/home/ann/b ą.mtx"}};
     EXPECT_EQ(settings.readSection("Recent Files"), expected);
-    EXPECT_EQ(QtSettings().read("Recent Files", "RecentFile1", ""), "/tmp/a.mdt");
+    EXPECT_EQ(QtSettings().read("Recent Files", "RecentFile1", ""), "/home/ann/a.mdt");
 }
 
 TEST_F(PortsTest, TheScreenIsMeasuredInTwips) {
