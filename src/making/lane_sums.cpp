@@ -53,28 +53,32 @@ DORVAN_INLINE void Pick(Pair& picked, const Rows<Number>& rows, const std::int32
 
 // Takes the units of the binades in which the sums stand: of the same or neighbouring ones; no zeros, no
 // numbers below the normal ones, no infinities.
-void TakeUnits(Sums& state, bool positive) {
+DORVAN_INLINE void TakeUnits(Sums& state, bool positive) {
+    constexpr std::int64_t Exponent = 0x7FF0000000000000;
     double smallest = HUGE_VAL;
     double largest = 0;
-    for (int lane = 0; lane < Lanes; ++lane) {
-        const double sum = state.sums[lane];
-        const double binade = std::bit_cast<double>(std::bit_cast<std::uint64_t>(sum) & 0x7FF0000000000000u);
-        const double unit = binade * UnitOfBinade;
-        state.shifts[lane / 2][lane % 2] = ShiftOfUnit * unit;
-        state.shifted[lane / 2][lane % 2] = ShiftOfUnit * unit + sum;
-        state.ends[lane / 2][lane % 2] = ShiftOfUnit * unit + 2 * binade;
-        state.margins[lane / 2][lane % 2] = Margin * unit;
-        smallest = std::min(smallest, binade);
-        largest = std::max(largest, binade);
+    for (int pair = 0; pair < Pairs; ++pair) {
+        const Pair sum = {state.sums[2 * pair], state.sums[2 * pair + 1]};
+        const Pair binade = std::bit_cast<Pair>(std::bit_cast<Bits>(sum) & Exponent);
+        const Pair unit = binade * UnitOfBinade;
+        state.shifts[pair] = ShiftOfUnit * unit;
+        state.shifted[pair] = state.shifts[pair] + sum;
+        state.ends[pair] = state.shifts[pair] + 2 * binade;
+        state.margins[pair] = Margin * unit;
+        smallest = std::min({smallest, binade[0], binade[1]});
+        largest = std::max({largest, binade[0], binade[1]});
     }
     state.grid = ShiftOfUnit * (Grid * UnitOfBinade * smallest);
     state.halves = ShiftOfUnit * (0.5 * UnitOfBinade * smallest);
     state.inUnits = positive && smallest >= 0x1p-126 && largest <= 4 * smallest && largest < HUGE_VAL;
 }
 
-void LeaveUnits(Sums& state) {
-    for (int lane = 0; lane < Lanes; ++lane)
-        state.sums[lane] = state.shifted[lane / 2][lane % 2] - state.shifts[lane / 2][lane % 2];
+DORVAN_INLINE void LeaveUnits(Sums& state) {
+    for (int pair = 0; pair < Pairs; ++pair) {
+        const Pair sum = state.shifted[pair] - state.shifts[pair];
+        state.sums[2 * pair] = sum[0];
+        state.sums[2 * pair + 1] = sum[1];
+    }
     state.inUnits = false;
 }
 
@@ -170,52 +174,71 @@ DORVAN_INLINE bool AddInUnits(Sums& state, const Terms& terms, bool whole) {
     return AddOnGrid<true>(state, terms) == Outcome::Added;
 }
 
-// As it is written down: a quotient, an addition, a rounding.
-void AddPlainly(Sums& state, const Terms& terms) {
+// As it is written down: a quotient, an addition, a rounding. A function of its own, without vectors: GCC 12
+// takes a vector of elements that were rounded to floats and back for the vector itself.
+[[gnu::noinline]] void AddPlainly(double (&sums)[Lanes], const Terms& terms) {
+    float rounded[Lanes];
+    for (std::size_t lane = 0; lane < Lanes; ++lane) rounded[lane] = static_cast<float>(sums[lane]);
     for (int column = 0; column < terms.columns; ++column)
-        for (int pair = 0; pair < Pairs; ++pair) {
-            Pair quotient;
-            Pick(quotient, terms.denominators, terms.records + column * Lanes, pair);
-            quotient = terms.squares[column] / quotient;
-            for (int lane = 0; lane < 2; ++lane) {
-                double& sum = state.sums[2 * pair + lane];
-                sum = double(static_cast<float>(sum + quotient[lane]));
-            }
+        for (std::size_t lane = 0; lane < Lanes; ++lane) {
+            const std::int32_t record = terms.records[std::size_t(column) * Lanes + lane];
+            const double quotient = terms.squares[column] / double(terms.denominators[lane][record]);
+            rounded[lane] = static_cast<float>(double(rounded[lane]) + quotient);
         }
+    for (std::size_t lane = 0; lane < Lanes; ++lane) sums[lane] = double(rounded[lane]);
 }
 
-// Where the whole row does not stay in units, most parts of it still do.
+DORVAN_INLINE Terms Part(const Terms& terms, int first, int columns) {
+    return {terms.reciprocals, terms.denominators, terms.records + first * Lanes, terms.squares + first,
+            std::min(columns, terms.columns - first)};
+}
+
+// A row in which a lane leaves its binade: most parts of it do not, and behind the one that does the rest.
 void AddInParts(Sums& state, const LaneOrders& orders, const Terms& terms) {
-    constexpr int Part = 8;
-    for (int first = 0; first < terms.columns; first += Part) {
-        const Terms part{terms.reciprocals, terms.denominators, terms.records + first * Lanes,
-                         terms.squares + first, std::min(Part, terms.columns - first)};
+    constexpr int Columns = 8;
+    for (int first = 0; first < terms.columns; first += Columns) {
+        const Terms part = Part(terms, first, Columns);
         if (state.inUnits && AddInUnits(state, part, orders.whole)) continue;
         if (state.inUnits) LeaveUnits(state);
-        AddPlainly(state, part);
+        AddPlainly(state.sums, part);
         TakeUnits(state, orders.positive);
+        const int next = first + Columns;
+        if (next >= terms.columns) return;
+        if (state.inUnits && AddInUnits(state, Part(terms, next, terms.columns), orders.whole)) return;
     }
+}
+
+// In the first row the sum starts from 0 and goes through many binades.
+void AddFirstRow(Sums& state, const LaneOrders& orders, const Terms& terms) {
+    constexpr int Columns = 48;
+    AddPlainly(state.sums, Part(terms, 0, Columns));
+    TakeUnits(state, orders.positive);
+    if (terms.columns > Columns) AddInParts(state, orders, Part(terms, Columns, terms.columns));
+}
+
+DORVAN_INLINE void AddRow(Sums& state, const LaneOrders& orders, int place) {
+    const std::int32_t* records = orders.records + place * Lanes;
+    Rows<double> reciprocals;
+    Rows<float> denominators;
+    for (std::size_t lane = 0; lane < Lanes; ++lane) {
+        reciprocals[lane] = orders.reciprocals + std::int64_t(records[lane]) * orders.n;
+        denominators[lane] = orders.denominators + std::int64_t(records[lane]) * orders.n;
+    }
+    const Terms terms{reciprocals, denominators, records + Lanes, orders.squares + 1, orders.n - 1 - place};
+    if (place == 0)
+        AddFirstRow(state, orders, terms);
+    else if (!state.inUnits || !AddInUnits(state, terms, orders.whole))
+        AddInParts(state, orders, terms);
 }
 
 } // namespace
 
 std::array<float, Lanes> SumLanes(const LaneOrders& orders) {
     Sums state;
-    for (int place = 0; place + 1 < orders.n; ++place) {
-        const std::int32_t* records = orders.records + place * Lanes;
-        Rows<double> reciprocals;
-        Rows<float> denominators;
-        for (std::size_t lane = 0; lane < Lanes; ++lane) {
-            reciprocals[lane] = orders.reciprocals + std::int64_t(records[lane]) * orders.n;
-            denominators[lane] = orders.denominators + std::int64_t(records[lane]) * orders.n;
-        }
-        const Terms terms{reciprocals, denominators, records + Lanes, orders.squares + 1,
-                          orders.n - 1 - place};
-        if (!state.inUnits || !AddInUnits(state, terms, orders.whole)) AddInParts(state, orders, terms);
-    }
+    for (int place = 0; place + 1 < orders.n; ++place) AddRow(state, orders, place);
     if (state.inUnits) LeaveUnits(state);
     std::array<float, Lanes> sums;
-    std::copy(std::begin(state.sums), std::end(state.sums), sums.begin());
+    for (std::size_t lane = 0; lane < Lanes; ++lane) sums[lane] = static_cast<float>(state.sums[lane]);
     return sums;
 }
 
