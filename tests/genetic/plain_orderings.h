@@ -68,12 +68,12 @@ struct SimpleGenetic {
     RandomSource& random;
     World& world;
 
-    WorkTexts window;
-    Order BestOrder;
+    WorkTexts window = {};
+    Order BestOrder = {};
     float BestFitness = 0;
     std::int32_t Generation = 0;
-    Array2<std::int16_t> Variants;
-    Array1<float> Fitness;
+    Array2<std::int16_t> Variants = {};
+    Array1<float> Fitness = {};
     std::int16_t ExchangesPerVariant = 0;
 
     std::int32_t n() const { return distances.Rows(); }
@@ -225,11 +225,11 @@ struct Ravelin {
     RandomSource& random;
     World& world;
 
-    WorkUmTexts window;
-    Bytes ByteMatrix;
-    Array2<std::int16_t> Pair;
-    Order CurrentOrder;
-    Order BestOrder;
+    WorkUmTexts window = {};
+    Bytes ByteMatrix = {};
+    Array2<std::int16_t> Pair = {};
+    Order CurrentOrder = {};
+    Order BestOrder = {};
     double Base = 0;
     float Trial = 0;
     float BestUm = 0;
