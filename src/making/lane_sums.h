@@ -3,8 +3,8 @@
 #include <array>
 #include <cstdint>
 
-// Scores of orders side by side, one order to a lane. Each lane's sum is a 32-bit float to which the terms are
-// added one by one, rounded to it after every addition, in the order of the places.
+// Scores of orders side by side, one order to a lane. Each lane's sum is a 32-bit float to which the terms
+// are added one by one, rounded to it after every addition, in the order of the places.
 namespace dorvan {
 
 inline constexpr int Lanes = 4;
@@ -13,7 +13,8 @@ inline constexpr int Lanes = 4;
 struct LaneOrders {
     int n;
     const std::int32_t* records; // (place, lane)
-    const double* reciprocals;   // of the denominators: (record, record)
+    const float* denominators;   // (record, record)
+    const double* reciprocals;   // of the denominators
     const double* squares;       // squares[k] = k * k, k < n
     bool positive;               // all denominators are above 0
     bool whole;                  // they are integers up to 256, and n is at most 512

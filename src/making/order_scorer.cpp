@@ -7,7 +7,8 @@
 
 namespace dorvan {
 
-OrderScorer::OrderScorer(const FloatTable& denominators) : n_(denominators.Rows()) {
+OrderScorer::OrderScorer(const FloatTable& denominators)
+    : n_(denominators.Rows()), denominators_(denominators) {
     const auto n = static_cast<std::size_t>(n_);
     squares_.resize(n);
     for (std::size_t k = 0; k < n; ++k) squares_[k] = double(k) * double(k);
@@ -30,15 +31,13 @@ void OrderScorer::Score(Orders orders, std::span<float> scores) {
         const std::size_t count = std::min(scores.size() - first, std::size_t(Lanes));
         for (std::size_t lane = 0; lane < Lanes; ++lane) {
             const Orders order = orders.subspan((first + std::min(lane, count - 1)) * n, n);
-            for (std::size_t place = 0; place < n; ++place)
-                records_[place * Lanes + lane] = order[place] - 1;
+            for (std::size_t place = 0; place < n; ++place) records_[place * Lanes + lane] = order[place] - 1;
         }
-        const auto sums = SumLanes(
-            {n_, records_.data(), reciprocals_.data(), squares_.data(), positive_, whole_});
+        const auto sums = SumLanes({n_, records_.data(), denominators_.Cells().data(), reciprocals_.data(),
+                                    squares_.data(), positive_, whole_});
         for (std::size_t lane = 0; lane < count; ++lane) {
             if (!std::isfinite(sums[lane])) throw RuntimeFailure(Failure::DivisionByZero);
-            scores[first + lane] =
-                static_cast<float>(double(sums[lane]) / (double(n_) * double(n_) / 2.0));
+            scores[first + lane] = static_cast<float>(double(sums[lane]) / (double(n_) * double(n_) / 2.0));
         }
     }
 }

@@ -126,8 +126,8 @@ private:
     void BeginGeneration() {
         progress_.Generation = generation_;
         progress_.Base.reset();
-        mutated_ = best_;
-        if (generation_ > 1) Shake(random_, mutated_);
+        shaken_ = best_;
+        if (generation_ > 1) Shake(random_, *shaken_);
         if (!baseOfBest_) baseOfBest_ = BaseOfGeneration(bytes_, OrderOf(best_));
         base_ = *baseOfBest_;
         progress_.Base = base_;
@@ -176,13 +176,13 @@ private:
         } else {
             ++mutationsLost_;
         }
-        mutated_ = current_;
     }
 
     // No more than can follow before the generation ends.
     void DrawAhead() {
         const int left = std::max(1, options_.CriticalMutationNumber - mutationsLost_);
-        ahead_.Draw(std::min(MostAhead, left), mutated_, current_, random_, options_);
+        ahead_.Draw(std::min(MostAhead, left), shaken_ ? *shaken_ : current_, current_, random_, options_);
+        shaken_.reset();
     }
 
     // The first generation sets the mark and does not write the best order.
@@ -211,8 +211,8 @@ private:
     OrderScorer scorer_;
     MutationsAhead ahead_;
 
-    Records current_; // last accepted, kept across generations
-    Records mutated_; // from which the next mutation starts
+    Records current_;               // last accepted, kept across generations
+    std::optional<Records> shaken_; // where the first mutation of a generation starts
     Records best_;
     std::optional<double> baseOfBest_;
     double base_ = 0; // what a mutation has to beat

@@ -1,7 +1,5 @@
 #include "numbers/random_source.h"
 
-#include <cmath>
-
 namespace dorvan {
 
 namespace {
@@ -41,7 +39,9 @@ void RandomSource::skip(std::uint64_t count) {
 
 std::int32_t RandomInRange(RandomSource& source, std::int32_t low, std::int32_t high) {
     const double span = double(high) - double(low) + 1.0;
-    return static_cast<std::int32_t>(std::floor(double(source.draw()) * span + double(low)));
+    const double value = double(source.draw()) * span + double(low);
+    const auto whole = static_cast<std::int32_t>(value); // towards 0
+    return whole > value ? whole - 1 : whole;
 }
 
 } // namespace dorvan

@@ -120,7 +120,7 @@ struct SimpleGenetic {
     void Show(float start) {
         if (!world.showTexts) return;
         const float percent =
-            static_cast<float>(double(Generation) / double(options.GeneticGenerations) * 100.0);
+            static_cast<float>(Quotient(double(Generation), double(options.GeneticGenerations)) * 100.0);
         window.InfoTime = ElapsedText(static_cast<float>(world.clock()) - start, world.decimalSeparator);
         window.InfoString = FormatPattern(double(percent), "#0.0", world.decimalSeparator) + " %";
         window.lblFunkcja = FormatPattern(double(BestFitness), "###0.000", world.decimalSeparator);
@@ -311,9 +311,9 @@ struct Ravelin {
 
     int ChooseOperator() {
         const std::int16_t r = NarrowToInt16(RandomInRange(random, 1, options.UmWeightTotal));
-        const std::int16_t weights[] = {options.SequenceChange,        options.FragmentTransfer,
-                                        options.SomeSingleTransfers,   options.SingleTransfer,
-                                        options.SomeRemoteConversions, options.RemoteConversion,
+        const std::int16_t weights[] = {options.SequenceChange,          options.FragmentTransfer,
+                                        options.SomeSingleTransfers,     options.SingleTransfer,
+                                        options.SomeRemoteConversions,   options.RemoteConversion,
                                         options.SomeNeighbourConversions};
         std::int32_t c = 0;
         for (int k = 1; k <= 7; ++k) {
@@ -352,8 +352,7 @@ struct Ravelin {
     void OneMutation() {
         if (world.showTexts) {
             window.Mutacje = std::to_string(Mutation);
-            window.InfoTime =
-                ElapsedText(static_cast<float>(world.clock()) - start, world.decimalSeparator);
+            window.InfoTime = ElapsedText(static_cast<float>(world.clock()) - start, world.decimalSeparator);
             CheckDescent();
             window.lblChangeM = std::to_string(MutationsLost);
             window.lblFunkcja = Figure(Base);
