@@ -127,7 +127,9 @@ void MainWindowFace::Mirror() {
         action->setVisible(shell_.MenuShown(name));
         const std::string caption = shell_.MenuCaption(name);
         action->setSeparator(caption == "-");
-        if (const QString text = ToQt(caption); action->text() != text) action->setText(text);
+        QString text = ToQt(caption);
+        if (name.starts_with("mnuRecentFile(")) text.replace("&", "&&"); // a path has no access key
+        if (action->text() != text) action->setText(text);
         if (action->isCheckable()) action->setChecked(session_.mainWindow.ToolbarChecked);
     }
     MirrorToolbars();

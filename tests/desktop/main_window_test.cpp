@@ -90,6 +90,15 @@ TEST_F(MainWindowTest, HiddenItemsAndEmptyRecentFilesAreNotSeen) {
     EXPECT_TRUE(Item("mnuSeparator").isSeparator());
 }
 
+TEST_F(MainWindowTest, ARecentFileShowsItsWholePathAlsoWithAnAmpersand) {
+    const std::string item = RecentFileItem(1);
+    desktop.session.mainWindow.SetMenuCaption(item, "/home/ann/bread&butter.mdt");
+    desktop.session.mainWindow.ShowMenu(item, true);
+    desktop.dispatch.Mirror();
+    EXPECT_TRUE(Item(ToQt(item)).isVisible());
+    EXPECT_EQ(Item(ToQt(item)).text(), "/home/ann/bread&&butter.mdt");
+}
+
 TEST_F(MainWindowTest, TheToolbarCommandTogglesTheMainToolbarAndItsCheckMark) {
     auto& bar = Find<QToolBar>(*desktop.mainWindow, "toolMain");
     EXPECT_TRUE(Item("mnuOToolbar").isChecked());
