@@ -83,10 +83,8 @@ void SimpleGenetic(benchmark::State& state) {
     plain::SimpleGenetic twin{distances, options, random, world};
     const double plain = Seconds([&] { twin.Run(); });
     WatchedSession watched;
-    watched.session.ordering = options;
-    const double withWindow = Seconds([&] {
-        benchmark::DoNotOptimize(watched.session.orderingMethods.at(3).run(watched.session, distances));
-    });
+    const double withWindow =
+        LeastSeconds([&] { benchmark::DoNotOptimize(watched.Run(3, options, distances)); });
     Report(state, n, std::int64_t(options.GeneticGenerations) * options.GeneticVariants, plain, fast,
            withWindow);
 }
@@ -119,10 +117,7 @@ void RavelinDefaults(benchmark::State& state) {
     const double plain = Seconds([&] { twin.Run(); });
     if (plainYields != yields) state.SkipWithError("the twins do not agree");
     WatchedSession watched;
-    watched.session.random = RandomSource(Seed);
-    const double withWindow = Seconds([&] {
-        benchmark::DoNotOptimize(watched.session.orderingMethods.at(4).run(watched.session, distances));
-    });
+    const double withWindow = LeastSeconds([&] { benchmark::DoNotOptimize(watched.Run(4, {}, distances)); });
     Report(state, n, yields - generations, plain, fast, withWindow);
     state.counters["mutations"] = double(yields - generations);
 }

@@ -5,6 +5,7 @@
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "making/genetic_ordering.h"
+#include "making/paint_pace.h"
 #include "making/ravelin_ordering.h"
 
 #include <utility>
@@ -12,8 +13,6 @@
 namespace dorvan {
 
 namespace {
-
-constexpr double SecondsBetweenPaintings = 1.0 / 60;
 
 template <class Dialog> void AskOptions(Session& session) {
     session.platform.forms.showModal(session.forms.Load<Dialog>(session));
@@ -23,7 +22,8 @@ template <class Dialog> void AskOptions(Session& session) {
 template <class Window> class Watch {
 public:
     explicit Watch(Session& session)
-        : session_(session), window_(session.forms.Load<Window>(session)), start_(Now()) {
+        : session_(session), window_(session.forms.Load<Window>(session)), start_(Now()),
+          pace_(session.platform.clock) {
         session_.platform.forms.show(window_);
     }
     ~Watch() {
@@ -37,9 +37,8 @@ public:
 
     // Lets events run, after the window was brought up to date where that is due.
     template <class Progress> int Yield(Progress& progress) {
-        const double now = session_.platform.clock.seconds();
-        if (progress.Generation != decltype(progress.Generation){} && IsDue(now)) {
-            window_.ShowProgress(progress, static_cast<float>(now) - start_);
+        if (progress.Generation != decltype(progress.Generation){} && pace_.Due()) {
+            window_.ShowProgress(progress, static_cast<float>(pace_.Now()) - start_);
             progress.TimeDue = false;
             Update();
         }
@@ -53,18 +52,10 @@ public:
 private:
     float Now() { return static_cast<float>(session_.platform.clock.seconds()); }
 
-    bool IsDue(double now) {
-        if (painted_ && now - paintedAt_ < SecondsBetweenPaintings) return false;
-        painted_ = true;
-        paintedAt_ = now;
-        return true;
-    }
-
     Session& session_;
     Window& window_;
     float start_; // of the clock, in seconds
-    bool painted_ = false;
-    double paintedAt_ = 0;
+    PaintPace pace_;
 };
 
 Order RunSimpleGenetic(Session& session, const FloatTable& distances) {
