@@ -7,6 +7,7 @@
 #include "making/genetic_ordering.h"
 #include "making/ravelin_ordering.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace dorvan {
@@ -14,6 +15,8 @@ namespace dorvan {
 namespace {
 
 constexpr double SecondsBetweenPaintings = 1.0 / 60;
+constexpr double ShortTime = 0.0005; // seconds from one look at the clock to the next
+constexpr int LongestStride = 16;
 
 template <class Dialog> void AskOptions(Session& session) {
     session.platform.forms.showModal(session.forms.Load<Dialog>(session));
@@ -37,9 +40,8 @@ public:
 
     // Lets events run, after the window was brought up to date where that is due.
     template <class Progress> int Yield(Progress& progress) {
-        const double now = session_.platform.clock.seconds();
-        if (progress.Generation != decltype(progress.Generation){} && IsDue(now)) {
-            window_.ShowProgress(progress, static_cast<float>(now) - start_);
+        if (progress.Generation != decltype(progress.Generation){} && IsDue()) {
+            window_.ShowProgress(progress, static_cast<float>(lookedAt_) - start_);
             progress.TimeDue = false;
             Update();
         }
@@ -53,7 +55,13 @@ public:
 private:
     float Now() { return static_cast<float>(session_.platform.clock.seconds()); }
 
-    bool IsDue(double now) {
+    // Where yields follow each other closely, the clock is looked at in some of them only.
+    bool IsDue() {
+        if (++passed_ < stride_) return false;
+        passed_ = 0;
+        const double now = session_.platform.clock.seconds();
+        stride_ = now - lookedAt_ < ShortTime ? std::min(2 * stride_, LongestStride) : 1;
+        lookedAt_ = now;
         if (painted_ && now - paintedAt_ < SecondsBetweenPaintings) return false;
         painted_ = true;
         paintedAt_ = now;
@@ -63,6 +71,9 @@ private:
     Session& session_;
     Window& window_;
     float start_; // of the clock, in seconds
+    double lookedAt_ = 0;
+    int passed_ = 0; // yields since the last look
+    int stride_ = 1; // yields from one look to the next
     bool painted_ = false;
     double paintedAt_ = 0;
 };
