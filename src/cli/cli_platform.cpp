@@ -13,6 +13,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <ctime>
 #include <unistd.h>
@@ -99,6 +100,18 @@ void WatchForInterrupt() {
     sigaction(SIGINT, &action, nullptr);
 }
 
+double SecondsOfDay() {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    tm local{};
+    localtime_r(&now.tv_sec, &local);
+    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+double SteadySeconds() {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
 } // namespace
 
 Answer CliPlatform::show(const Message& message) {
@@ -157,12 +170,10 @@ int CliPlatform::run() {
     return 1;
 }
 
+// The time of day is taken once; from then on a steady clock counts, past midnight too.
 double CliPlatform::seconds() {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    tm local{};
-    localtime_r(&now.tv_sec, &local);
-    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + static_cast<double>(now.tv_nsec) / 1e9;
+    static const double offset = SecondsOfDay() - SteadySeconds();
+    return offset + SteadySeconds();
 }
 
 } // namespace dorvan::cli

@@ -120,7 +120,9 @@ void AddDiagram(CLI::App& app, Arguments& arguments) {
     AddRavelin(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer(
-        "Ctrl+C once ends a search early: the best order so far is used and the file written.\n\n"
+        "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table "
+        "that\n"
+        "stands in its best order already, the Ravelin search may find no end by itself.\n\n"
         "Examples:\n"
         "  dorvan-cli diagram USArrests.mdt USArrests.dgr --order simple\n"
         "  dorvan-cli diagram Munsingen.mdt graves.dgr --measure jaccard --order ravelin --seed 1 "
