@@ -98,6 +98,7 @@ void frmMacierz::FillGrid(const FloatTable& distances) {
             Siatka.SetText(row, column + 1,
                            FormatPattern(distances(row, column), "###0.000", session_.DecimalSeparator));
     }
+    if (document.Size >= 1) Siatka.SetCurrent(1, 1);
 }
 
 void frmMacierz::BottomText_Change() { session_.MatrixStates.at(std::size_t(Index)).Dirty = true; }

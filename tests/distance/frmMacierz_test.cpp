@@ -108,6 +108,12 @@ TEST_F(frmMacierzTest, HeadersAreCentredButForTheLastAndDistancesStandRight) {
         EXPECT_EQ(window.Siatka.ColumnAlignment(column), Alignment::Right) << column;
 }
 
+TEST_F(frmMacierzTest, OpensWithTheFirstNameAsItsCurrentCell) {
+    const auto& window = Open(2, "1.5");
+    EXPECT_EQ(window.Siatka.Row(), 1);
+    EXPECT_EQ(window.Siatka.Column(), 1);
+}
+
 TEST_F(frmMacierzTest, TheLengthOfTheHighestDistanceSetsTheWidthOfItsColumns) {
     EXPECT_EQ(ColumnWidthFor("0"), 1248); // 1.3 x 960
     EXPECT_EQ(ColumnWidthFor("12.5"), 1248);
