@@ -5,10 +5,8 @@
 #include "cli/picture.h"
 #include "distance/frmMacierz.h"
 #include "files/data_documents.h"
-#include "files/diagram_documents.h"
 #include "files/disk.h"
-#include "files/matrix_documents.h"
-#include "numbers/text.h"
+#include "program/open_document.h"
 #include "program/program.h"
 #include "session/frmMDI.h"
 #include "sheet/frmNotePad.h"
@@ -49,23 +47,12 @@ struct Run {
     }
 };
 
-std::string_view KindOf(const std::string& path) {
-    const std::string extension = LowerCase(RightCharacters(path, 4));
-    if (extension == ".mdt") return DocumentKind::Data;
-    if (extension == ".mtx") return DocumentKind::Matrix;
-    if (extension == ".dgr") return DocumentKind::Diagram;
-    return {};
-}
-
 // Opens a document by its name's ending; `wanted` says which kinds will do.
 void Open(Run& run, const std::string& path, std::initializer_list<std::string_view> wanted) {
-    const std::string_view kind = KindOf(path);
-    if (kind.empty()) throw Refusal("Error! This file is not acceptable for Dorvan.");
-    if (std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
+    const std::string_view kind = KindOfFile(path);
+    if (!kind.empty() && std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
         throw Refusal(fmt::format("a file of the kind {} is of no use here", kind));
-    if (kind == DocumentKind::Data) ReadDataFile(run.session, path);
-    if (kind == DocumentKind::Matrix) ReadMatrixFile(run.session, path);
-    if (kind == DocumentKind::Diagram) ReadDiagramFile(run.session, path);
+    OpenDocument(run.session, path);
     if (run.kind() != kind) throw run.refusal("the file could not be read");
 }
 
@@ -129,7 +116,7 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
 }
 
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings) {
-    if (KindOf(in) != KindOf(out)) {
+    if (KindOfFile(in) != KindOfFile(out)) {
         fmt::print(stderr, "dorvan-cli: {} and {} are not of the same kind\n", in, out);
         return 2;
     }

@@ -24,30 +24,23 @@ QPlainTextEdit* MakeDescription(QWidget* parent) {
     return field;
 }
 
-} // namespace
-
-void LayOutNotePad(ChildFace& face, const ChildContext& context) {
-    auto& window = dynamic_cast<frmNotePad&>(*face.Window());
-    auto& binder = face.Binder();
-    auto* column = new QVBoxLayout(face.widget());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-
-    auto* topPanel = new QWidget(face.widget());
-    auto* top = new QHBoxLayout(topPanel);
-    top->setContentsMargins(Margin, Margin, Margin, Margin);
-    binder.Plain(topPanel, window.TopPanel);
-    auto* label = new QLabel(topPanel);
+void AddDescription(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLayout* row) {
+    auto* label = new QLabel(panel);
     binder.Text(label, window.Label1);
-    auto* description = MakeDescription(topPanel);
+    auto* description = MakeDescription(panel);
     label->setBuddy(description);
     binder.Field(description, window.OpisText, "Description",
                  {.change = [&window] { window.OpisText_Change(); },
                   .keyPress = [&window](int& keyAscii) { window.OpisText_KeyPress(keyAscii); },
                   .keyDown = {},
                   .lostFocus = {}});
+    row->addWidget(label, 0, Qt::AlignTop);
+    row->addWidget(description, 1);
+}
 
-    auto* editPanel = new QWidget(topPanel);
+// Keeps its room while it is hidden, so that the description does not jump.
+void AddEditPanel(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLayout* row) {
+    auto* editPanel = new QWidget(panel);
     auto* edit = new QHBoxLayout(editPanel);
     edit->setContentsMargins(0, 0, 0, 0);
     QSizePolicy keepsRoom = editPanel->sizePolicy();
@@ -62,10 +55,24 @@ void LayOutNotePad(ChildFace& face, const ChildContext& context) {
                   .keyPress = [&window](int& keyAscii) { window.EditCell_KeyPress(keyAscii); },
                   .keyDown = [&window](int& keyCode) { window.EditCell_KeyDown(keyCode); },
                   .lostFocus = [&window] { window.EditCell_LostFocus(); }});
+    row->addWidget(editPanel);
+}
 
-    top->addWidget(label, 0, Qt::AlignTop);
-    top->addWidget(description, 1);
-    top->addWidget(editPanel);
+} // namespace
+
+void LayOutNotePad(ChildFace& face, const ChildContext& context) {
+    auto& window = dynamic_cast<frmNotePad&>(*face.Window());
+    auto& binder = face.Binder();
+    auto* column = new QVBoxLayout(face.widget());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    auto* topPanel = new QWidget(face.widget());
+    auto* top = new QHBoxLayout(topPanel);
+    top->setContentsMargins(Margin, Margin, Margin, Margin);
+    binder.Plain(topPanel, window.TopPanel);
+    AddDescription(binder, window, topPanel, top);
+    AddEditPanel(binder, window, topPanel, top);
     column->addWidget(topPanel);
 
     auto& grid = face.ShowGrid(window.Grid1, "Data sheet");

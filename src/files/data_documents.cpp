@@ -31,13 +31,6 @@ void OpenDataWindow(Session& session, const std::string& path, const std::string
     ShowOpened(session, window);
 }
 
-// The file in the caption. The caption shows it in lower case, which is another file where case tells files
-// apart.
-std::string FileOf(const frmNotePad& window) {
-    const std::string path = CaptionPath(window.Caption);
-    return LowerCase(window.FilePath) == path ? window.FilePath : path;
-}
-
 } // namespace
 
 void OpenDataFile(Session& session) {
@@ -93,7 +86,7 @@ void SaveData(Session& session) {
     frmNotePad& window = ActiveDataWindow(session);
     const std::string path = IsUntitled(window.Caption)
                                  ? PickFileToSave(session, DataFileFilters(), " - Save mdt file", "mdt")
-                                 : FileOf(window);
+                                 : window.NamedFile();
     if (path.empty()) return;
     WriteDataFile(session, path);
     NameAfterFile(window, path);

@@ -35,7 +35,8 @@ public:
 
     Window& window() { return window_; }
 
-    // Lets events run, after the window was brought up to date where that is due.
+    // Lets events run, after the window was brought up to date where that is due; before the first generation
+    // there is nothing to show.
     template <class Progress> int Yield(Progress& progress) {
         if (progress.Generation != decltype(progress.Generation){} && pace_.Due()) {
             window_.ShowProgress(progress, static_cast<float>(pace_.Now()) - start_);

@@ -8,23 +8,25 @@
 
 namespace dorvan {
 
-void OpenDocument(Session& session, const std::string& path) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
+std::string_view KindOfFile(std::string_view path) {
     const std::string extension = LowerCase(RightCharacters(path, 4));
-    if (extension == ".mdt")
-        ReadDataFile(session, path);
-    else if (extension == ".mtx")
-        ReadMatrixFile(session, path);
-    else if (extension == ".dgr")
-        ReadDiagramFile(session, path);
-    else {
+    if (extension == ".mdt") return DocumentKind::Data;
+    if (extension == ".mtx") return DocumentKind::Matrix;
+    if (extension == ".dgr") return DocumentKind::Diagram;
+    return {};
+}
+
+void OpenDocument(Session& session, const std::string& path) {
+    if (RefusedWhileBusy(session)) return;
+    const std::string_view kind = KindOfFile(path);
+    if (kind.empty()) {
         session.platform.messages.show(
             {.Text = "Error! This file is not acceptable for Dorvan.", .Icon = MessageIcon::Critical});
         return;
     }
+    if (kind == DocumentKind::Data) ReadDataFile(session, path);
+    if (kind == DocumentKind::Matrix) ReadMatrixFile(session, path);
+    if (kind == DocumentKind::Diagram) ReadDiagramFile(session, path);
     UpdateRecentFiles(session, path);
 }
 

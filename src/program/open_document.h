@@ -3,8 +3,12 @@
 #include "session/session.h"
 
 #include <string>
+#include <string_view>
 
 namespace dorvan {
+
+// The DocumentKind that a path's extension stands for, in capitals or not; empty for any other.
+std::string_view KindOfFile(std::string_view path);
 
 // Opens a file that the program was started with, by its extension in capitals or not: a sheet, matrix or
 // diagram. Any other gets the message that a recent file of another kind gets. While a diagram is being made

@@ -34,10 +34,6 @@ struct Copied {
     std::string Bytes;
 };
 
-std::string OneLine(const std::string& text) {
-    return ReplaceAll(ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "), "\r", " ");
-}
-
 bool Reads(const std::string& cell, char decimalSeparator) {
     if (TrimSpaces(cell) == NaText) return true;
     try {
@@ -62,22 +58,21 @@ Grid ReadableSheet(const Grid& sheet, char decimalSeparator) {
 }
 
 Copied CopyOf(const Session& session, const frmNotePad& window) {
-    const std::string path = CaptionPath(window.Caption);
-    return {"mdt", LowerCase(window.FilePath) == path ? window.FilePath : path,
-            ComposeDataFile(ReadableSheet(window.Grid1, session.DecimalSeparator),
-                            OneLine(window.OpisText.Text), FileTextOf(session))};
+    return {"mdt", window.NamedFile(),
+            ComposeDataFile(ReadableSheet(window.Grid1, session.DecimalSeparator), window.OpisText.Text,
+                            FileTextOf(session))};
 }
 
 Copied CopyOf(const Session& session, const frmMacierz& window) {
     return {"mtx", CaptionPath(window.Caption),
-            ComposeMatrixFile(session.MatrixDocuments.at(std::size_t(window.Index)),
-                              OneLine(window.BottomText.Text), FileTextOf(session))};
+            ComposeMatrixFile(session.MatrixDocuments.at(std::size_t(window.Index)), window.BottomText.Text,
+                              FileTextOf(session))};
 }
 
 Copied CopyOf(const Session& session, const frmDiagram& window) {
     return {"dgr", CaptionPath(window.Caption),
-            ComposeDiagramFile(session.DiagramDocuments.at(std::size_t(window.Index)),
-                               ReplaceAll(OneLine(window.BottomText.Text), ",", ";"), FileTextOf(session))};
+            ComposeDiagramFile(session.DiagramDocuments.at(std::size_t(window.Index)), window.BottomText.Text,
+                               FileTextOf(session))};
 }
 
 Copied CopyOfDocument(const Session& session, const ChildWindow& window) {

@@ -54,6 +54,11 @@ frmNotePad::frmNotePad(Session& session) : ChildWindow("frmNotePad"), session_(s
     EditPanel.Visible = false;
 }
 
+std::string frmNotePad::NamedFile() const {
+    const std::string path = CaptionPath(Caption);
+    return LowerCase(FilePath) == path ? FilePath : path;
+}
+
 void frmNotePad::LayOut(int recordCount, int variableCount) {
     Grid1.SetSize(recordCount + 1, variableCount + 2);
     Grid1.Clear();

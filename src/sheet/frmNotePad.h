@@ -35,6 +35,9 @@ public:
     // goes to this one, which is the same file where case does not tell files apart.
     std::string FilePath;
 
+    // The file that the caption names.
+    std::string NamedFile() const;
+
     int RecordCount() const { return Grid1.Rows() - 1; }
     int VariableCount() const { return Grid1.Columns() - 2; }
 
