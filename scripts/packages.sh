@@ -3,8 +3,8 @@
 
 BUILD_PACKAGES="g++ cmake ninja-build ccache libfmt-dev libcli11-dev qt6-base-dev qt6-svg-dev libqt6svg6 libgl1-mesa-dev
     qt6-qpa-plugins fonts-liberation"
-TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev locales file xvfb xauth openbox xdotool dbus dbus-daemon
-    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick shared-mime-info desktop-file-utils"
+TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev locales xvfb xauth openbox xdotool dbus dbus-daemon
+    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick desktop-file-utils"
 
 say() { printf '== %s\n' "$*"; }
 
