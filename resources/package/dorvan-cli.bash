@@ -26,7 +26,7 @@ _dorvan_cli() {
     if [[ -n $choices ]]; then
         COMPREPLY=($(compgen -W "$choices" -- "$current"))
     else
-        compopt -o filenames 2>/dev/null
+        compopt -o filenames 2>/dev/null || true # fails outside of a completion
         COMPREPLY=($(compgen -f -- "$current"))
     fi
 }
