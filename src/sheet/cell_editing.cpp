@@ -80,14 +80,15 @@ void frmNotePad::TypeIntoEditCell(int key) {
 }
 
 void frmNotePad::Grid1_KeyDown(int& keyCode) {
-    if (Busy() || (keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited()) return;
+    if (Busy()) keyCode = key::None; // the arrows do nothing either
+    if ((keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited()) return;
     keyCode = key::None;
     TakeCurrentCell();
     StartCellEdit(key::None, 1);
 }
 
 void frmNotePad::Grid1_KeyPress(int& keyAscii) {
-    if (Busy()) return;
+    if (Busy()) keyAscii = key::None;
     const int typed = keyAscii;
     if (typed == key::Enter || typed == key::Escape || typed >= key::Space) keyAscii = key::None;
     if (typed <= key::Space || typed == Delete || !CurrentCellCanBeEdited()) return;
@@ -172,7 +173,15 @@ void frmNotePad::EditCell_LostFocus() {
     EditPanel.Visible = false;
 }
 
+void frmNotePad::LeaveField() {
+    if (!Editing) return;
+    SetFocus(Grid1);
+    EditCell_LostFocus();
+}
+
 void frmNotePad::CommitCell(int key) {
+    // While it lets events run, the window may close and another one may get its slot.
+    const auto keepAlive = session_.DataWindows.at(std::size_t(Index));
     if (session_.SuppressCommit) {
         session_.SuppressCommit = false;
         EditCell.Text.clear();

@@ -71,6 +71,7 @@ public:
     void EditCell_KeyDown(int& keyCode);
     void EditCell_KeyPress(int& keyAscii);
     void EditCell_LostFocus();
+    void LeaveField() override; // commits an open edit
 
     void OpisText_Change(); // after any change of the text by the user
     void OpisText_KeyPress(int& keyAscii);

@@ -86,7 +86,7 @@ void frmDiagram::PaintCell(int row, int record, bool selected) {
 }
 
 void frmDiagram::Siatka_DblClick() {
-    if (IsBusy()) return;
+    if (IsBusy() || Siatka.FixedRowPressed()) return;
     if (RowSelected == 0 && Siatka.Row() >= 1)
         SelectCurrentRow();
     else if (RowSelected == 1 && Siatka.Row() == SelectedRow)
