@@ -168,9 +168,15 @@ void frmNotePad::EndEdit() {
 }
 
 void frmNotePad::EditCell_LostFocus() {
+    const auto keepAlive = OwnReference();
     Editing = false;
     if (!EditCell.Text.empty()) CommitCell(key::None);
     EditPanel.Visible = false;
+}
+
+// A commit lets events run: the window may close then, and another one get its slot.
+std::shared_ptr<ChildWindow> frmNotePad::OwnReference() const {
+    return session_.DataWindows.at(std::size_t(Index));
 }
 
 void frmNotePad::LeaveField() {
@@ -180,8 +186,7 @@ void frmNotePad::LeaveField() {
 }
 
 void frmNotePad::CommitCell(int key) {
-    // While it lets events run, the window may close and another one may get its slot.
-    const auto keepAlive = session_.DataWindows.at(std::size_t(Index));
+    const auto keepAlive = OwnReference();
     if (session_.SuppressCommit) {
         session_.SuppressCommit = false;
         EditCell.Text.clear();

@@ -5,6 +5,7 @@
 #include "session/session.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -87,6 +88,7 @@ private:
     bool AtEditedCell() const { return Grid1.Row() == EditRow && Grid1.Column() == EditCol; }
     bool CurrentCellCanBeEdited() const;
     void TakeCurrentCell();
+    std::shared_ptr<ChildWindow> OwnReference() const;
     void TypeIntoEditCell(int key);
     int FilterOfValueCell(int keyAscii) const;
     void RestoreOldText();
