@@ -12,14 +12,14 @@
 // left corner down and to the right; they need not be whole.
 namespace dorvan {
 
-inline constexpr double TwipsPerPoint = 20; // of a font's size
-
 using Colour = std::uint32_t; // 0xRRGGBB
 inline constexpr Colour Black = 0x000000;
 inline constexpr Colour White = 0xFFFFFF;
 constexpr Colour GreyOf(int level) { return Colour(level) << 16 | Colour(level) << 8 | Colour(level); }
 
 namespace drawing {
+
+inline constexpr double TwipsPerPoint = 20; // of a font's size
 
 struct Point {
     double X = 0;
