@@ -4,7 +4,9 @@
 #include "session/children.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -12,6 +14,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QTime>
+#include <QUrl>
 
 #include <stdexcept>
 
@@ -167,11 +170,14 @@ void QtForms::close(Form& form) {
 void QtChildren::Attach(ChildContext context, QMdiArea& area) {
     context_ = std::make_unique<ChildContext>(std::move(context));
     area_ = &area;
-    QObject::connect(&area, &QMdiArea::subWindowActivated, &area, [this](QMdiSubWindow* subWindow) {
-        auto* face = dynamic_cast<ChildFace*>(subWindow);
-        if (!face || !face->Window()) return;
-        context_->dispatch.Run([&] { ActivateChild(context_->session, *face->Window()); });
-    });
+    QObject::connect(&area, &QMdiArea::subWindowActivated, &area,
+                     [this](QMdiSubWindow*) { context_->dispatch.Later(area_, [this] { FollowScreen(); }); });
+}
+
+// The window in front is the active one, whichever others were there on the way.
+void QtChildren::FollowScreen() {
+    auto* face = dynamic_cast<ChildFace*>(area_->currentSubWindow());
+    if (face && face->Window()) ActivateChild(context_->session, *face->Window());
 }
 
 ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
@@ -186,6 +192,7 @@ void QtChildren::show(ChildWindow& window) {
         faces_[&window] = face;
         area_->addSubWindow(face);
         face->Place();
+        face->Binder().PlaceFocus(); // or the first field in order would get it
         face->show();
     }
     face->Mirror();
@@ -241,6 +248,7 @@ void QtSignals::setCursor(Cursor cursor) {
 }
 
 int QtEvents::run() {
+    dispatch_.RunWaiting();
     if (!forms_.TakeNews() && sinceLast_.isValid() && sinceLast_.elapsed() < MillisecondsBetweenRuns)
         return windows_;
     dispatch_.Mirror();
@@ -338,7 +346,11 @@ std::vector<std::pair<std::string, std::string>> QtSettings::readSection(const s
 }
 
 void QtHelp::show(const std::string& file, int) {
-    throw std::runtime_error("The help file " + file + " cannot be shown on this system.");
+    const QFileInfo own(ToQt(file));
+    const QString shown = own.exists() ? own.absoluteFilePath() : guide;
+    if (shown.isEmpty()) throw std::runtime_error("There is no help file " + file + ".");
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
+        throw std::runtime_error("No program here shows pages like " + FromQt(shown) + ".");
 }
 
 } // namespace dorvan
