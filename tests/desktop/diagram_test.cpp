@@ -3,6 +3,7 @@
 #include "desktop/qt_text.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QRadioButton>
 #include <QToolBar>
@@ -73,6 +74,32 @@ TEST_F(DiagramTest, ADoubleClickSelectsARowAndTheButtonsMoveIt) {
     DoubleClickCell(ActiveGrid(), 5, 1);
     EXPECT_EQ(Diagram().RowSelected, 0);
     EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+}
+
+TEST_F(DiagramTest, TheGridFillsWhatTheDescriptionLeavesAtEverySize) {
+    const auto expectLayout = [this] {
+        const QWidget& inner = *Face().widget();
+        const auto& panel = Find<QWidget>(Face(), "BottomPanel");
+        const auto& field = Find<QLineEdit>(Face(), "BottomText");
+        EXPECT_EQ(panel.geometry().topLeft(), QPoint(0, 0));
+        EXPECT_EQ(panel.height(), std::max(390 / 15, field.sizeHint().height() + 2));
+        EXPECT_EQ(panel.width(), inner.width());
+        EXPECT_EQ(ActiveGrid().geometry(),
+                  QRect(0, panel.height(), inner.width(), inner.height() - panel.height()));
+        EXPECT_EQ(field.width(), inner.width() - field.mapTo(&inner, QPoint()).x() - 7); // 100 twips
+    };
+    expectLayout();
+    Face().resize(700, 350);
+    QCoreApplication::processEvents();
+    expectLayout();
+    Face().showMaximized();
+    QCoreApplication::processEvents();
+    expectLayout();
+    desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    QCoreApplication::processEvents();
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command2").click(); });
+    Click("mnuAnalysisMatrix");
+    expectLayout();
 }
 
 TEST_F(DiagramTest, ADoubleClickOnTheFixedRowLeavesTheSelectionAsItIs) {
