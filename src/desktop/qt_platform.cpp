@@ -193,7 +193,6 @@ void QtChildren::show(ChildWindow& window) {
         faces_[&window] = face;
         area_->addSubWindow(face);
         face->Place();
-        face->Binder().PlaceFocus(); // or the first field in order would get it
         face->show();
     }
     face->Mirror();
