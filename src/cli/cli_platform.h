@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/drawn_text.h"
 #include "cli/requests.h"
 #include "platform/platform.h"
 
@@ -31,6 +32,7 @@ class CliPlatform : public MessageBoxes,
 public:
     Choices choices;
     std::vector<std::string> messages; // in one line each
+    DrawnText text;
 
     Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
 
