@@ -336,11 +336,12 @@ TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
                   "Parametr error!", out("d.dgr"));
 }
 
-// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout` signals
-// its child once; otherwise the group as well, and the second signal ends the process.
+// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout`
+// signals its child once; otherwise the group as well, and the second signal ends the process.
 TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     const std::string command =
-        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
+        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " +
+        out("d.dgr") +
         " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
         "2>" +
         out("err");
@@ -355,7 +356,8 @@ std::pair<int, int> sizeOfPng(const std::string& bytes) {
     if (bytes.size() < 24 || bytes.substr(1, 3) != "PNG") return {};
     const auto number = [&](std::size_t place) {
         int value = 0;
-        for (std::size_t k = 0; k < 4; ++k) value = value * 256 + static_cast<unsigned char>(bytes[place + k]);
+        for (std::size_t k = 0; k < 4; ++k)
+            value = value * 256 + static_cast<unsigned char>(bytes[place + k]);
         return value;
     };
     return {number(16), number(20)};
