@@ -48,6 +48,8 @@ public:
     void Form_Resize() override;
 
 private:
+    void WriteImage(const std::string& target);
+
     Session& session_;
     std::string chosenPath_; // as the dialog gave it; the caption shows it in lower case
 };

@@ -22,10 +22,17 @@ public:
     OptionButton Option2{"Option2", "Cumulative"};
     Picture Picture1{"Picture1"}; // the chart
     Frame Frame3{"Frame3", "Set section limits:"};
+    Label Label1{"Label1", "0"};
+    Label Label2{"Label2", "I"};
     TextBox Text1{"Text1"};
+    Label Label3{"Label3", "II"};
     TextBox Text2{"Text2"};
+    Label Label4{"Label4", "III"};
     TextBox Text3{"Text3"};
+    Label Label5{"Label5", "IV"};
     TextBox Text4{"Text4"};
+    Label Label6{"Label6", "V"};
+    Label Label7{"Label7", "more..."};
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
     CommandButton Command3{"Command3", "&Check"};
