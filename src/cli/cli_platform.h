@@ -32,7 +32,17 @@ public:
     Choices choices;
     std::vector<std::string> messages; // in one line each
 
-    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+    Platform platform{.messages = *this,
+                      .files = *this,
+                      .forms = *this,
+                      .children = *this,
+                      .signals = *this,
+                      .events = *this,
+                      .keyboard = *this,
+                      .screen = *this,
+                      .clock = *this,
+                      .settings = *this,
+                      .help = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return {}; }

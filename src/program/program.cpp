@@ -7,20 +7,12 @@
 #include "files/matrix_documents.h"
 #include "making/making_diagram.h"
 #include "making/ordering_runs.h"
-#include "sheet/frmNotePad.h"
 #include "sheet/new_data_sheet.h"
-#include "view/classes.h"
 #include "view/frmDiagram.h"
-
-#include <memory>
 
 namespace dorvan {
 
 namespace {
-
-template <class Window> void MakesWindows(Session& session, std::string_view kind) {
-    session.windowMakers[std::string(kind)] = [](Session& owner) { return std::make_shared<Window>(owner); };
-}
 
 // A command that is an operation of a module.
 void AddOperation(Session& session, const char* name, void (*operation)(Session&)) {
@@ -44,10 +36,7 @@ void AddSaving(Session& session, const char* name, Window& (*windowOf)(Session&,
     });
 }
 
-void AddSheets(Session& session) {
-    MakesWindows<frmNotePad>(session, DocumentKind::Data);
-    AddOperation(session, "NewDataSheet", NewDataSheet);
-}
+void AddSheets(Session& session) { AddOperation(session, "NewDataSheet", NewDataSheet); }
 
 void AddFiles(Session& session) {
     AddOperation(session, "OpenDataFile", OpenDataFile);
@@ -58,13 +47,11 @@ void AddFiles(Session& session) {
 }
 
 void AddMatrices(Session& session) {
-    MakesWindows<frmMacierz>(session, DocumentKind::Matrix);
     AddOperation(session, "MakeMatrix", MakeMatrix);
     AddSaving(session, "frmMacierz.SaveMatrix", MatrixWindow, &frmMacierz::SaveMatrix);
 }
 
 void AddDiagrams(Session& session) {
-    MakesWindows<frmDiagram>(session, DocumentKind::Diagram);
     AddOperation(session, "MakeDiagram", MakeDiagram);
     AddGeneticOrderings(session);
     AddMethod(session, "frmDiagram.SelectThisRow", DiagramWindow, &frmDiagram::SelectThisRow);
@@ -74,9 +61,6 @@ void AddDiagrams(Session& session) {
     AddMethod(session, "frmDiagram.EndRow", DiagramWindow, &frmDiagram::EndRow);
     AddMethod(session, "frmDiagram.Insert", DiagramWindow, &frmDiagram::Insert);
     AddSaving(session, "frmDiagram.SaveDiagram", DiagramWindow, &frmDiagram::SaveDiagram);
-    session.commands.Set("ClassifyDiagram", [&session](const CommandCall& call) {
-        ClassifyDiagram(session.DiagramDocuments.at(std::size_t(call.Index)));
-    });
 }
 
 } // namespace

@@ -93,9 +93,6 @@ struct Session {
     std::vector<std::shared_ptr<ChildWindow>> Children;
     ChildWindow* ActiveWindow = nullptr; // null: the main window alone
 
-    // Makes the window of a kind by the composition root's hand; it takes its slot from NewWindowIndex.
-    std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
-
     OrderingMethods orderingMethods;
     OrderingOptions ordering; // of the two genetic ones
 };
