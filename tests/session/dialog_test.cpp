@@ -42,7 +42,7 @@ TEST(Accepted, ShowsTheSameDialogEachTimeAndTellsItsOutcome) {
 
 TEST(AcceptedForOutput, LooksAtTheOutcomeOfOutputDialogs) {
     TestSession test;
-    for (const auto [outcome, accepted] : {std::pair{1, true}, {0, false}, {-99, false}}) {
+    for (const auto& [outcome, accepted] : {std::pair{1, true}, {0, false}, {-99, false}}) {
         test.forms.scripts.push_back([&test, code = outcome](Form& form) {
             test.session.OutputDialogOutcome = static_cast<std::int16_t>(code);
             form.Hide();
