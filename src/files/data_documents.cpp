@@ -2,6 +2,7 @@
 
 #include "files/data_file.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/reading.h"
 #include "numbers/text.h"
@@ -45,7 +46,7 @@ void ReadDataFile(Session& session, const std::string& path) {
     std::string description;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDataFile(bytes);
         if (!current) return;
         TablesOfSession transit(session);
@@ -61,7 +62,7 @@ void ReadOldDataFile(Session& session, const std::string& path) {
     if (RefusedWhileBusy(session)) return;
     std::string description;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         TablesOfSession transit(session);
         description = ParseOldDataFile(bytes, FileTextOf(session), transit.Tables);
     };

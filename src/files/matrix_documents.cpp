@@ -1,6 +1,7 @@
 #include "files/matrix_documents.h"
 
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/matrix_file.h"
 #include "files/reading.h"
@@ -43,7 +44,7 @@ void ReadMatrixFile(Session& session, const std::string& path) {
     std::string description;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentMatrixFile(bytes);
         if (!current) return;
         const FileText text = FileTextOf(session);
@@ -61,7 +62,7 @@ void ReadOldMatrixFile(Session& session, const std::string& path) {
     std::string description;
     DistanceMatrix document;
     const auto read = [&] {
-        description = ParseOldMatrixFile(LoadFile(path), FileTextOf(session), document);
+        description = ParseOldMatrixFile(LoadDocument(path, session.codePage), FileTextOf(session), document);
     };
     if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
     TakeSlot(session) = std::move(document);
