@@ -364,8 +364,7 @@ TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
 // An endless search; Ctrl+C ends it, and the best order so far is written.
 TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     const std::string command =
-        std::string("timeout -s INT 1 ") + DORVAN_CLI + " diagram " + sample("Townships.mdt") + " " +
-        out("d.dgr") +
+        "timeout -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
         " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
         "2>" +
         out("err");

@@ -31,6 +31,8 @@ Outcome runCli(const std::vector<std::string>& arguments, const std::vector<std:
             fileBytes(folder / "err")};
 }
 
-std::string sample(const std::string& name) { return DORVAN_SAMPLES_FOLDER "/" + name; }
+std::string programPath() { return DORVAN_CLI; }
+
+std::string sample(const std::string& name) { return sourcePath("samples/" + name); }
 
 } // namespace dorvan::test

@@ -1,6 +1,7 @@
 #include "desktop_test.h"
 
 #include "desktop/qt_text.h"
+#include "support/golden.h"
 
 #include <QAction>
 #include <QFile>
@@ -19,7 +20,7 @@ constexpr int LongestUnanswered = 300; // looks, until a dialog counts as unexpe
 
 std::string MakeSettingsFolder(const QTemporaryDir& folder) {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-    return DORVAN_SAMPLES_FOLDER;
+    return sourcePath("samples");
 }
 
 } // namespace
@@ -166,7 +167,7 @@ void DesktopTest::DoubleClickCell(GridWidget& grid, int row, int column) {
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
 }
 
-QString DesktopTest::Sample(const QString& name) const { return QString(DORVAN_SAMPLES_FOLDER) + "/" + name; }
+QString DesktopTest::Sample(const QString& name) const { return ToQt(sourcePath("samples/" + FromQt(name))); }
 
 std::string DesktopTest::BytesOf(const QString& path) const {
     QFile file(path);

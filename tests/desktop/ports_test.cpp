@@ -1,6 +1,7 @@
 #include "desktop_test.h"
 
 #include "desktop/qt_text.h"
+#include "support/golden.h"
 
 #include <QFileDialog>
 #include <QScreen>
@@ -50,7 +51,7 @@ TEST_F(PortsTest, AFileDialogShowsTitleFiltersAndTheSamples) {
         auto& files = dynamic_cast<QFileDialog&>(dialog);
         EXPECT_EQ(files.windowTitle(), "Dorvan - Select mdt file");
         EXPECT_EQ(files.nameFilters(), QStringList({"mdt file (*.mdt)", "all (*.*)"}));
-        EXPECT_EQ(files.directory().absolutePath(), QDir(DORVAN_SAMPLES_FOLDER).absolutePath());
+        EXPECT_EQ(files.directory().absolutePath(), QDir(ToQt(sourcePath("samples"))).absolutePath());
         files.reject();
     });
     Click("mnuFData");

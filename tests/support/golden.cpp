@@ -26,13 +26,15 @@ void writeFile(const std::string& path, std::string_view bytes) {
     if (!file) ADD_FAILURE() << "cannot write " << path;
 }
 
-std::string goldenBytes(const std::string& name) { return fileBytes(DORVAN_GOLDEN_FOLDER "/" + name); }
+std::string sourcePath(const std::string& path) { return DORVAN_SOURCE_FOLDER "/" + path; }
+
+std::string goldenBytes(const std::string& name) { return fileBytes(sourcePath("tests/" + name)); }
 
 ::testing::AssertionResult matchesGolden(std::string_view actual, const std::string& name) {
     const fs::path kept = fs::path(DORVAN_ACTUAL_FOLDER) / name;
     fs::create_directories(kept.parent_path());
     writeFile(kept.string(), actual);
-    if (!fs::exists(fs::path(DORVAN_GOLDEN_FOLDER) / name))
+    if (!fs::exists(sourcePath("tests/" + name)))
         return ::testing::AssertionFailure() << "no golden file " << name << "; the actual bytes are kept";
     const std::string golden = goldenBytes(name);
     if (golden == actual) return ::testing::AssertionSuccess();

@@ -13,6 +13,9 @@ namespace dorvan::test {
 
 std::string goldenBytes(const std::string& name);
 
+// A file or folder of this project, by its path from the top: sourcePath("samples/iris.mdt").
+std::string sourcePath(const std::string& path);
+
 // A whole file; a test failure (and an empty text) when it cannot be read.
 std::string fileBytes(const std::string& path);
 void writeFile(const std::string& path, std::string_view bytes);
