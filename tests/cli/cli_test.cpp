@@ -247,7 +247,7 @@ TEST_F(CommandLine, PolishCharactersSurviveInTheLocalesCodePage) {
 }
 
 TEST_F(CommandLine, TheRemarkOnAnOlderFileGoesToStandardError) {
-    const Outcome outcome = runCli({"info", DORVAN_GOLDEN_FOLDER "/files/older_sheet.mdt"});
+    const Outcome outcome = runCli({"info", sourcePath("tests/files/older_sheet.mdt")});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.err, "dorvan-cli: This file has been created in older Dorvan version. You can save it "
                            "only with new format.\n");
