@@ -31,6 +31,7 @@ struct Run {
 
     Run(const Choices& choices, const Surroundings& surroundings) {
         ports.choices = choices;
+        ports.answersYes = surroundings.yes;
         Compose(session);
         const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
         mainWindow.Form_Load(surroundings.seed.value_or(clock), ".");

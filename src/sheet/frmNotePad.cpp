@@ -48,6 +48,11 @@ void DisablePictureExports(MainWindow& mainWindow) {
     for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, false);
 }
 
+std::string CellText(float value, char decimalSeparator) {
+    if (IsEmptyValue(value)) return {};
+    return value == NaValue ? std::string(NaText) : FormatPattern(value, "###0.000", decimalSeparator);
+}
+
 } // namespace
 
 frmNotePad::frmNotePad(Session& session) : ChildWindow("frmNotePad"), session_(session) {
@@ -84,10 +89,7 @@ void frmNotePad::Present(const std::string& description) {
     for (int row = 1; row <= RecordCount(); ++row) {
         Grid1.SetText(row, 1, session_.RecordNames(row));
         for (int column = 1; column <= VariableCount(); ++column) {
-            const float value = values(row, column);
-            Grid1.SetText(row, column + 1,
-                          value == NaValue ? std::string(NaText)
-                                           : FormatPattern(value, "###0.000", session_.DecimalSeparator));
+            Grid1.SetText(row, column + 1, CellText(values(row, column), session_.DecimalSeparator));
         }
     }
     if (RecordCount() >= 1) Grid1.SetCurrent(1, 1);

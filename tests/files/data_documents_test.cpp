@@ -359,6 +359,43 @@ TEST_F(DataDocuments, WritingUsesTheSessionsSeparatorAndCodePage) {
     EXPECT_EQ(fileBytes(folder / "f.mdt"), golden("sheet_comma.mdt"));
 }
 
+TEST_F(DataDocuments, ASheetSavedWithEmptyCellsOpensWithThemOnAYes) {
+    frmNotePad& sheet = newSheet();
+    sheet.Grid1.SetText(1, 2, "");
+    ASSERT_TRUE(WriteDataFile(session, folder / "f.mdt"));
+    const std::string saved = fileBytes(folder / "f.mdt");
+    messages.answers = {Answer::Yes};
+    ReadDataFile(session, folder / "f.mdt");
+    ASSERT_EQ(windows(), 2u);
+    EXPECT_EQ(ActiveDataWindow(session).Grid1.Text(1, 2), "");
+    ASSERT_EQ(messages.shown.size(), 1u);
+    const auto line = std::count(saved.begin(), saved.end(), '\n');
+    EXPECT_EQ(
+        messages.shown[0],
+        (Message{.Text = fmt::format("Line {}: \"\" is not a number. File: {}\r\nOpen the sheet with its "
+                                     "empty fields as empty cells?",
+                                     line, folder / "f.mdt"),
+                 .Icon = MessageIcon::Exclamation,
+                 .Buttons = MessageButtons::YesNo}));
+    ASSERT_TRUE(WriteDataFile(session, folder / "again.mdt"));
+    EXPECT_EQ(fileBytes(folder / "again.mdt"), saved);
+}
+
+TEST_F(DataDocuments, ASheetWithEmptyFieldsStaysClosedOnANo) {
+    newSheet().Grid1.SetText(1, 2, "");
+    ASSERT_TRUE(WriteDataFile(session, folder / "f.mdt"));
+    messages.answers = {Answer::No};
+    ReadDataFile(session, folder / "f.mdt");
+    EXPECT_EQ(windows(), 1u);
+    EXPECT_EQ(messages.shown.size(), 1u);
+}
+
+TEST_F(DataDocuments, AFaultBehindAnEmptyFieldIsNoQuestion) {
+    const std::string bytes = with(with(golden("sheet.mdt"), "N/A", ""), "1234.568", "x");
+    ReadDataFile(session, file("f.mdt", bytes));
+    expectFaultMessage("Line 19: \"\" is not a number. File: " + folder / "f.mdt");
+}
+
 TEST_F(DataDocuments, AFreeSlotIsUsedAgain) {
     const std::string path = goldenFile("sheet.mdt");
     ReadDataFile(session, path);
