@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/manual_page.h"
 #include "numbers/code_page.h"
 #include "session/session.h"
 
@@ -189,6 +190,14 @@ int main(int argc, char** argv) {
     AddPicture(app, arguments);
     app.footer("dorvan-cli SUBCOMMAND --help shows options and examples.\n"
                "Exit status: 0 done, 1 refused or failed, 2 wrong usage.");
+    app.add_flag_callback(
+           "--manual",
+           [&app] {
+               std::fputs(ManualPage(app, MainCaption(Version{}), DORVAN_RELEASE_DATE).c_str(), stdout);
+               throw CLI::Success();
+           },
+           "print the manual page, in roff")
+        ->group("");
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& done) {

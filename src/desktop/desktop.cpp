@@ -44,6 +44,17 @@ QString SamplesFolder(const QString& programPath) {
     return programPath;
 }
 
+void Desktop::OfferGuide(const QString& firstPage) {
+    ports.help.guide = firstPage;
+    session.HelpFile = FromQt(firstPage);
+}
+
+QString GuidePage(const QString& programPath) {
+    for (const auto* place : {"/../share/doc/dorvan/guide/guide.html", "/docs/guide/guide.html"})
+        if (const QFileInfo page(programPath + place); page.exists()) return page.canonicalFilePath();
+    return {};
+}
+
 void Desktop::Open(const std::string& path) {
     dispatch.Run([&] { OpenDocument(session, path); });
 }
@@ -60,6 +71,7 @@ int RunDesktop(int argumentCount, char** arguments) {
         files.push_back(FromQt(QFileInfo(argument).absoluteFilePath()));
 
     Desktop desktop(FromQt(SamplesFolder(QApplication::applicationDirPath())));
+    desktop.OfferGuide(GuidePage(QApplication::applicationDirPath()));
     EndOfRun endOfRun(desktop.session);
     desktop.dispatch.onEnd = [&endOfRun](const std::string& what) { endOfRun.OnFailure(what); };
     desktop.dispatch.afterEvent = [&desktop] {

@@ -21,6 +21,9 @@ public:
     // A file from the command line, by its extension, as a recent file opens.
     void Open(const std::string& path);
 
+    // Help shows these pages where no help file is there.
+    void OfferGuide(const QString& firstPage);
+
     EventDispatch dispatch;
     QtPlatform ports{dispatch};
     Session session{ports.platform};
@@ -31,6 +34,9 @@ public:
 // Where the samples are: the folder in which file dialogs start. Installed beside the program's prefix, or
 // the source's own; the folder of the program where there are none.
 QString SamplesFolder(const QString& programPath);
+
+// The first page of the guide, installed or built; empty where there is none.
+QString GuidePage(const QString& programPath);
 
 int RunDesktop(int argumentCount, char** arguments);
 

@@ -38,7 +38,7 @@ MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& d
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
-    for (const auto& item : MenuTree()) {
+    for (const auto& item : MenuTree(session_.commands.Rows())) {
         QMenu* menu = menuBar()->addMenu(ToQt(item.Caption));
         menu->setObjectName(ToQt(item.Name));
         menu->menuAction()->setObjectName(ToQt(item.Name));
@@ -78,7 +78,7 @@ QAction* MainWindowFace::BuildItem(QMenu& menu, const MenuItem& item) {
         return action;
     }
     if (!item.Shortcut.empty() && !item.Hidden) action->setShortcut(QKeySequence(ToQt(item.Shortcut)));
-    if (item.Name == "mnuOToolbar") action->setCheckable(true);
+    action->setCheckable(item.Checkable);
     // The mirroring after the click sets the check mark; Qt's own flip of it does not count.
     connect(action, &QAction::triggered, this,
             [this, name = item.Name] { dispatch_.Run([&] { shell_.MenuClick(name); }); });
@@ -86,7 +86,7 @@ QAction* MainWindowFace::BuildItem(QMenu& menu, const MenuItem& item) {
 }
 
 void MainWindowFace::BuildToolbars() {
-    for (const auto& toolbar : Toolbars()) {
+    for (const auto& toolbar : Toolbars(session_.commands.Rows())) {
         auto* bar = new QToolBar(this);
         bar->setObjectName(ToQt(toolbar.Name));
         bar->setAccessibleName(ToQt(toolbar.Name));
@@ -125,12 +125,12 @@ void MainWindowFace::Mirror() {
     for (const auto& [name, action] : items_) {
         action->setEnabled(shell_.MenuEnabled(name));
         action->setVisible(shell_.MenuShown(name));
-        const std::string caption = shell_.MenuCaption(name);
+        const std::string caption = session_.mainWindow.MenuCaption(name);
         action->setSeparator(caption == "-");
         QString text = ToQt(caption);
         if (name.starts_with("mnuRecentFile(")) text.replace("&", "&&"); // a path has no access key
         if (action->text() != text) action->setText(text);
-        if (action->isCheckable()) action->setChecked(session_.mainWindow.ToolbarChecked);
+        if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }
     MirrorToolbars();
 }

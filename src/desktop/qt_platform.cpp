@@ -4,7 +4,9 @@
 #include "session/children.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMdiArea>
@@ -12,6 +14,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QTime>
+#include <QUrl>
 
 #include <stdexcept>
 
@@ -338,7 +341,11 @@ std::vector<std::pair<std::string, std::string>> QtSettings::readSection(const s
 }
 
 void QtHelp::show(const std::string& file, int) {
-    throw std::runtime_error("The help file " + file + " cannot be shown on this system.");
+    const QFileInfo own(ToQt(file));
+    const QString shown = own.exists() ? own.absoluteFilePath() : guide;
+    if (shown.isEmpty()) throw std::runtime_error("There is no help file " + file + ".");
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
+        throw std::runtime_error("No program here shows pages like " + FromQt(shown) + ".");
 }
 
 } // namespace dorvan

@@ -131,9 +131,12 @@ public:
     std::vector<std::pair<std::string, std::string>> readSection(const std::string& section) override;
 };
 
+// The desktop's own viewer. Where the help file is not there, the guide is shown instead.
 class QtHelp : public HelpViewer {
 public:
     void show(const std::string& file, int command) override;
+
+    QString guide; // its first page; empty: there is none
 };
 
 // All of them, for one run.

@@ -6,6 +6,7 @@
 #include "numbers/text.h"
 #include "session/children.h"
 #include "session/registry.h"
+#include "session/window_switches.h"
 
 #include <fmt/format.h>
 
@@ -16,24 +17,6 @@ namespace dorvan {
 namespace {
 
 constexpr int NameWidthFactor = 3;
-
-constexpr const char* MatrixMenus[] = {"mnuExport", "mnuExportText", "mnuExportExcel", "mnuSave",
-                                       "mnuSaveAs", "mnuFilePrint",  "mnuFileClose"};
-constexpr const char* ForeignMenus[] = {"mnuExportBitmap", "mnuExportMeta"};
-
-void SwitchMenus(MainWindow& mainWindow, bool enabled) {
-    for (const auto* item : MatrixMenus) mainWindow.EnableMenu(item, enabled);
-    for (const auto* item : ForeignMenus) mainWindow.EnableMenu(item, false);
-}
-
-void SwitchDocumentButtons(MainWindow& mainWindow, bool enabled) {
-    for (const auto* key : {"Save", "SaveAs", "Print"}) mainWindow.EnableButton("toolMain", key, enabled);
-}
-
-void SwitchMakeButtons(MainWindow& mainWindow, bool makeMatrix, bool makeDiagram) {
-    mainWindow.EnableButton("toolMain", "MakeMatrix", makeMatrix);
-    mainWindow.EnableButton("toolMain", "MakeDiagram", makeDiagram);
-}
 
 // The scan starts from 0, so that a matrix of numbers below 0 gives 0.
 float HighestOf(const FloatTable& distances) {
@@ -110,17 +93,11 @@ void frmMacierz::BottomText_KeyPress(int&) {
 
 void frmMacierz::Form_Activate() {
     TypeOfForm = DocumentKind::Matrix;
-    SwitchMakeButtons(session_.mainWindow, false, true);
-    SwitchDocumentButtons(session_.mainWindow, true);
-    session_.mainWindow.ShowToolbar("toolMatrix", true);
-    SwitchMenus(session_.mainWindow, true);
+    SwitchCommands(session_.mainWindow, DocumentKind::Matrix, WindowEvent::Activated);
 }
 
 void frmMacierz::Form_Deactivate() {
-    SwitchMakeButtons(session_.mainWindow, true, true);
-    SwitchDocumentButtons(session_.mainWindow, false);
-    session_.mainWindow.ShowToolbar("toolMatrix", false);
-    SwitchMenus(session_.mainWindow, false);
+    SwitchCommands(session_.mainWindow, DocumentKind::Matrix, WindowEvent::Deactivated);
 }
 
 bool frmMacierz::Form_QueryUnload() {
@@ -132,10 +109,7 @@ bool frmMacierz::Form_QueryUnload() {
 }
 
 void frmMacierz::Form_Unload() {
-    SwitchMakeButtons(session_.mainWindow, false, false);
-    SwitchDocumentButtons(session_.mainWindow, false);
-    session_.mainWindow.ShowToolbar("toolMatrix", false);
-    SwitchMenus(session_.mainWindow, false);
+    SwitchCommands(session_.mainWindow, DocumentKind::Matrix, WindowEvent::Unloaded);
     session_.MatrixStates.at(std::size_t(Index)).Deleted = true;
 }
 

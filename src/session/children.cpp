@@ -1,5 +1,7 @@
 #include "session/children.h"
 
+#include "session/window_switches.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -60,7 +62,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     std::erase(session.Children, keepAlive);
     session.platform.children.close(window);
     if (session.Children.empty())
-        DisableDocumentCommands(session);
+        DisableDocumentCommands(session.mainWindow);
     else if (!session.ActiveWindow)
         SwitchActive(session, session.Children.back().get());
     return true;
@@ -70,23 +72,6 @@ bool CloseAllChildren(Session& session) {
     while (!session.Children.empty())
         if (!CloseChild(session, *session.Children.back())) return false;
     return true;
-}
-
-void DisableDocumentCommands(Session& session) {
-    static constexpr const char* items[] = {
-        "mnuExport",         "mnuExportText",     "mnuExportExcel",      "mnuExportBitmap",
-        "mnuExportMeta",     "mnuSave",           "mnuSaveAs",           "mnuFileClose",
-        "mnuFilePrint",      "mnuEditCell",       "mnuEditVarAdd",       "mnuEditVarEdit",
-        "mnuEditVarDelete",  "mnuEditRecAdd",     "mnuEditRecDelete",    "mnuEditStandarization",
-        "mnuEditSelect",     "mnuEditHome",       "mnuEditUp",           "mnuEditDown",
-        "mnuEditEnd",        "mnuEditInsert",     "mnuEditCreateMatrix", "mnuEditCreateDataset",
-        "mnuEditHistogram",  "mnuEditLinear",     "mnuEditDiagramType",  "mnuEditCopyClip",
-        "mnuAnalysisMatrix", "mnuAnalysisDiagram"};
-    for (const auto* item : items) session.mainWindow.EnableMenu(item, false);
-    for (const auto* key : {"MakeMatrix", "MakeDiagram", "Save", "SaveAs", "Print"})
-        session.mainWindow.EnableButton("toolMain", key, false);
-    for (const auto* toolbar : {"toolMatrix", "toolDiagram", "toolData", "toolBitmap"})
-        session.mainWindow.ShowToolbar(toolbar, false);
 }
 
 Answer AskToSave(Session& session, const std::string& what, const std::string& name, MessageIcon icon) {

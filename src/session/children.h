@@ -19,10 +19,6 @@ bool CloseChild(Session& session, ChildWindow& window);
 // Closes all, asking each; false at the first that stays open.
 bool CloseAllChildren(Session& session);
 
-// The start-up state of every command that needs a document: off; toolMatrix, toolDiagram, toolData and
-// toolBitmap hidden.
-void DisableDocumentCommands(Session& session);
-
 // The question asked before a changed window closes: title the main caption, buttons Yes, No and Cancel.
 Answer AskToSave(Session& session, const std::string& what, const std::string& name, MessageIcon icon);
 

@@ -4,13 +4,10 @@
 #include "session/children.h"
 #include "session/frmAbout.h"
 #include "session/registry.h"
-#include "session/routing.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -22,8 +19,6 @@ namespace {
 constexpr const char* HelpFileName = "Dorvan.hlp";
 constexpr int HelpIndexPage = 3;
 
-constexpr std::string_view MovingKeys[] = {"Home", "Up", "Down", "End", "Insert"};
-
 // The path that a save of the window goes to, empty for one that has no file.
 std::string SavePath(const ChildWindow& window) {
     if (IsUntitled(window.Caption)) return {};
@@ -32,18 +27,34 @@ std::string SavePath(const ChildWindow& window) {
     return window.TypeOfForm == DocumentKind::Bitmap ? path : std::string(TrimSpaces(path));
 }
 
-std::int16_t RecentFileIndex(const std::string& item) {
-    const std::size_t digits = item.find('(') + 1;
-    std::int16_t index = 0;
-    std::from_chars(item.data() + digits, item.data() + item.size(), index);
-    return index;
-}
+// A method of a window's class, such as "frmDiagram.Up", and not a module's operation.
+bool IsMethod(std::string_view operation) { return operation.find('.') != std::string_view::npos; }
 
 } // namespace
 
+frmMDI::frmMDI(Session& session) : session_(session) { RegisterOperations(); }
+
+void frmMDI::RegisterOperations() {
+    auto& commands = session_.commands;
+    const auto own = [&](std::string_view operation, void (frmMDI::*method)()) {
+        commands.Set(operation, [this, method](const CommandCall&) { (this->*method)(); });
+    };
+    own("Close", &frmMDI::Close);
+    own("Exit", &frmMDI::Exit);
+    own("EditCell", &frmMDI::EditCell);
+    own("ToggleToolbar", &frmMDI::ToggleToolbar);
+    own("Help", &frmMDI::Help);
+    own("HelpEnglish", &frmMDI::HelpEnglish);
+    own("HelpContact", &frmMDI::HelpContact);
+    own("About", &frmMDI::About);
+    commands.Set("Cascade", [this](const CommandCall&) { Arrange(0); });
+    commands.Set("Tile", [this](const CommandCall&) { Arrange(1); });
+    commands.Set("ArrangeIcons", [this](const CommandCall&) { Arrange(3); });
+    commands.Set("Save", [this](const CommandCall&) { Run(session_.commands.Item("mnuSave")); });
+    commands.Set("SaveAs", [this](const CommandCall&) { Run(session_.commands.Item("mnuSaveAs")); });
+}
+
 void frmMDI::Form_Load(std::uint64_t seed, const std::string& programFolder) {
-    for (const std::string command : {"Save", "SaveAs"})
-        session_.commands.Set(command, [this, command](const CommandCall&) { RunRouted(command); });
     std::error_code notEntered;
     std::filesystem::current_path(programFolder, notEntered);
     StartSession(session_, seed, programFolder);
@@ -53,107 +64,67 @@ std::string_view frmMDI::ActiveKind() const {
     return session_.ActiveWindow ? std::string_view(session_.ActiveWindow->TypeOfForm) : DocumentKind::Main;
 }
 
-bool frmMDI::Exists(std::string_view command) const {
-    if (command.empty() || IsOwnCommand(command)) return true;
-    if (!IsRoutedCommand(command)) return session_.commands.Has(command);
-    const auto operation = RoutedOperation(command, ActiveKind());
+// What has no operation for any kind of window does nothing, and stays on.
+bool frmMDI::Exists(const CommandRow& row) const {
+    if (row.Calls.None()) return true;
+    const auto operation = row.Calls.For(ActiveKind());
     return !operation.empty() && session_.commands.Has(operation);
 }
 
+bool frmMDI::HasItemOn(const CommandRow& menu) const {
+    const auto& rows = session_.commands.Rows();
+    return std::any_of(rows.begin(), rows.end(), [&](const CommandRow& row) {
+        return row.Menu == menu.Item && !row.Item.empty() && row.Caption != "-" && !row.Hidden &&
+               MenuEnabled(std::string(row.Item));
+    });
+}
+
 bool frmMDI::MenuEnabled(const std::string& item) const {
-    const auto* entry = FindMenuItem(item);
-    if (!entry || !session_.mainWindow.MenuEnabled(item)) return false;
-    if (entry->Items.empty()) return Exists(CommandOfMenuItem(item));
-    const auto& menus = MenuTree();
-    const bool topLevel = std::any_of(menus.begin(), menus.end(), [&](const auto& m) { return &m == entry; });
-    return topLevel || std::any_of(entry->Items.begin(), entry->Items.end(), [&](const auto& child) {
-               return !child.Hidden && !child.IsSeparator() && MenuEnabled(child.Name);
-           });
+    const auto& row = session_.commands.Item(item);
+    if (!session_.mainWindow.MenuEnabled(item)) return false;
+    if (row.Kind == RowKind::Menu) return row.Menu.empty() || HasItemOn(row);
+    return Exists(row);
 }
 
 bool frmMDI::ButtonEnabled(const std::string& toolbar, const std::string& key) const {
-    return session_.mainWindow.ButtonEnabled(toolbar, key) && Exists(CommandOfButton(toolbar, key));
+    return session_.mainWindow.ButtonEnabled(toolbar, key) && Exists(session_.commands.Button(toolbar, key));
 }
 
 bool frmMDI::MenuShown(const std::string& item) const {
-    const auto* entry = FindMenuItem(item);
-    return entry && !entry->Hidden && session_.mainWindow.MenuShown(item);
-}
-
-std::string frmMDI::MenuCaption(const std::string& item) const {
-    const auto* entry = FindMenuItem(item);
-    return session_.mainWindow.MenuCaption(item, entry ? entry->Caption : std::string());
+    return !session_.commands.Item(item).Hidden && session_.mainWindow.MenuShown(item);
 }
 
 void frmMDI::MenuClick(const std::string& item) {
-    if (!MenuEnabled(item)) return;
-    const auto command = CommandOfMenuItem(item);
-    if (command == "OpenRecentFile")
-        session_.commands.Call(command, {.Index = RecentFileIndex(item), .Path = {}});
-    else
-        Run(command);
+    if (MenuEnabled(item)) Run(session_.commands.Item(item));
 }
 
 void frmMDI::MenuOpens(const std::string& menu) {
     if (menu == "mnuOptions")
-        session_.mainWindow.ToolbarChecked = session_.mainWindow.ToolbarShown("toolMain");
+        session_.mainWindow.CheckMenu("mnuOToolbar", session_.mainWindow.ToolbarShown("toolMain"));
 }
 
 void frmMDI::ButtonClick(const std::string& toolbar, const std::string& key) {
     if (!ButtonEnabled(toolbar, key)) return;
     if (toolbar == "toolData" && BeepsWhileBusy()) return;
-    const auto* window = session_.ActiveWindow;
-    const bool moves = toolbar == "toolDiagram" && window && ActiveKind() == DocumentKind::Diagram &&
-                       std::find(std::begin(MovingKeys), std::end(MovingKeys), key) != std::end(MovingKeys);
-    const std::int16_t slot = window ? window->Index : std::int16_t(0);
-    Run(CommandOfButton(toolbar, key));
-    if (moves) session_.DiagramStates.at(std::size_t(slot)).Dirty = true;
+    const auto& row = session_.commands.Button(toolbar, key);
+    const std::int16_t slot = session_.ActiveWindow ? session_.ActiveWindow->Index : std::int16_t(0);
+    Run(row);
+    if (row.ButtonMarksChanged) session_.DiagramStates.at(std::size_t(slot)).Dirty = true;
 }
 
-void frmMDI::Run(std::string_view command) {
-    if (command.empty()) return;
-    if (IsOwnCommand(command))
-        RunOwn(command);
-    else if (IsRoutedCommand(command))
-        RunRouted(command);
-    else if (command == "MakeDiagram")
-        MakeDiagram();
-    else
-        CallOperation(command);
-}
-
-void frmMDI::RunOwn(std::string_view command) {
-    if (command == "Close") Close();
-    if (command == "Exit") Exit();
-    if (command == "Help") Help();
-    if (command == "HelpEnglish") HelpEnglish();
-    if (command == "HelpContact") HelpContact();
-    if (command == "About") About();
-    if (command == "EditCell") BeepsWhileBusy();
-    if (command == "ToggleToolbar") ToggleToolbar();
-    if (command == "Cascade") session_.platform.children.arrange(0);
-    if (command == "Tile") session_.platform.children.arrange(1);
-    if (command == "ArrangeIcons") session_.platform.children.arrange(3);
-}
-
-void frmMDI::RunRouted(std::string_view command) {
-    const auto operation = RoutedOperation(command, ActiveKind());
+void frmMDI::Run(const CommandRow& row) {
+    const auto operation = row.Calls.For(ActiveKind());
     if (operation.empty()) return;
-    CallOperation(operation, command == "Save" ? SavePath(*session_.ActiveWindow) : std::string());
+    if (operation == "MakeDiagram") TellSourceOfDiagram();
+    CommandCall call{.Index = row.Number, .Path = {}};
+    if (IsMethod(operation)) call.Index = session_.ActiveWindow->Index;
+    if (row.PassesPath) call.Path = SavePath(*session_.ActiveWindow);
+    session_.commands.Call(operation, call);
 }
 
-void frmMDI::CallOperation(std::string_view operation, const std::string& path) {
-    const auto kind = KindOfOperation(operation);
-    if (kind.empty())
-        session_.commands.Call(operation);
-    else if (kind == ActiveKind())
-        session_.commands.Call(operation, {.Index = session_.ActiveWindow->Index, .Path = path});
-}
-
-void frmMDI::MakeDiagram() {
+void frmMDI::TellSourceOfDiagram() {
     if (ActiveKind() == DocumentKind::Data) session_.DiagramFromMatrix = false;
     if (ActiveKind() == DocumentKind::Matrix) session_.DiagramFromMatrix = true;
-    session_.commands.Call("MakeDiagram");
 }
 
 bool frmMDI::BeepsWhileBusy() {
@@ -180,11 +151,16 @@ bool frmMDI::RequestClose() {
     return true;
 }
 
+void frmMDI::EditCell() { BeepsWhileBusy(); }
+
 void frmMDI::ToggleToolbar() {
     auto& mainWindow = session_.mainWindow;
-    mainWindow.ToolbarChecked = !mainWindow.ToolbarChecked;
-    mainWindow.ShowToolbar("toolMain", mainWindow.ToolbarChecked);
+    const bool shown = !mainWindow.MenuChecked("mnuOToolbar");
+    mainWindow.CheckMenu("mnuOToolbar", shown);
+    mainWindow.ShowToolbar("toolMain", shown);
 }
+
+void frmMDI::Arrange(int mode) { session_.platform.children.arrange(mode); }
 
 void frmMDI::Help() {
     if (BeepsWhileBusy()) return;

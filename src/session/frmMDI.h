@@ -1,6 +1,5 @@
 #pragma once
 
-#include "session/menus.h"
 #include "session/session.h"
 
 #include <cstdint>
@@ -10,14 +9,18 @@
 namespace dorvan {
 
 // The main window: passes each command on to the active child window or to the module that handles it,
-// through the command table. Its state (captions, enabled commands, toolbars) is `Session::mainWindow`.
+// as the rows of the command table say. Its state (captions, enabled commands, toolbars) is
+// `Session::mainWindow`. A name that stands in no row is an error in the code (std::logic_error).
 class frmMDI {
 public:
-    explicit frmMDI(Session& session) : session_(session) {}
+    // Registers the operations that are the main window's own, "Save" and "SaveAs" among them, so that a
+    // closing window can ask for them.
+    explicit frmMDI(Session& session);
+    frmMDI(const frmMDI&) = delete;
+    frmMDI& operator=(const frmMDI&) = delete;
 
     // The start-up of a run, in its order. The process's current directory becomes `programFolder` where that
-    // can be entered. Puts the main window's own "Save" and "SaveAs" into the command table, so that a
-    // closing window can ask for them.
+    // can be entered.
     void Form_Load(std::uint64_t seed, const std::string& programFolder);
 
     // A click on a menu item, by its name; on an item that is off nothing happens.
@@ -37,7 +40,6 @@ public:
 
     // What a face shows of a named item: not the hidden ones, and the recent files as far as they are filled.
     bool MenuShown(const std::string& item) const;
-    std::string MenuCaption(const std::string& item) const;
 
     // The main window's own close control. False keeps it open: a child window stayed open, or a data slot is
     // still in use.
@@ -48,15 +50,16 @@ public:
 
 private:
     std::string_view ActiveKind() const;
-    bool Exists(std::string_view command) const;
-    void Run(std::string_view command);
-    void RunOwn(std::string_view command);
-    void RunRouted(std::string_view command);
-    void CallOperation(std::string_view operation, const std::string& path = {});
-    void MakeDiagram();
+    bool Exists(const CommandRow& row) const;
+    bool HasItemOn(const CommandRow& menu) const;
+    void Run(const CommandRow& row);
+    void RegisterOperations();
+    void TellSourceOfDiagram();
     void Close();
     void Exit();
+    void EditCell();
     void ToggleToolbar();
+    void Arrange(int mode);
     void Help();
     void HelpEnglish();
     void HelpContact();

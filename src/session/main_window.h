@@ -1,61 +1,56 @@
 #pragma once
 
+#include "session/command_table.h"
+
+#include <functional>
 #include <map>
 #include <string>
-#include <utility>
+#include <string_view>
 
 namespace dorvan {
 
 // The state of the main window that a face mirrors: the enabled state of menu items and toolbar buttons,
-// which toolbars and buttons show, the check mark and the caption. Child windows switch the commands as they
-// activate, deactivate and unload; the last to act wins. A name that nobody switched is on, and shown.
+// which toolbars and buttons show, check marks and the caption. Child windows switch the commands as they
+// activate, deactivate and unload (see session/window_switches.h); the last to act wins. A name that nobody
+// switched is on, shown and not checked. One that stands in no row of the commands is an error in the code
+// and fails with std::logic_error.
 class MainWindow {
 public:
+    explicit MainWindow(const CommandTable& commands) : commands_(commands) {}
+
     std::string Caption;
     std::string TypeOfForm;
-    bool ToolbarChecked = false; // check mark of mnuOToolbar
 
-    void EnableMenu(const std::string& item, bool enabled) { menus_[item] = enabled; }
-    bool MenuEnabled(const std::string& item) const { return Look(menus_, item); }
+    void EnableMenu(std::string_view item, bool enabled);
+    bool MenuEnabled(std::string_view item) const;
+
+    void CheckMenu(std::string_view item, bool checked);
+    bool MenuChecked(std::string_view item) const;
 
     // Items that come and go, and captions that are set at run time: the recent files.
-    void ShowMenu(const std::string& item, bool shown) { shownMenus_[item] = shown; }
-    bool MenuShown(const std::string& item) const { return Look(shownMenus_, item); }
-    void SetMenuCaption(const std::string& item, std::string caption) {
-        captions_[item] = std::move(caption);
-    }
-    std::string MenuCaption(const std::string& item, const std::string& original) const {
-        const auto found = captions_.find(item);
-        return found == captions_.end() ? original : found->second;
-    }
+    void ShowMenu(std::string_view item, bool shown);
+    bool MenuShown(std::string_view item) const;
+    void SetMenuCaption(std::string_view item, std::string caption);
+    std::string MenuCaption(std::string_view item) const;
 
     // Buttons by toolbar and key, such as ("toolMain", "Save").
-    void EnableButton(const std::string& toolbar, const std::string& key, bool enabled) {
-        buttons_[toolbar + "." + key] = enabled;
-    }
-    bool ButtonEnabled(const std::string& toolbar, const std::string& key) const {
-        return Look(buttons_, toolbar + "." + key);
-    }
-    void ShowButton(const std::string& toolbar, const std::string& key, bool shown) {
-        shownButtons_[toolbar + "." + key] = shown;
-    }
-    bool ButtonShown(const std::string& toolbar, const std::string& key) const {
-        return Look(shownButtons_, toolbar + "." + key);
-    }
+    void EnableButton(std::string_view toolbar, std::string_view key, bool enabled);
+    bool ButtonEnabled(std::string_view toolbar, std::string_view key) const;
+    void ShowButton(std::string_view toolbar, std::string_view key, bool shown);
+    bool ButtonShown(std::string_view toolbar, std::string_view key) const;
 
-    void ShowToolbar(const std::string& toolbar, bool shown) { toolbars_[toolbar] = shown; }
-    bool ToolbarShown(const std::string& toolbar) const { return Look(toolbars_, toolbar); }
+    void ShowToolbar(std::string_view toolbar, bool shown);
+    bool ToolbarShown(std::string_view toolbar) const;
 
 private:
-    using Switches = std::map<std::string, bool>;
-    static bool Look(const Switches& switches, const std::string& name) {
-        const auto found = switches.find(name);
-        return found == switches.end() || found->second;
-    }
+    using Switches = std::map<std::string, bool, std::less<>>;
+    std::string Button(std::string_view toolbar, std::string_view key) const;
 
+    const CommandTable& commands_;
     Switches menus_;
+    Switches checkMarks_;
     Switches shownMenus_;
-    std::map<std::string, std::string> captions_;
+    std::map<std::string, std::string, std::less<>> captions_;
     Switches buttons_;
     Switches shownButtons_;
     Switches toolbars_;

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "session/command_rows.h"
+
 #include <string>
-#include <string_view>
 #include <vector>
 
-// The main window's menus and toolbars as data.
+// The main window's menus and toolbars as a face shows them, from the rows of the commands.
 namespace dorvan {
 
 struct MenuItem {
@@ -12,16 +13,14 @@ struct MenuItem {
     std::string Caption;  // "&" marks the access key; "-" is a separator line
     std::string Shortcut; // "Ctrl+N", or empty
     bool Hidden = false;  // in the tree, never shown; its shortcut is not bound
-    std::vector<MenuItem> Items;
+    bool Checkable = false;
+    std::vector<MenuItem> Items; // of a menu
 
     bool IsSeparator() const { return Caption == "-"; }
 };
 
-// The top-level menus, in order, with their items and separators.
-const std::vector<MenuItem>& MenuTree();
-
-// The item of that name, at any depth; null when there is none.
-const MenuItem* FindMenuItem(std::string_view name);
+// The top-level menus, in order, with their items and separators. A menu without items is left out.
+std::vector<MenuItem> MenuTree(const std::vector<CommandRow>& rows = CommandRows());
 
 // The recent files are the items "mnuRecentFile(0)" to "mnuRecentFile(4)". They are told apart by index, and
 // shown, hidden and captioned at run time (see MainWindow).
@@ -39,6 +38,6 @@ struct Toolbar {
 };
 
 // toolMain, toolData, toolMatrix, toolBitmap, toolDiagram.
-const std::vector<Toolbar>& Toolbars();
+std::vector<Toolbar> Toolbars(const std::vector<CommandRow>& rows = CommandRows());
 
 } // namespace dorvan

@@ -1,8 +1,8 @@
 #include "session/session.h"
 
 #include "numbers/number_text.h"
-#include "session/children.h"
 #include "session/menus.h"
+#include "session/window_switches.h"
 
 #include <fmt/format.h>
 
@@ -45,7 +45,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     session.random = RandomSource(seed);
     session.mainWindow.ShowToolbar("toolMatrix", false);
     session.mainWindow.ShowToolbar("toolDiagram", false);
-    session.mainWindow.ToolbarChecked = true;
+    session.mainWindow.CheckMenu("mnuOToolbar", true);
     session.mainWindow.Caption = MainCaption(session.version);
     session.AppPath = programFolder;
     session.MaxDiagramRecords = 250;
@@ -54,7 +54,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     BuildRegistry(session);
     SetDefaults(session);
     session.commands.Call("LoadRecentFiles");
-    DisableDocumentCommands(session);
+    DisableDocumentCommands(session.mainWindow);
     session.mainWindow.TypeOfForm = DocumentKind::Main;
 }
 

@@ -31,7 +31,7 @@ struct Session {
 
     Platform& platform;
     CommandTable commands;
-    MainWindow mainWindow;
+    MainWindow mainWindow{commands};
     Forms forms;
     RandomSource random;
     CodePage codePage; // of files

@@ -5,6 +5,7 @@
 #include "numbers/text.h"
 #include "session/children.h"
 #include "session/registry.h"
+#include "session/window_switches.h"
 
 #include <algorithm>
 
@@ -17,36 +18,6 @@ constexpr int NameColumnWidth = 1800;
 constexpr int ValueColumnWidth = 900;
 constexpr int MinimalHeight = 2500; // twips
 constexpr int MinimalWidth = 3000;
-
-// What an active data sheet turns on in the menus.
-constexpr const char* SheetMenus[] = {"mnuExport",
-                                      "mnuExportText",
-                                      "mnuExportExcel",
-                                      "mnuSave",
-                                      "mnuSaveAs",
-                                      "mnuFileClose",
-                                      "mnuEditCell",
-                                      "mnuEditVarAdd",
-                                      "mnuEditVarEdit",
-                                      "mnuEditVarDelete",
-                                      "mnuEditRecAdd",
-                                      "mnuEditRecDelete",
-                                      "mnuEditStandarization",
-                                      "mnuAnalysisDiagram",
-                                      "mnuAnalysisMatrix"};
-
-void SwitchSheetCommands(MainWindow& mainWindow, bool enabled, bool exportsToo) {
-    for (const std::string item : SheetMenus)
-        if (exportsToo || !item.starts_with("mnuExport")) mainWindow.EnableMenu(item, enabled);
-    for (const auto* key : {"MakeMatrix", "MakeDiagram", "Save", "SaveAs"})
-        mainWindow.EnableButton("toolMain", key, enabled);
-    mainWindow.EnableButton("toolMain", "Print", false);
-    mainWindow.ShowToolbar("toolData", enabled);
-}
-
-void DisablePictureExports(MainWindow& mainWindow) {
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, false);
-}
 
 std::string CellText(float value, char decimalSeparator) {
     if (IsEmptyValue(value)) return {};
@@ -97,13 +68,11 @@ void frmNotePad::Present(const std::string& description) {
 
 void frmNotePad::Form_Activate() {
     TypeOfForm = DocumentKind::Data;
-    SwitchSheetCommands(session_.mainWindow, true, true);
-    DisablePictureExports(session_.mainWindow);
+    SwitchCommands(session_.mainWindow, DocumentKind::Data, WindowEvent::Activated);
 }
 
 void frmNotePad::Form_Deactivate() {
-    SwitchSheetCommands(session_.mainWindow, false, true);
-    DisablePictureExports(session_.mainWindow);
+    SwitchCommands(session_.mainWindow, DocumentKind::Data, WindowEvent::Deactivated);
 }
 
 bool frmNotePad::Form_QueryUnload() {
@@ -116,7 +85,7 @@ bool frmNotePad::Form_QueryUnload() {
 }
 
 void frmNotePad::Form_Unload() {
-    SwitchSheetCommands(session_.mainWindow, false, false);
+    SwitchCommands(session_.mainWindow, DocumentKind::Data, WindowEvent::Unloaded);
     session_.DataStates.at(std::size_t(Index)).Deleted = true;
 }
 

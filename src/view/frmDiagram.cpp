@@ -4,6 +4,7 @@
 #include "numbers/text.h"
 #include "session/children.h"
 #include "session/registry.h"
+#include "session/window_switches.h"
 #include "view/tiles.h"
 
 #include <fmt/format.h>
@@ -18,26 +19,6 @@ constexpr int NumberColumnWidth = 382; // 1.5 boxes, the tie rounded to even
 constexpr int NameColumnWidth = 1800;
 constexpr int BoxSide = 255; // 16 pixels of a tile and a spare one
 constexpr int MostDescriptionCharacters = 150;
-
-// What an active diagram turns on, and what turns off with it.
-constexpr const char* ExportMenus[] = {"mnuExport", "mnuExportExcel", "mnuExportBitmap", "mnuExportMeta"};
-constexpr const char* DocumentMenus[] = {
-    "mnuSave",       "mnuSaveAs",  "mnuFileClose",     "mnuEditCreateMatrix", "mnuEditDiagramType",
-    "mnuEditDown",   "mnuEditEnd", "mnuEditHistogram", "mnuEditHome",         "mnuEditLinear",
-    "mnuEditSelect", "mnuEditUp",  "mnuEditInsert"};
-
-template <std::size_t Count>
-void SwitchMenus(MainWindow& mainWindow, const char* const (&items)[Count], bool enabled) {
-    for (const auto* item : items) mainWindow.EnableMenu(item, enabled);
-}
-
-void SwitchMakeButtons(MainWindow& mainWindow, bool enabled) {
-    for (const auto* key : {"MakeMatrix", "MakeDiagram"}) mainWindow.EnableButton("toolMain", key, enabled);
-}
-
-void SwitchSaveButtons(MainWindow& mainWindow, bool enabled) {
-    for (const auto* key : {"Save", "SaveAs", "Print"}) mainWindow.EnableButton("toolMain", key, enabled);
-}
 
 } // namespace
 
@@ -129,30 +110,15 @@ void frmDiagram::Form_Load() {
 void frmDiagram::Form_Activate() {
     auto& mainWindow = session_.mainWindow;
     const bool hasData = !Document().NoData;
-    SwitchMakeButtons(mainWindow, false);
-    SwitchSaveButtons(mainWindow, true);
-    SetIcons(RowSelected == 1); // another diagram may have left them as it needs them
-    mainWindow.ShowToolbar("toolDiagram", true);
-    mainWindow.ShowButton("toolDiagram", "DataOrder", hasData);
-    SwitchMenus(mainWindow, ExportMenus, true);
-    SwitchMenus(mainWindow, DocumentMenus, true);
-    mainWindow.EnableMenu("mnuFilePrint", true);
-    for (const auto* item : {"mnuExportText", "mnuEditCopyClip", "mnuAnalysisDiagram", "mnuAnalysisMatrix"})
-        mainWindow.EnableMenu(item, false);
+    SwitchCommands(mainWindow, DocumentKind::Diagram, WindowEvent::Activated);
     mainWindow.EnableMenu("mnuEditCreateDataset", hasData);
+    mainWindow.ShowButton("toolDiagram", "DataOrder", hasData);
+    SetIcons(RowSelected == 1); // another diagram may have left them as it needs them
     TypeOfForm = DocumentKind::Diagram;
 }
 
-// mnuFilePrint is left as it was.
 void frmDiagram::Form_Deactivate() {
-    auto& mainWindow = session_.mainWindow;
-    SwitchMakeButtons(mainWindow, true);
-    SwitchSaveButtons(mainWindow, false);
-    mainWindow.ShowToolbar("toolDiagram", false);
-    SwitchMenus(mainWindow, ExportMenus, false);
-    SwitchMenus(mainWindow, DocumentMenus, false);
-    for (const auto* item : {"mnuExportText", "mnuEditCopyClip", "mnuEditCreateDataset"})
-        mainWindow.EnableMenu(item, false);
+    SwitchCommands(session_.mainWindow, DocumentKind::Diagram, WindowEvent::Deactivated);
 }
 
 bool frmDiagram::Form_QueryUnload() {
@@ -165,13 +131,8 @@ bool frmDiagram::Form_QueryUnload() {
 }
 
 void frmDiagram::Form_Unload() {
-    auto& mainWindow = session_.mainWindow;
     session_.DiagramStates.at(std::size_t(Index)).Deleted = true;
-    mainWindow.ShowToolbar("toolDiagram", false);
-    SwitchMakeButtons(mainWindow, false);
-    SwitchSaveButtons(mainWindow, false);
-    SwitchMenus(mainWindow, DocumentMenus, false);
-    for (const auto* item : {"mnuEditCopyClip", "mnuEditCreateDataset"}) mainWindow.EnableMenu(item, false);
+    SwitchCommands(session_.mainWindow, DocumentKind::Diagram, WindowEvent::Unloaded);
 }
 
 void frmDiagram::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }

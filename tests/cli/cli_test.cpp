@@ -374,10 +374,11 @@ TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
                   "Parametr error!", out("d.dgr"));
 }
 
-// An endless search; Ctrl+C ends it, and the best order so far is written.
+// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout` signals
+// its child once; otherwise the group as well, and the second signal ends the process.
 TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     const std::string command =
-        "timeout -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
+        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
         " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
         "2>" +
         out("err");

@@ -45,9 +45,10 @@ TEST_F(MainWindowTest, CarriesTheProgramsCaption) {
 
 TEST_F(MainWindowTest, MenusFollowTheMenuTreeItemByItem) {
     const auto actions = desktop.mainWindow->menuBar()->actions();
-    ASSERT_EQ(actions.size(), qsizetype(MenuTree().size()));
+    const auto tree = MenuTree();
+    ASSERT_EQ(actions.size(), qsizetype(tree.size()));
     for (int place = 0; place < actions.size(); ++place) {
-        const auto& entry = MenuTree()[std::size_t(place)];
+        const auto& entry = tree[std::size_t(place)];
         EXPECT_EQ(FromQt(actions[place]->text()), entry.Caption);
         EXPECT_EQ(actions[place]->objectName().toStdString(), entry.Name);
         ExpectMenu(*actions[place]->menu(), entry.Items);
@@ -88,6 +89,42 @@ TEST_F(MainWindowTest, HiddenItemsAndEmptyRecentFilesAreNotSeen) {
         EXPECT_FALSE(Item(ToQt(RecentFileItem(index))).isVisible()) << index;
     EXPECT_TRUE(Item("mnuSeparator").isVisible());
     EXPECT_TRUE(Item("mnuSeparator").isSeparator());
+}
+
+TEST_F(MainWindowTest, TheExtrasMenuShowsAsSoonAsAnItemStandsInIt) {
+    if (ExtrasRows().empty()) {
+        EXPECT_EQ(desktop.mainWindow->findChild<QMenu*>("mnuExtras"), nullptr);
+    }
+    auto& session = desktop.session;
+    session.commands.Add({.Menu = ExtrasMenu,
+                          .Item = "mnuExtrasMirror",
+                          .Caption = "&Mirror",
+                          .Shortcut = "Ctrl+Alt+M",
+                          .Checkable = true,
+                          .Calls = {.Data = "MirrorSheet"}});
+    int calls = 0;
+    session.commands.Set("MirrorSheet", [&](const CommandCall&) {
+        session.mainWindow.CheckMenu("mnuExtrasMirror", ++calls % 2 == 1);
+    });
+    MainWindowFace face(session, desktop.shell, desktop.dispatch);
+    const auto menus = face.menuBar()->actions();
+    ASSERT_EQ(menus.size(), 7);
+    EXPECT_EQ(FromQt(menus[4]->text()), "&Window");
+    EXPECT_EQ(FromQt(menus[5]->text()), "E&xtras");
+    EXPECT_EQ(FromQt(menus[6]->text()), "&Help");
+    auto& item = Find<QAction>(face, "mnuExtrasMirror");
+    EXPECT_TRUE(menus[5]->menu()->actions().contains(&item));
+    EXPECT_EQ(FromQt(item.shortcut().toString()), "Ctrl+Alt+M");
+    EXPECT_FALSE(item.isEnabled()) << "no sheet is open";
+    NewSheet(2, 1);
+    EXPECT_TRUE(item.isEnabled());
+    item.trigger();
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(item.isChecked());
+    EXPECT_TRUE(Find<QAction>(face, "mnuOToolbar").isChecked()) << "a mark of its own";
+    item.trigger();
+    EXPECT_EQ(calls, 2);
+    EXPECT_FALSE(item.isChecked());
 }
 
 TEST_F(MainWindowTest, ARecentFileShowsItsWholePathAlsoWithAnAmpersand) {

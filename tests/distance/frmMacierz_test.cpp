@@ -1,11 +1,11 @@
 #include "distance/frmMacierz.h"
 #include "distance/matrix_session.h"
+#include "support/command_switches.h"
 #include "support/expect_failure.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -28,37 +28,6 @@ struct frmMacierzTest : ::testing::Test, MatrixSession {
     }
 
     int ColumnWidthFor(const std::string& highest) { return Open(2, highest).Siatka.ColumnWidth(2); }
-
-    void ExpectMenus(bool own, bool foreign) {
-        for (const auto* item : {"mnuExport", "mnuExportText", "mnuExportExcel", "mnuSave", "mnuSaveAs",
-                                 "mnuFilePrint", "mnuFileClose"})
-            EXPECT_EQ(session.mainWindow.MenuEnabled(item), own) << item;
-        for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
-            EXPECT_EQ(session.mainWindow.MenuEnabled(item), foreign) << item;
-    }
-    void ExpectButtons(bool makeMatrix, bool makeDiagram, bool document) {
-        const std::map<std::string, bool> wanted{{"MakeMatrix", makeMatrix},
-                                                 {"MakeDiagram", makeDiagram},
-                                                 {"Save", document},
-                                                 {"SaveAs", document},
-                                                 {"Print", document}};
-        for (const auto& [key, enabled] : wanted)
-            EXPECT_EQ(session.mainWindow.ButtonEnabled("toolMain", key), enabled) << key;
-    }
-    void EnableEverything(bool enabled) {
-        for (const auto* item : {"mnuExport", "mnuExportText", "mnuExportExcel", "mnuSave", "mnuSaveAs",
-                                 "mnuFilePrint", "mnuFileClose", "mnuExportBitmap", "mnuExportMeta",
-                                 "mnuAnalysisMatrix", "mnuAnalysisDiagram", "mnuEditCopyClip"})
-            session.mainWindow.EnableMenu(item, enabled);
-        for (const auto* key : {"MakeMatrix", "MakeDiagram", "Save", "SaveAs", "Print"})
-            session.mainWindow.EnableButton("toolMain", key, enabled);
-        session.mainWindow.ShowToolbar("toolMatrix", enabled);
-    }
-    // What a matrix leaves as it was.
-    void ExpectOthers(bool enabled) {
-        for (const auto* item : {"mnuAnalysisMatrix", "mnuAnalysisDiagram", "mnuEditCopyClip"})
-            EXPECT_EQ(session.mainWindow.MenuEnabled(item), enabled) << item;
-    }
 };
 
 TEST_F(frmMacierzTest, TheGridShowsNumbersNamesAndDistances) {
@@ -171,42 +140,26 @@ TEST_F(frmMacierzTest, AKeyInTheDescriptionBeepsWhileADiagramIsBeingMadeAndStill
 
 TEST_F(frmMacierzTest, ActivationSwitchesTheCommands) {
     auto& window = Open(2, "1");
-    EXPECT_EQ(window.TypeOfForm, "");
-    for (const bool before : {false, true}) {
-        EnableEverything(before);
+    ExpectSwitches(session, DocumentKind::Matrix, WindowPhase::Activated, [&] {
+        window.TypeOfForm.clear();
         window.Form_Activate();
         EXPECT_EQ(window.TypeOfForm, "MATRIX");
-        ExpectMenus(true, false);
-        ExpectButtons(false, true, true);
-        EXPECT_TRUE(session.mainWindow.ToolbarShown("toolMatrix"));
-        ExpectOthers(before);
-    }
+    });
 }
 
 TEST_F(frmMacierzTest, DeactivationSwitchesTheCommands) {
     auto& window = Open(2, "1");
-    for (const bool before : {false, true}) {
-        EnableEverything(before);
-        window.Form_Deactivate();
-        ExpectMenus(false, false);
-        ExpectButtons(true, true, false);
-        EXPECT_FALSE(session.mainWindow.ToolbarShown("toolMatrix"));
-        ExpectOthers(before);
-    }
+    ExpectSwitches(session, DocumentKind::Matrix, WindowPhase::Deactivated,
+                   [&] { window.Form_Deactivate(); });
 }
 
 TEST_F(frmMacierzTest, ClosingSwitchesTheCommandsAndFreesTheSlot) {
     auto& window = Open(2, "1");
-    for (const bool before : {false, true}) {
-        EnableEverything(before);
+    ExpectSwitches(session, DocumentKind::Matrix, WindowPhase::Unloaded, [&] {
         session.MatrixStates.at(1).Deleted = false;
         window.Form_Unload();
-        ExpectMenus(false, false);
-        ExpectButtons(false, false, false);
-        EXPECT_FALSE(session.mainWindow.ToolbarShown("toolMatrix"));
         EXPECT_TRUE(session.MatrixStates.at(1).Deleted);
-        ExpectOthers(before);
-    }
+    });
 }
 
 struct Closing : frmMacierzTest {

@@ -4,6 +4,7 @@
 #include "platform/keys.h"
 #include "session/frmMDI.h"
 #include "sheet_session.h"
+#include "support/command_switches.h"
 
 #include <gtest/gtest.h>
 
@@ -12,48 +13,26 @@
 namespace dorvan::test {
 namespace {
 
-constexpr const char* SheetItems[] = {"mnuExport",
-                                      "mnuExportText",
-                                      "mnuExportExcel",
-                                      "mnuSave",
-                                      "mnuSaveAs",
-                                      "mnuFileClose",
-                                      "mnuEditCell",
-                                      "mnuEditVarAdd",
-                                      "mnuEditVarEdit",
-                                      "mnuEditVarDelete",
-                                      "mnuEditRecAdd",
-                                      "mnuEditRecDelete",
-                                      "mnuEditStandarization",
-                                      "mnuAnalysisDiagram",
-                                      "mnuAnalysisMatrix"};
-constexpr const char* MakeAndSaveButtons[] = {"MakeMatrix", "MakeDiagram", "Save", "SaveAs"};
-
-TEST(DataSheetActivation, TurnsItsCommandsOn) {
+TEST(DataSheetActivation, SwitchesTheCommandsOfADataSheet) {
     SheetSession test;
-    auto& mainWindow = test.session.mainWindow;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
-    mainWindow.EnableButton("toolMain", "Print", true);
     auto& window = test.NewSheet(1, 1);
+    ExpectSwitches(test.session, DocumentKind::Data, WindowPhase::Activated, [&] { window.Form_Activate(); });
     EXPECT_EQ(window.TypeOfForm, "DATA");
-    for (const auto* item : SheetItems) EXPECT_TRUE(mainWindow.MenuEnabled(item)) << item;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
-        EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
-    for (const auto* key : MakeAndSaveButtons) EXPECT_TRUE(mainWindow.ButtonEnabled("toolMain", key)) << key;
-    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
-    EXPECT_TRUE(mainWindow.ToolbarShown("toolData"));
 }
 
-TEST(DataSheetActivation, LeavesTheOtherCommandsAsTheyWere) {
-    constexpr const char* others[] = {"mnuFilePrint", "mnuEditCopyClip", "mnuEditUp", "mnuEditCreateDataset"};
-    for (const bool before : {false, true}) {
-        SheetSession test;
-        auto& window = test.NewSheet(1, 1);
-        for (const auto* item : others) test.session.mainWindow.EnableMenu(item, before);
-        window.Form_Activate();
-        window.Form_Deactivate();
-        for (const auto* item : others) EXPECT_EQ(test.session.mainWindow.MenuEnabled(item), before) << item;
-    }
+TEST(DataSheetDeactivation, SwitchesTheCommandsOfADataSheet) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    ExpectSwitches(test.session, DocumentKind::Data, WindowPhase::Deactivated,
+                   [&] { window.Form_Deactivate(); });
+}
+
+TEST(DataSheetUnload, SwitchesTheCommandsOfADataSheetAndFreesTheSlot) {
+    SheetSession test;
+    auto& window = test.NewSheet(1, 1);
+    EXPECT_FALSE(test.session.DataStates[1].Deleted);
+    ExpectSwitches(test.session, DocumentKind::Data, WindowPhase::Unloaded, [&] { window.Form_Unload(); });
+    EXPECT_TRUE(test.session.DataStates[1].Deleted);
 }
 
 TEST(DataSheetActivation, PrintIsOffForADataSheet) {
@@ -62,39 +41,6 @@ TEST(DataSheetActivation, PrintIsOffForADataSheet) {
     frmMDI main(test.session);
     EXPECT_FALSE(main.MenuEnabled("mnuFilePrint"));
     EXPECT_FALSE(main.ButtonEnabled("toolMain", "Print"));
-}
-
-TEST(DataSheetDeactivation, TurnsAllOfThemOff) {
-    SheetSession test;
-    auto& window = test.NewSheet(1, 1);
-    auto& mainWindow = test.session.mainWindow;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
-    mainWindow.EnableButton("toolMain", "Print", true);
-    window.Form_Deactivate();
-    for (const auto* item : SheetItems) EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
-        EXPECT_FALSE(mainWindow.MenuEnabled(item)) << item;
-    for (const auto* key : MakeAndSaveButtons) EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", key)) << key;
-    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
-    EXPECT_FALSE(mainWindow.ToolbarShown("toolData"));
-}
-
-TEST(DataSheetUnload, TurnsThemOffButForTheExportsAndFreesTheSlot) {
-    SheetSession test;
-    auto& window = test.NewSheet(1, 1);
-    auto& mainWindow = test.session.mainWindow;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"}) mainWindow.EnableMenu(item, true);
-    mainWindow.EnableButton("toolMain", "Print", true);
-    EXPECT_FALSE(test.session.DataStates[1].Deleted);
-    window.Form_Unload();
-    EXPECT_TRUE(test.session.DataStates[1].Deleted);
-    for (const std::string item : SheetItems)
-        EXPECT_EQ(mainWindow.MenuEnabled(item), item.starts_with("mnuExport")) << item;
-    for (const auto* item : {"mnuExportBitmap", "mnuExportMeta"})
-        EXPECT_TRUE(mainWindow.MenuEnabled(item)) << item;
-    for (const auto* key : MakeAndSaveButtons) EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", key)) << key;
-    EXPECT_FALSE(mainWindow.ButtonEnabled("toolMain", "Print"));
-    EXPECT_FALSE(mainWindow.ToolbarShown("toolData"));
 }
 
 // A changed sheet whose save is recorded.

@@ -2,18 +2,16 @@
 #include "view/diagram_session.h"
 
 #include "numbers/runtime_failure.h"
+#include "support/command_switches.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 #include <vector>
 
 namespace dorvan::test {
 namespace {
 
-using ::testing::UnorderedElementsAreArray;
 using Words = std::vector<std::string>;
 
 TEST(DiagramGrid, HasNumbersAndNamesAlongItsEdge) {
@@ -208,163 +206,49 @@ TEST(DiagramDescription, AKeyBeepsWhileADiagramIsMadeAndIsStillTaken) {
     EXPECT_EQ(key, 'x');
 }
 
-// All names that a child window may switch.
-const Words AllMenus{"mnuExport",
-                     "mnuExportText",
-                     "mnuExportExcel",
-                     "mnuExportBitmap",
-                     "mnuExportMeta",
-                     "mnuSave",
-                     "mnuSaveAs",
-                     "mnuFileClose",
-                     "mnuFilePrint",
-                     "mnuEditCell",
-                     "mnuEditVarAdd",
-                     "mnuEditVarEdit",
-                     "mnuEditVarDelete",
-                     "mnuEditRecAdd",
-                     "mnuEditRecDelete",
-                     "mnuEditStandarization",
-                     "mnuEditSelect",
-                     "mnuEditHome",
-                     "mnuEditUp",
-                     "mnuEditDown",
-                     "mnuEditEnd",
-                     "mnuEditInsert",
-                     "mnuEditCreateMatrix",
-                     "mnuEditCreateDataset",
-                     "mnuEditHistogram",
-                     "mnuEditLinear",
-                     "mnuEditDiagramType",
-                     "mnuEditCopyClip",
-                     "mnuAnalysisMatrix",
-                     "mnuAnalysisDiagram",
-                     "mnuFNew",
-                     "mnuFOpen",
-                     "mnuImport",
-                     "mnuFExit",
-                     "mnuOToolbar"};
-const Words MainButtons{"New",         "Open",         "OpenMatrix", "OpenDiagram", "ImportDBF",
-                        "ImportTXT",   "ImportMatrix", "Save",       "SaveAs",      "MakeMatrix",
-                        "MakeDiagram", "Print",        "Help"};
-const Words AllToolbars{"toolMain", "toolData", "toolMatrix", "toolBitmap", "toolDiagram"};
-
-void SetAll(MainWindow& main, bool state) {
-    for (const auto& item : AllMenus) main.EnableMenu(item, state);
-    for (const auto& key : MainButtons) main.EnableButton("toolMain", key, state);
-    for (const auto& toolbar : AllToolbars) main.ShowToolbar(toolbar, state);
-    main.ShowButton("toolDiagram", "DataOrder", state);
-}
-
-struct Switched {
-    Words menus, buttons, toolbars;
-    bool dataOrder = false;
-};
-
-// What the event has turned to `state`, everything having stood the other way.
-template <class Event> Switched SwitchedTo(bool state, MainWindow& main, Event event) {
-    SetAll(main, !state);
-    event();
-    Switched result;
-    for (const auto& item : AllMenus)
-        if (main.MenuEnabled(item) == state) result.menus.push_back(item);
-    for (const auto& key : MainButtons)
-        if (main.ButtonEnabled("toolMain", key) == state) result.buttons.push_back(key);
-    for (const auto& toolbar : AllToolbars)
-        if (main.ToolbarShown(toolbar) == state) result.toolbars.push_back(toolbar);
-    result.dataOrder = main.ButtonShown("toolDiagram", "DataOrder") == state;
-    return result;
-}
-
-const Words ActivatedMenus{
-    "mnuExport",     "mnuExportExcel", "mnuExportBitmap",  "mnuExportMeta",       "mnuSave",
-    "mnuSaveAs",     "mnuFilePrint",   "mnuFileClose",     "mnuEditCreateMatrix", "mnuEditDiagramType",
-    "mnuEditDown",   "mnuEditEnd",     "mnuEditHistogram", "mnuEditHome",         "mnuEditLinear",
-    "mnuEditSelect", "mnuEditUp",      "mnuEditInsert",    "mnuEditCreateDataset"};
-
-TEST(DiagramActivation, TurnsOnItsCommands) {
+TEST(DiagramActivation, SwitchesTheCommandsOfADiagram) {
     DiagramSession at;
     auto& window = at.Open(2);
-    const auto on = SwitchedTo(true, at.session.mainWindow, [&] { window.Form_Activate(); });
-    EXPECT_THAT(on.menus, UnorderedElementsAreArray(ActivatedMenus));
-    EXPECT_THAT(on.buttons, UnorderedElementsAreArray(Words{"Save", "SaveAs", "Print"}));
-    EXPECT_THAT(on.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
-    EXPECT_TRUE(on.dataOrder);
+    ExpectSwitches(at.session, DocumentKind::Diagram, WindowPhase::Activated,
+                   [&] { window.Form_Activate(); });
     EXPECT_EQ(window.TypeOfForm, "DIAGRAM");
 }
 
-TEST(DiagramActivation, TurnsOffWhatADiagramHasNoUseFor) {
-    DiagramSession at;
-    auto& window = at.Open(2);
-    const auto off = SwitchedTo(false, at.session.mainWindow, [&] { window.Form_Activate(); });
-    EXPECT_THAT(off.menus, UnorderedElementsAreArray(Words{"mnuExportText", "mnuEditCopyClip",
-                                                           "mnuAnalysisDiagram", "mnuAnalysisMatrix"}));
-    EXPECT_THAT(off.buttons, UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram"}));
-    EXPECT_TRUE(off.toolbars.empty());
-    EXPECT_FALSE(off.dataOrder);
+TEST(DiagramActivation, OnlyADiagramWithDataHasADatasetToCreate) {
+    for (const bool noData : {false, true}) {
+        DiagramSession at;
+        auto document = SampleDocument(2);
+        document.NoData = noData;
+        auto& window = at.Open(document);
+        auto& main = at.session.mainWindow;
+        for (const bool before : {false, true}) {
+            main.EnableMenu("mnuEditCreateDataset", before);
+            main.ShowButton("toolDiagram", "DataOrder", before);
+            window.Form_Activate();
+            EXPECT_EQ(main.MenuEnabled("mnuEditCreateDataset"), !noData);
+            EXPECT_EQ(main.ButtonShown("toolDiagram", "DataOrder"), !noData);
+        }
+    }
 }
 
-TEST(DiagramActivation, ADiagramWithoutDataHasNoDatasetToCreate) {
-    DiagramSession at;
-    auto document = SampleDocument(2);
-    document.NoData = true;
-    auto& window = at.Open(document);
-    auto& main = at.session.mainWindow;
-    const auto off = SwitchedTo(false, main, [&] { window.Form_Activate(); });
-    EXPECT_THAT(off.menus,
-                UnorderedElementsAreArray(Words{"mnuExportText", "mnuEditCopyClip", "mnuAnalysisDiagram",
-                                                "mnuAnalysisMatrix", "mnuEditCreateDataset"}));
-    EXPECT_TRUE(off.dataOrder);
-    const auto on = SwitchedTo(true, main, [&] { window.Form_Activate(); });
-    EXPECT_EQ(on.menus.size(), ActivatedMenus.size() - 1);
-    EXPECT_FALSE(on.dataOrder);
-}
-
-TEST(DiagramDeactivation, TurnsItsCommandsOffButPrintAndTheMakeButtonsOn) {
+TEST(DiagramDeactivation, SwitchesTheCommandsOfADiagram) {
     DiagramSession at;
     auto& window = at.Open(2);
     auto& main = at.session.mainWindow;
-    const auto off = SwitchedTo(false, main, [&] { window.Form_Deactivate(); });
-    EXPECT_THAT(off.menus, UnorderedElementsAreArray(Words{"mnuExport",           "mnuExportText",
-                                                           "mnuExportExcel",      "mnuExportBitmap",
-                                                           "mnuExportMeta",       "mnuSave",
-                                                           "mnuSaveAs",           "mnuFileClose",
-                                                           "mnuEditCopyClip",     "mnuEditCreateDataset",
-                                                           "mnuEditCreateMatrix", "mnuEditDiagramType",
-                                                           "mnuEditDown",         "mnuEditEnd",
-                                                           "mnuEditHistogram",    "mnuEditHome",
-                                                           "mnuEditLinear",       "mnuEditSelect",
-                                                           "mnuEditUp",           "mnuEditInsert"}))
-        << "mnuFilePrint is left as it was";
-    EXPECT_THAT(off.buttons, UnorderedElementsAreArray(Words{"Save", "SaveAs", "Print"}));
-    EXPECT_THAT(off.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
-    EXPECT_FALSE(off.dataOrder);
-
-    const auto on = SwitchedTo(true, main, [&] { window.Form_Deactivate(); });
-    EXPECT_TRUE(on.menus.empty());
-    EXPECT_THAT(on.buttons, UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram"}));
-    EXPECT_TRUE(on.toolbars.empty());
+    ExpectSwitches(at.session, DocumentKind::Diagram, WindowPhase::Deactivated,
+                   [&] { window.Form_Deactivate(); });
+    for (const bool shown : {false, true}) {
+        main.ShowButton("toolDiagram", "DataOrder", shown);
+        window.Form_Deactivate();
+        EXPECT_EQ(main.ButtonShown("toolDiagram", "DataOrder"), shown);
+    }
 }
 
-TEST(DiagramUnload, FreesTheSlotAndTurnsItsCommandsOff) {
+TEST(DiagramUnload, SwitchesTheCommandsOfADiagramAndFreesTheSlot) {
     DiagramSession at;
     auto& window = at.Open(2);
-    auto& main = at.session.mainWindow;
-    const auto off = SwitchedTo(false, main, [&] { window.Form_Unload(); });
+    ExpectSwitches(at.session, DocumentKind::Diagram, WindowPhase::Unloaded, [&] { window.Form_Unload(); });
     EXPECT_TRUE(at.session.DiagramStates.at(1).Deleted);
-    EXPECT_THAT(off.menus, UnorderedElementsAreArray(
-                               Words{"mnuFileClose", "mnuSave", "mnuSaveAs", "mnuEditCopyClip",
-                                     "mnuEditCreateDataset", "mnuEditCreateMatrix", "mnuEditDiagramType",
-                                     "mnuEditDown", "mnuEditEnd", "mnuEditHistogram", "mnuEditHome",
-                                     "mnuEditLinear", "mnuEditSelect", "mnuEditUp", "mnuEditInsert"}));
-    EXPECT_THAT(off.buttons,
-                UnorderedElementsAreArray(Words{"MakeMatrix", "MakeDiagram", "Save", "SaveAs", "Print"}));
-    EXPECT_THAT(off.toolbars, UnorderedElementsAreArray(Words{"toolDiagram"}));
-
-    const auto on = SwitchedTo(true, main, [&] { window.Form_Unload(); });
-    EXPECT_TRUE(on.menus.empty());
-    EXPECT_TRUE(on.buttons.empty());
-    EXPECT_TRUE(on.toolbars.empty());
     EXPECT_EQ(at.session.DiagramDocuments.at(1).RecCount, 2) << "the record stays until the slot is reused";
 }
 

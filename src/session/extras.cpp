@@ -1,0 +1,26 @@
+#include "session/command_rows.h"
+
+// The menu "Extras" holds what this program adds of its own. A row of it is a row like any other:
+//
+//     {.Menu = ExtrasMenu,
+//      .Item = "mnuExtrasBestOrder",
+//      .Caption = "&Best order",
+//      .Calls = {.Diagram = "frmDiagram.BestOrder"}},
+//
+// Its item is on while a window of a kind is active for which it calls an operation that is registered (see
+// program/program.cpp); nothing else switches it, unless a window calls MainWindow::EnableMenu. It may have a
+// shortcut, a check mark (MainWindow::CheckMenu), or be a submenu with rows of its own.
+namespace dorvan {
+
+std::vector<CommandRow> ExtrasRows() {
+    return {
+        // Orders of diagrams
+
+        // What a window shows
+
+        // Sheets and their cells
+
+    };
+}
+
+} // namespace dorvan
