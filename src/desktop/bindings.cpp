@@ -3,9 +3,9 @@
 #include "desktop/qt_text.h"
 #include "platform/keys.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -268,7 +268,11 @@ void Bindings::Mirror() {
 }
 
 void Bindings::MirrorFocus() {
-    if (!form_ || !form_->ActiveControl || (active_ && !active_())) return;
+    if (!active_ || active_()) PlaceFocus();
+}
+
+void Bindings::PlaceFocus() {
+    if (!form_ || !form_->ActiveControl) return;
     QWidget* wanted = WidgetOf(form_->ActiveControl);
     if (wanted && wanted->isVisibleTo(root_) && wanted->isEnabledTo(root_) && root_->focusWidget() != wanted)
         wanted->setFocus(Qt::OtherFocusReason);
@@ -289,16 +293,18 @@ void Bindings::FocusIn(QWidget* widget) {
         if (bound == widget) form_->ActiveControl = control;
 }
 
-void Bindings::FocusOut(QWidget* widget, const QFocusEvent& event) {
+void Bindings::FocusOut(QWidget* widget, Qt::FocusReason reason) {
     // An open menu or another program in front leaves the focus where it is, as the windows see it.
-    const auto reason = event.reason();
-    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
-        reason == Qt::MenuBarFocusReason)
-        return;
+    if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
     const auto field = fields_.find(widget);
     if (field == fields_.end()) return;
     if (!mirroring_) field->second.read();
-    if (field->second.events.lostFocus) Forward(field->second.events.lostFocus);
+    dispatch_.Later(this, [this, widget, reason] {
+        if (!form_ || widget->hasFocus()) return; // it came back at once
+        const QWidget* active = QApplication::activeWindow();
+        if (reason == Qt::ActiveWindowFocusReason && (!active || active == widget->window())) return;
+        if (const auto& lostFocus = fields_.at(widget).events.lostFocus) lostFocus();
+    });
 }
 
 bool Bindings::KeyToField(Field_& field, QObject* watched, QKeyEvent& event) {
@@ -326,7 +332,7 @@ bool Bindings::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = static_cast<QWidget*>(watched);
     switch (event->type()) {
     case QEvent::FocusIn: FocusIn(widget); return false;
-    case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent&>(*event)); return false;
+    case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::KeyPress: {
         const auto field = fields_.find(watched);
         return field != fields_.end() && KeyToField(field->second, watched, static_cast<QKeyEvent&>(*event));

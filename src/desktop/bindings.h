@@ -12,7 +12,6 @@
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
-class QFocusEvent;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -66,6 +65,9 @@ public:
 
     void Mirror();
 
+    // The control that has the focus in the form's state gets it once its window comes up.
+    void PlaceFocus();
+
     // The form is about to go: nothing is forwarded or mirrored any more.
     void Detach();
     bool Attached() const { return form_ != nullptr; }
@@ -88,7 +90,7 @@ private:
     void Forward(const Handler& handler);
     bool KeyToField(Field_& field, QObject* watched, QKeyEvent& event);
     void FocusIn(QWidget* widget);
-    void FocusOut(QWidget* widget, const QFocusEvent& event);
+    void FocusOut(QWidget* widget, Qt::FocusReason reason);
 
     Form* form_;
     EventDispatch& dispatch_;

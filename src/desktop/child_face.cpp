@@ -7,6 +7,8 @@
 #include <QCloseEvent>
 #include <QMdiArea>
 
+#include <utility>
+
 namespace dorvan {
 
 namespace {
@@ -26,7 +28,10 @@ ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispa
     content->setObjectName(ToQt(window.Name));
     setWidget(content);
     bindings_ = new Bindings(window, dispatch, content);
-    bindings_->MirrorFocusWhile([this] { return session_.ActiveWindow == window_; });
+    // A focus that moved into a window behind would bring it to the front.
+    bindings_->MirrorFocusWhile([this] {
+        return session_.ActiveWindow == window_ && mdiArea() && mdiArea()->currentSubWindow() == this;
+    });
     dispatch_.AddMirror(this, [this] { Mirror(); });
 }
 
@@ -114,21 +119,31 @@ void ChildFace::closeEvent(QCloseEvent* event) {
     if (window_) dispatch_.Run([this] { CloseChild(session_, *window_); });
 }
 
+// The sizes on the way from one state to another tell nothing.
+void ChildFace::TellBoundsLater() {
+    if (!window_ || !placed_ || std::exchange(tellsBounds_, true)) return;
+    dispatch_.Later(this, [this] {
+        tellsBounds_ = false;
+        if (!window_) return;
+        const QSize before(window_->ScaleWidth, window_->ScaleHeight);
+        TellBounds();
+        if (before != QSize(window_->ScaleWidth, window_->ScaleHeight)) window_->Form_Resize();
+    });
+}
+
 void ChildFace::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
-    if (!window_ || !placed_) return;
-    TellBounds();
-    dispatch_.Run([this] { window_->Form_Resize(); });
+    TellBoundsLater();
 }
 
 void ChildFace::moveEvent(QMoveEvent* event) {
     QMdiSubWindow::moveEvent(event);
-    TellBounds();
+    TellBoundsLater();
 }
 
 void ChildFace::changeEvent(QEvent* event) {
     QMdiSubWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) TellBounds();
+    if (event->type() == QEvent::WindowStateChange) TellBoundsLater();
 }
 
 } // namespace dorvan

@@ -49,6 +49,7 @@ private:
 
     Bounds WantedBounds() const;
     void TellBounds();
+    void TellBoundsLater();
     void MirrorBounds();
     void MirrorMode();
     WindowMode ShownMode() const;
@@ -61,6 +62,7 @@ private:
     Bounds told_; // in twips, as the screen last told or showed them
     WindowMode toldMode_ = WindowMode::Normal;
     bool placed_ = false;
+    bool tellsBounds_ = false; // as soon as the toolkit has settled
 };
 
 } // namespace dorvan

@@ -22,6 +22,25 @@ struct Deeper {
 } // namespace
 
 void EventDispatch::Run(const Handler& handler) {
+    RunWaiting();
+    RunNow(handler);
+}
+
+void EventDispatch::Later(QObject* owner, Handler handler) {
+    waiting_.push_back({owner, std::move(handler)});
+    QMetaObject::invokeMethod(
+        &poster_, [this] { RunWaiting(); }, Qt::QueuedConnection);
+}
+
+void EventDispatch::RunWaiting() {
+    while (!waiting_.empty()) {
+        const WaitingEntry next = std::move(waiting_.front());
+        waiting_.pop_front();
+        if (next.owner) RunNow(next.handler);
+    }
+}
+
+void EventDispatch::RunNow(const Handler& handler) {
     {
         const Deeper deeper(depth_);
         try {

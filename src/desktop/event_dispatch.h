@@ -1,12 +1,12 @@
 #pragma once
 
+#include <QObject>
 #include <QPointer>
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
-
-class QObject;
 
 namespace dorvan {
 
@@ -16,7 +16,14 @@ class EventDispatch {
 public:
     using Handler = std::function<void()>;
 
+    // What the user does. What waits comes first.
     void Run(const Handler& handler);
+
+    // What the toolkit reports in the midst of its own work: a focus, a size, a state of a window that has
+    // changed. Whoever moves the focus or shows a window from inside such a report makes it report again, and
+    // so on without an end; the handler runs once that work is done, unless `owner` has gone by then.
+    void Later(QObject* owner, Handler handler);
+    void RunWaiting();
 
     // `mirror` runs after each event for as long as `owner` lives.
     void AddMirror(QObject* owner, Handler mirror);
@@ -34,7 +41,17 @@ private:
         Handler mirror;
     };
 
+    struct WaitingEntry {
+        QPointer<QObject> owner;
+        Handler handler;
+    };
+
+    void RunNow(const Handler& handler);
+
     std::vector<MirrorEntry> mirrors_;
+    std::deque<WaitingEntry>
+        waiting_; // first in, first out; a handler that lets events run lets them run too
+    QObject poster_;
     int depth_ = 0;
     bool mirroring_ = false;
     bool mirrorAgain_ = false;

@@ -80,9 +80,7 @@ public:
 
     QStringList actionNames() const override { return {setFocusAction()}; }
     void doAction(const QString& name) override {
-        if (!isValid() || name != setFocusAction()) return;
-        widget_->setFocus(Qt::OtherFocusReason);
-        widget_->MakeCurrent(row_, column_);
+        if (isValid() && name == setFocusAction()) widget_->MakeCurrent(row_, column_);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

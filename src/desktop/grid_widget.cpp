@@ -130,7 +130,7 @@ struct GridWidget::CellPaint {
 GridWidget::GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent)
     : QAbstractScrollArea(parent), grid_(&grid), dispatch_(dispatch) {
     InstallGridAccessibility();
-    setFocusPolicy(Qt::TabFocus); // a click moves the current cell first, and takes the focus then
+    setFocusPolicy(Qt::TabFocus); // a click takes the focus by its own hand
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -371,8 +371,16 @@ void GridWidget::MoveTo(int row, int column) {
         grid_->SetCurrent(row, column);
 }
 
+void GridWidget::ForwardLater(std::function<void()> handler) {
+    dispatch_.Later(this, [this, run = std::move(handler)] {
+        if (grid_) run();
+    });
+}
+
 void GridWidget::MakeCurrent(int row, int column) {
-    Forward([&] { MoveTo(row, column); });
+    setFocus(Qt::OtherFocusReason);
+    ForwardLater([this, row, column] { MoveTo(row, column); });
+    dispatch_.RunWaiting();
 }
 
 bool GridWidget::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
@@ -433,11 +441,16 @@ void GridWidget::ClickAt(QPoint place) {
            column < grid_->FixedColumns ? grid_->Column() : column);
 }
 
+// The field that loses the focus hears of it first, and still sees the old current cell; the click waits, and
+// takes place while that field's owner lets events run.
 void GridWidget::mousePressEvent(QMouseEvent* event) {
-    Forward([&] { ClickAt(event->position().toPoint()); });
     setFocus(Qt::MouseFocusReason);
-    if (event->button() == Qt::RightButton && events.rightButton)
-        Forward([&] { events.rightButton(event->globalPosition().toPoint()); });
+    ForwardLater([this, place = event->position().toPoint()] { ClickAt(place); });
+    if (event->button() == Qt::RightButton)
+        ForwardLater([this, place = event->globalPosition().toPoint()] {
+            if (events.rightButton) events.rightButton(place);
+        });
+    dispatch_.RunWaiting();
 }
 
 void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {

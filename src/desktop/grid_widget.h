@@ -60,7 +60,7 @@ public:
     // What a screen reader says of the cell.
     QString CellReading(int row, int column) const;
 
-    // A screen reader moves the current cell.
+    // A screen reader moves the current cell, as a click would.
     void MakeCurrent(int row, int column);
 
 protected:
@@ -104,6 +104,7 @@ private:
     void PaintCell(CellPaint& paint, int row, int column) const;
     const QImage& ScaledTile(std::uint8_t picture) const;
     void Forward(const std::function<void()>& handler);
+    void ForwardLater(std::function<void()> handler);
     bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
     void MoveTo(int row, int column);
     void ClickAt(QPoint place);

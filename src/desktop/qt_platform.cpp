@@ -170,11 +170,14 @@ void QtForms::close(Form& form) {
 void QtChildren::Attach(ChildContext context, QMdiArea& area) {
     context_ = std::make_unique<ChildContext>(std::move(context));
     area_ = &area;
-    QObject::connect(&area, &QMdiArea::subWindowActivated, &area, [this](QMdiSubWindow* subWindow) {
-        auto* face = dynamic_cast<ChildFace*>(subWindow);
-        if (!face || !face->Window()) return;
-        context_->dispatch.Run([&] { ActivateChild(context_->session, *face->Window()); });
-    });
+    QObject::connect(&area, &QMdiArea::subWindowActivated, &area,
+                     [this](QMdiSubWindow*) { context_->dispatch.Later(area_, [this] { FollowScreen(); }); });
+}
+
+// The window in front is the active one, whichever others were there on the way.
+void QtChildren::FollowScreen() {
+    auto* face = dynamic_cast<ChildFace*>(area_->currentSubWindow());
+    if (face && face->Window()) ActivateChild(context_->session, *face->Window());
 }
 
 ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
@@ -189,6 +192,7 @@ void QtChildren::show(ChildWindow& window) {
         faces_[&window] = face;
         area_->addSubWindow(face);
         face->Place();
+        face->Binder().PlaceFocus(); // or the first field in order would get it
         face->show();
     }
     face->Mirror();
@@ -244,6 +248,7 @@ void QtSignals::setCursor(Cursor cursor) {
 }
 
 int QtEvents::run() {
+    dispatch_.RunWaiting();
     if (!forms_.TakeNews() && sinceLast_.isValid() && sinceLast_.elapsed() < MillisecondsBetweenRuns)
         return windows_;
     dispatch_.Mirror();

@@ -68,6 +68,7 @@ public:
     ChildFace* FaceOf(const ChildWindow& window);
 
 private:
+    void FollowScreen();
     void ArrangeIcons();
 
     std::unique_ptr<ChildContext> context_;

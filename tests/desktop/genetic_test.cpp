@@ -127,6 +127,7 @@ TEST_F(GeneticTest, EscAndTheCloseControlOfTheProgressWindowCancel) {
     EXPECT_EQ(Face().windowTitle(), "[DIAGRAM]: Untitled:1");
     desktop.mainWindow->Area().setActiveSubWindow(
         desktop.ports.children.FaceOf(*desktop.session.DataWindows.at(1)));
+    QCoreApplication::processEvents();
     Run("Option9", accept, "frmWorkUM", leave);
     EXPECT_EQ(Face().windowTitle(), "[DIAGRAM]: Untitled:2");
 }

@@ -206,6 +206,7 @@ TEST_F(MainWindowTest, BringingAWindowToTheFrontSwitchesTheCommands) {
     EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolMatrix").isVisible());
     EXPECT_FALSE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());
     desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    QCoreApplication::processEvents();
     EXPECT_EQ(desktop.session.ActiveWindow, sheet);
     EXPECT_FALSE(Find<QToolBar>(*desktop.mainWindow, "toolMatrix").isVisible());
     EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolData").isVisible());

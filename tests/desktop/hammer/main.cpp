@@ -1,0 +1,184 @@
+// The hammer: random keys, clicks and window operations on the whole program, for a while.
+//
+//   test_hammer [--seconds N] [--seed N] [--actions N] [--lists FOLDER] [--keep 1]
+//   test_hammer --replay LIST
+//
+// Each round is a run of the program of its own, with the next seed, in a process of its own, so that an end
+// of one is seen from outside. The list of its actions is kept for a round that ended badly, and replays.
+#include "hammer/user.h"
+#include "support/golden.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace dorvan;
+using namespace dorvan::test;
+
+constexpr int EndedByDesign = 42; // a run-time failure that the program announces
+constexpr int Complained = 43;
+constexpr int LongestAction = 60; // seconds
+
+struct Options {
+    int seconds = 30;
+    int actions = 1500; // of a round
+    unsigned seed = 1;
+    std::string lists = std::filesystem::current_path();
+    std::string replay;
+    bool keep = false; // the lists of all rounds
+};
+
+[[noreturn]] void EndRound(int status, const std::string& why) {
+    std::fprintf(stderr, "%s\n", why.c_str());
+    std::fflush(nullptr);
+    std::_Exit(status);
+}
+
+std::vector<Action> ListOf(const std::string& path) {
+    std::vector<Action> actions;
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);)
+        if (const auto action = Action::Parse(line)) actions.push_back(*action);
+    return actions;
+}
+
+// One run of the program.
+class Round {
+public:
+    Round(const Options& options, const std::string& list)
+        : options_(options), files_(CopyOfSamples()), desktop_(files_), user_(desktop_, files_, options.seed),
+          replay_(ListOf(options.replay)), list_(options.replay.empty() ? list : "/dev/null") {
+        desktop_.dispatch.onEnd = [](const std::string& what) {
+            const bool announced = what.starts_with("Run-time error");
+            EndRound(announced ? EndedByDesign : Complained, "end of the run: " + what);
+        };
+        desktop_.dispatch.afterEvent = [this] {
+            if (desktop_.shell.EndOfRun()) EndRound(EXIT_SUCCESS, "exit");
+        };
+        desktop_.mainWindow->resize(1366, 768);
+        desktop_.mainWindow->show();
+        QApplication::setActiveWindow(desktop_.mainWindow.get());
+    }
+
+    void Run() {
+        Arm();
+        QApplication::exec();
+    }
+
+private:
+    std::string CopyOfSamples() {
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+        const std::string copy = folder_.path().toStdString() + "/files";
+        std::filesystem::copy(sourcePath("samples"), copy);
+        for (const auto* name : {"towns.mtx", "towns.dgr"})
+            std::filesystem::copy(sourcePath("tests/desktop/journey/golden/") + name, copy);
+        return copy;
+    }
+
+    // Armed before the action: what it opens is answered by the next one.
+    void Arm() {
+        QTimer::singleShot(0, &timers_, [this] { Step(); });
+    }
+
+    void Step() {
+        if (const std::string complaint = user_.Complaint(); !complaint.empty())
+            EndRound(Complained, complaint);
+        const std::size_t most = replay_.empty() ? std::size_t(options_.actions) : replay_.size();
+        if (done_ >= most) EndRound(EXIT_SUCCESS, "");
+        const Action action = replay_.empty() ? user_.Next() : replay_[done_];
+        ++done_;
+        list_ << action.Line() << std::endl;
+        if (!options_.replay.empty()) std::fprintf(stderr, "%s\n", action.Line().c_str());
+        ::alarm(LongestAction);
+        Arm();
+        user_.Do(action);
+    }
+
+    const Options& options_;
+    QTemporaryDir folder_;
+    std::string files_;
+    Desktop desktop_;
+    User user_;
+    std::vector<Action> replay_;
+    std::ofstream list_;
+    std::size_t done_ = 0;
+    QObject timers_;
+};
+
+int RunRound(const Options& options, const std::string& list) {
+    int count = 1;
+    char name[] = "hammer";
+    char* arguments[] = {name, nullptr};
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    const QApplication application(count, arguments);
+    Round(options, list).Run();
+    return EXIT_SUCCESS;
+}
+
+int InProcess(const Options& options, const std::string& list) {
+    const pid_t process = ::fork();
+    if (process == 0) std::_Exit(RunRound(options, list));
+    int status = 0;
+    ::waitpid(process, &status, 0);
+    return status;
+}
+
+Options Read(int count, char** arguments) {
+    Options options;
+    for (int place = 1; place + 1 < count; place += 2) {
+        const std::string name = arguments[place];
+        const char* value = arguments[place + 1];
+        if (name == "--seconds") options.seconds = std::atoi(value);
+        if (name == "--actions") options.actions = std::atoi(value);
+        if (name == "--seed") options.seed = unsigned(std::atoi(value));
+        // Absolute: the program changes its current folder.
+        if (name == "--lists") options.lists = std::filesystem::absolute(value);
+        if (name == "--keep") options.keep = std::atoi(value) != 0;
+        if (name == "--replay") options.replay = std::filesystem::absolute(value);
+    }
+    return options;
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    Options options = Read(count, arguments);
+    if (!options.replay.empty()) return RunRound(options, {});
+    QElapsedTimer time;
+    time.start();
+    std::size_t actions = 0;
+    int rounds = 0;
+    int designed = 0;
+    int bad = 0;
+    for (; time.elapsed() < options.seconds * 1000; ++rounds, ++options.seed) {
+        const std::string list = options.lists + "/hammer-" + std::to_string(options.seed) + ".actions";
+        const int status = InProcess(options, list);
+        actions += ListOf(list).size();
+        if (WIFEXITED(status) && WEXITSTATUS(status) == EndedByDesign) ++designed;
+        if (WIFEXITED(status) &&
+            (WEXITSTATUS(status) == EXIT_SUCCESS || WEXITSTATUS(status) == EndedByDesign)) {
+            if (!options.keep) std::filesystem::remove(list);
+            continue;
+        }
+        ++bad;
+        std::printf("seed %u: %s %d after %zu actions; replay %s\n", options.seed,
+                    WIFSIGNALED(status) ? "signal" : "status",
+                    WIFSIGNALED(status) ? WTERMSIG(status) : WEXITSTATUS(status), ListOf(list).size(),
+                    list.c_str());
+        std::fflush(stdout);
+    }
+    std::printf("%zu actions in %d rounds; %d announced ends, %d bad ones\n", actions, rounds, designed, bad);
+    return bad == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
