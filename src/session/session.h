@@ -97,7 +97,8 @@ struct Session {
     OrderingOptions ordering; // of the two genetic ones
 };
 
-// The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.
+// The session's part of the start-up: caption, folder, the locale's decimal separator and code page of files,
+// registry, defaults, commands off.
 // The random generator is seeded from `seed` (the clock's seconds since midnight unless a seed was asked
 // for).
 void StartSession(Session& session, std::uint64_t seed, const std::string& programFolder);
