@@ -625,7 +625,7 @@ TEST_F(MakingDiagramMeanwhile, AClickOnAMatrixLeavesTheDiagramTheSheetsDescripti
         sheet.OpisText.Text = "written during the search";
     });
     ExpectReversedSheet();
-    EXPECT_EQ(Window().description,
+    EXPECT_EQ(Window().BottomText.Text,
               "written during the search"); // that of the window, when the search has ended
     ASSERT_EQ(session.Children.size(), 3u);
     EXPECT_EQ(session.Children[1].get(), &sheet); // brought to the front before the diagram came
@@ -636,7 +636,7 @@ TEST_F(MakingDiagramMeanwhile, AClickOnASheetLeavesTheDiagramTheMatrixsDescripti
     auto& sheet = OpenSheet(Line(3), "of the sheet");
     OpenMatrix(ZigzagMatrix, "of the matrix");
     MakeWith([&] { ActivateChild(session, sheet); });
-    EXPECT_EQ(Window().description, "of the matrix");
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
     EXPECT_EQ(Document().Matrix(1, 2), 9);
 }
 
@@ -648,7 +648,7 @@ TEST_F(MakingDiagramMeanwhile, AClosedSheetIsUsedAsItStoodAtTheStart) {
         LoadAnother();
     });
     ExpectReversedSheet();
-    EXPECT_EQ(Window().description, "of the sheet");
+    EXPECT_EQ(Window().BottomText.Text, "of the sheet");
 }
 
 TEST_F(MakingDiagramMeanwhile, AClosedMatrixIsUsedAsItStoodAtTheStart) {
@@ -659,7 +659,7 @@ TEST_F(MakingDiagramMeanwhile, AClosedMatrixIsUsedAsItStoodAtTheStart) {
         LoadAnother();
         session.DiagramFromMatrix = true;
     });
-    EXPECT_EQ(Window().description, "of the matrix");
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
     EXPECT_EQ(Document().RecordNames, ArrayOf<std::string>({"a", "b", "c", "d", "e"}));
     EXPECT_EQ(Document().Matrix(1, 2), 9);
     EXPECT_EQ(Document().Matrix.Rows(), 5);
