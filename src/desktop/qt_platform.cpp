@@ -1,6 +1,7 @@
 #include "desktop/qt_platform.h"
 
 #include "desktop/qt_text.h"
+#include "platform/twips.h"
 #include "session/children.h"
 
 #include <QApplication>
@@ -22,7 +23,6 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr qint64 MillisecondsBetweenRuns = 8;
 
 // Over the window that the user works in.
@@ -187,7 +187,8 @@ ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
 
 void QtChildren::show(ChildWindow& window) {
     ChildFace* face = FaceOf(window);
-    if (!face) {
+    const bool isNew = !face;
+    if (isNew) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
@@ -197,6 +198,8 @@ void QtChildren::show(ChildWindow& window) {
     }
     face->Mirror();
     area_->setActiveSubWindow(face);
+    // In front of a maximized window the toolkit maximizes it as well.
+    if (isNew) face->MirrorMode();
 }
 
 void QtChildren::update(ChildWindow& window) {
