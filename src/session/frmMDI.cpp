@@ -181,8 +181,7 @@ void frmMDI::HelpEnglish() {
 
 void frmMDI::HelpContact() {
     session_.platform.messages.show(
-        {.Text = "Dorvan is kept by its maintainers.\r\n"
-                 "Questions and reports of faults: at the place where you got the program.",
+        {.Text = "Questions, wishes and reports of faults:\r\n" DORVAN_CONTACT "\r\n" DORVAN_HOME_PAGE,
          .Icon = MessageIcon::Information,
          .Title = "Contact"});
 }
