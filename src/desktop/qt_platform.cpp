@@ -1,6 +1,7 @@
 #include "desktop/qt_platform.h"
 
 #include "desktop/qt_text.h"
+#include "platform/twips.h"
 #include "session/children.h"
 
 #include <QApplication>
@@ -24,7 +25,6 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr qint64 MillisecondsBetweenRuns = 8;
 constexpr QSize FileDialogSize(760, 480);
 
@@ -211,7 +211,8 @@ ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
 
 void QtChildren::show(ChildWindow& window) {
     ChildFace* face = FaceOf(window);
-    if (!face) {
+    const bool isNew = !face;
+    if (isNew) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
@@ -221,6 +222,8 @@ void QtChildren::show(ChildWindow& window) {
     }
     face->Mirror();
     area_->setActiveSubWindow(face);
+    // In front of a maximized window the toolkit maximizes it as well.
+    if (isNew) face->MirrorMode();
 }
 
 void QtChildren::update(ChildWindow& window) {
