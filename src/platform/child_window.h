@@ -35,10 +35,6 @@ public:
 
     // A command is about to run, or another window comes to the front: a field that has the focus loses it.
     virtual void LeaveField() {}
-
-    // Shows the document of the window's slot (a matrix or diagram record, or for a sheet the working arrays)
-    // with its description.
-    virtual void Present(const std::string& description) = 0;
 };
 
 } // namespace dorvan
