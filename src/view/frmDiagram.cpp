@@ -135,7 +135,7 @@ void frmDiagram::Form_Unload() {
     SwitchCommands(session_.mainWindow, DocumentKind::Diagram, WindowEvent::Unloaded);
 }
 
-void frmDiagram::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
+void frmDiagram::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
 bool frmDiagram::IsBusy() {
     if (session_.DiagramBusy != 1) return false;
