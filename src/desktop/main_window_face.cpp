@@ -128,7 +128,7 @@ QString MainWindowFace::Title() const {
     const QString caption = ToQt(session_.mainWindow.Caption);
     const ChildWindow* active = session_.ActiveWindow;
     if (!active || active->Mode != WindowMode::Maximized) return caption;
-    return caption + " - " + ToQt(active->Caption);
+    return caption + " - [" + ToQt(active->Caption) + "]"; // as the toolkit writes it
 }
 
 void MainWindowFace::Mirror() {

@@ -95,7 +95,7 @@ TEST_F(ArrangementTest, TheMainWindowsTitleNamesAMaximizedWindow) {
     EXPECT_EQ(FromQt(desktop.mainWindow->windowTitle()), "Dorvan 3.3.44");
     Area().currentSubWindow()->showMaximized();
     QApplication::processEvents();
-    EXPECT_EQ(FromQt(desktop.mainWindow->windowTitle()), "Dorvan 3.3.44 - [DATA]: Untitled:1");
+    EXPECT_EQ(FromQt(desktop.mainWindow->windowTitle()), "Dorvan 3.3.44 - [[DATA]: Untitled:1]");
     Area().currentSubWindow()->showNormal();
     QApplication::processEvents();
     EXPECT_EQ(FromQt(desktop.mainWindow->windowTitle()), "Dorvan 3.3.44");

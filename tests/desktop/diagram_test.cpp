@@ -1,4 +1,5 @@
 #include "desktop_test.h"
+#include "platform/twips.h"
 
 #include "desktop/qt_text.h"
 
@@ -47,7 +48,7 @@ TEST_F(DiagramTest, TheGridFillsTheWindowUnderTheDescription) {
         EXPECT_EQ(ActiveGrid().geometry(),
                   QRect(0, panel.height(), content.width(), content.height() - panel.height()));
         EXPECT_GT(field.x(), label.geometry().right());
-        EXPECT_LE(content.width() - field.geometry().right(), 100 / 15) << "twips";
+        EXPECT_EQ(content.width() - field.geometry().right() - 1, PixelsOf(100));
     }
 }
 

@@ -33,7 +33,7 @@ check_toolkit() {
     case $room in
     desktop) ;;
     painting)
-        ! grep -rnE '#include <(Q[A-Za-z]*(Widget|Window|Dialog|Layout)\b|QtWidgets)' "src/$room" >&2 ||
+        ! grep -rnE '#include <(Q[A-Za-z]*(Widget|Window|Dialog|BoxLayout|GridLayout|FormLayout)\b|QtWidgets)' "src/$room" >&2 ||
             complain "src/$room knows widgets" ;;
     *)
         ! grep -rnE '#include <Q[A-Z]' --include='*.h' --include='*.cpp' "src/$room" >&2 ||
