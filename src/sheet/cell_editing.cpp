@@ -172,6 +172,7 @@ void frmNotePad::EditCell_LostFocus() {
     Editing = false;
     if (!EditCell.Text.empty()) CommitCell(key::None);
     EditPanel.Visible = false;
+    if (ActiveControl == &EditCell) SetFocus(Grid1); // no other control of this window has taken it
 }
 
 // A commit lets events run: the window may close then, and another one get its slot.
@@ -180,9 +181,7 @@ std::shared_ptr<ChildWindow> frmNotePad::OwnReference() const {
 }
 
 void frmNotePad::LeaveField() {
-    if (!Editing) return;
-    SetFocus(Grid1);
-    EditCell_LostFocus();
+    if (Editing) EditCell_LostFocus();
 }
 
 void frmNotePad::CommitCell(int key) {

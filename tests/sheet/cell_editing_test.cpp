@@ -626,6 +626,16 @@ TEST(LossOfFocus, ByACommandGivesTheGridTheFocusAndCommits) {
     EXPECT_EQ(test.window.ActiveControl, &test.grid);
 }
 
+TEST(LossOfFocus, ToAnotherWindowLeavesTheGridToHaveItOnTheWayBack) {
+    for (const bool emptied : {false, true}) {
+        EditTest test;
+        test.KeyDown(key::F2);
+        if (emptied) test.SetField("");
+        test.window.EditCell_LostFocus();
+        EXPECT_EQ(test.window.ActiveControl, &test.grid);
+    }
+}
+
 TEST(LossOfFocus, ByACommandWithoutAnEditChangesNothing) {
     EditTest test;
     test.window.SetFocus(test.window.OpisText);
