@@ -28,6 +28,11 @@ bool StoreParameter(const TextBox& field, char decimalSeparator, std::int16_t& p
 frmCustomized::frmCustomized(Session& session)
     : Form("frmCustomized", "Customized distance"), session_(session) {}
 
+void frmCustomized::Enter(const MeasureOptions& options) {
+    if (!options.P.empty()) Text1.Text = options.P;
+    if (!options.R.empty()) Text2.Text = options.R;
+}
+
 void frmCustomized::Text1_KeyPress(int& keyAscii) { FilterKey(Text1, keyAscii); }
 void frmCustomized::Text2_KeyPress(int& keyAscii) { FilterKey(Text2, keyAscii); }
 

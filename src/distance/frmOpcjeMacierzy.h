@@ -1,5 +1,6 @@
 #pragma once
 
+#include "distance/measure_options.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -20,7 +21,8 @@ public:
 
     void Form_Load() override;
     void Form_Show() override { Form_Load(); } // always opens on the first kind and measure
-    void cboData_Click();                      // after a change of its selection
+    void Enter(const MeasureOptions& options);
+    void cboData_Click(); // after a change of its selection
     void Command1_Click();
     void Command2_Click();
     void CancelCommand() override { Command1_Click(); }

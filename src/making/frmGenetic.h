@@ -1,7 +1,11 @@
 #pragma once
 
+#include "making/diagram_options.h"
 #include "platform/form.h"
 #include "session/session.h"
+
+#include <string>
+#include <vector>
 
 namespace dorvan {
 
@@ -21,7 +25,12 @@ public:
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
 
+    // The items of the two lists.
+    static const std::vector<std::string>& Generations();
+    static const std::vector<std::string>& Variants();
+
     void Form_Load() override;
+    void Enter(const GeneticOptions& options);
     void Command1_Click();
     void Command2_Click();
     void CancelCommand() override { Command2_Click(); }

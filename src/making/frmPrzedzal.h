@@ -1,5 +1,6 @@
 #pragma once
 
+#include "making/diagram_options.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -50,6 +51,8 @@ public:
     void Form_Load() override;
     // Without Frame1 (when it is not Visible) all that stands below it moves up by its room.
     void Form_Show() override;
+
+    void Enter(const DiagramOptions& options);
 
     void cboData_Click(); // after a change of its selection
     void chkAuto_Click(); // after a change of its tick
