@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/drawing.h"
+
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -73,6 +76,24 @@ struct ListBox : Control {
 // A drop-down list.
 struct ComboBox : ListBox {
     using ListBox::ListBox;
+};
+
+// A white area that shows a drawing at its upper left corner.
+class Picture : public Control {
+public:
+    using Control::Control;
+
+    const Drawing& Shown() const { return shown_; }
+    void Show(Drawing drawing) {
+        shown_ = std::move(drawing);
+        ++revision_;
+    }
+    // Grows with every change: a face that has painted a revision need not paint it again.
+    std::uint64_t Revision() const { return revision_; }
+
+private:
+    Drawing shown_;
+    std::uint64_t revision_ = 0;
 };
 
 } // namespace dorvan
