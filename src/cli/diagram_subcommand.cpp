@@ -10,7 +10,7 @@ namespace {
 struct Given {
     std::string input;
     std::string out;
-    DiagramOptions diagram;
+    DiagramChoices diagram;
     Surroundings surroundings;
 };
 

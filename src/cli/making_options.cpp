@@ -50,7 +50,7 @@ void AddNumbered(Options& options, const char* name, std::optional<std::int16_t>
 
 } // namespace
 
-void AddMeasure(Options& options, MeasureOptions& measure) {
+void AddMeasure(Options& options, MeasureChoices& measure) {
     const auto take = [&measure](const std::string& text) {
         measure.Measure = MeasureNumber(text);
         return measure.Measure ? std::string() : "no such measure: " + text;
@@ -62,14 +62,14 @@ void AddMeasure(Options& options, MeasureOptions& measure) {
     options.Text("-r", measure.R, "root of the customized measure (2)");
 }
 
-void AddDiagram(Options& options, DiagramOptions& diagram) {
+void AddDiagram(Options& options, DiagramChoices& diagram) {
     AddNumbered(options, "--order", diagram.OrderMethod, {"none", "simple", "genetic", "ravelin"},
                 "none, simple, genetic or ravelin (none)");
     AddNumbered(options, "--type", diagram.DiagType, {"greyscale", "dots", "classic"},
                 "greyscale, dots or classic (dots)");
 }
 
-void AddSearches(Options& options, DiagramOptions& diagram) {
+void AddSearches(Options& options, DiagramChoices& diagram) {
     options.Under("Simple genetic algorithm");
     options.OneOf("--generations", diagram.Genetic.Generations, frmGenetic::Generations(),
                   "number of generations (250)");
@@ -87,7 +87,7 @@ void AddSearches(Options& options, DiagramOptions& diagram) {
     options.Under("");
 }
 
-void AnswerMeasure(CliPlatform& ports, const MeasureOptions& measure) {
+void AnswerMeasure(CliPlatform& ports, const MeasureChoices& measure) {
     ports.OnDialog<frmOpcjeMacierzy>([&measure](frmOpcjeMacierzy& form) {
         form.Enter(measure);
         form.Command2_Click();
@@ -98,7 +98,7 @@ void AnswerMeasure(CliPlatform& ports, const MeasureOptions& measure) {
     });
 }
 
-void AnswerDiagram(CliPlatform& ports, const DiagramOptions& diagram) {
+void AnswerDiagram(CliPlatform& ports, const DiagramChoices& diagram) {
     AnswerMeasure(ports, diagram.Measure);
     ports.OnDialog<frmPrzedzal>([&diagram](frmPrzedzal& form) {
         form.Enter(diagram);

@@ -10,7 +10,7 @@ namespace {
 struct Given {
     std::string sheet;
     std::string out;
-    MeasureOptions measure;
+    MeasureChoices measure;
     Surroundings surroundings;
 };
 

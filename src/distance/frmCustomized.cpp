@@ -28,7 +28,7 @@ bool StoreParameter(const TextBox& field, char decimalSeparator, std::int16_t& p
 frmCustomized::frmCustomized(Session& session)
     : Form("frmCustomized", "Customized distance"), session_(session) {}
 
-void frmCustomized::Enter(const MeasureOptions& options) {
+void frmCustomized::Enter(const MeasureChoices& options) {
     if (!options.P.empty()) Text1.Text = options.P;
     if (!options.R.empty()) Text2.Text = options.R;
 }

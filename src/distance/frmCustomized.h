@@ -1,6 +1,6 @@
 #pragma once
 
-#include "distance/measure_options.h"
+#include "distance/measure_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -18,7 +18,7 @@ public:
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
 
-    void Enter(const MeasureOptions& options);
+    void Enter(const MeasureChoices& options);
     void Text1_KeyPress(int& keyAscii);
     void Text2_KeyPress(int& keyAscii);
     void Command1_Click();

@@ -15,7 +15,7 @@ void frmOpcjeMacierzy::Form_Load() {
     cboData_Click();
 }
 
-void frmOpcjeMacierzy::Enter(const MeasureOptions& options) {
+void frmOpcjeMacierzy::Enter(const MeasureChoices& options) {
     if (options.Measure) SelectMeasure(*options.Measure, cboData, Combo1);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "distance/measure_options.h"
+#include "distance/measure_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -21,7 +21,7 @@ public:
 
     void Form_Load() override;
     void Form_Show() override { Form_Load(); } // always opens on the first kind and measure
-    void Enter(const MeasureOptions& options);
+    void Enter(const MeasureChoices& options);
     void cboData_Click(); // after a change of its selection
     void Command1_Click();
     void Command2_Click();

@@ -38,7 +38,7 @@ void frmGenetic::Form_Load() {
     cboVar.ListIndex = 2;
 }
 
-void frmGenetic::Enter(const GeneticOptions& options) {
+void frmGenetic::Enter(const GeneticChoices& options) {
     Select(cboGen, options.Generations);
     Select(cboVar, options.Variants);
 }

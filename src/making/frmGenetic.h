@@ -1,6 +1,6 @@
 #pragma once
 
-#include "making/diagram_options.h"
+#include "making/diagram_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -30,7 +30,7 @@ public:
     static const std::vector<std::string>& Variants();
 
     void Form_Load() override;
-    void Enter(const GeneticOptions& options);
+    void Enter(const GeneticChoices& options);
     void Command1_Click();
     void Command2_Click();
     void CancelCommand() override { Command2_Click(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "making/diagram_options.h"
+#include "making/diagram_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 

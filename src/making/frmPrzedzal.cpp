@@ -55,7 +55,7 @@ void frmPrzedzal::Form_Show() {
     Option9.Enabled = session_.orderingMethods.contains(4);
 }
 
-void frmPrzedzal::Enter(const DiagramOptions& options) {
+void frmPrzedzal::Enter(const DiagramChoices& options) {
     if (options.Measure.Measure) SelectMeasure(*options.Measure.Measure, cboData, Combo1);
     if (options.DiagType) Choose(TypeOptions(), *TypeOptions().at(std::size_t(*options.DiagType - 1)));
     if (options.OrderMethod)

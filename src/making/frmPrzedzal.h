@@ -1,6 +1,6 @@
 #pragma once
 
-#include "making/diagram_options.h"
+#include "making/diagram_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -52,7 +52,7 @@ public:
     // Without Frame1 (when it is not Visible) all that stands below it moves up by its room.
     void Form_Show() override;
 
-    void Enter(const DiagramOptions& options);
+    void Enter(const DiagramChoices& options);
 
     void cboData_Click(); // after a change of its selection
     void chkAuto_Click(); // after a change of its tick

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "distance/measure_options.h"
+#include "distance/measure_choices.h"
 
 #include <cstdint>
 #include <map>
@@ -10,7 +10,7 @@
 namespace dorvan {
 
 // The size of a run of the simple genetic ordering: items of the dialog's lists.
-struct GeneticOptions {
+struct GeneticChoices {
     std::string Generations = {};
     std::string Variants = {};
 };
@@ -33,11 +33,11 @@ enum class RavelinParameter {
 
 // What a user says about a diagram to be made: in the dialogs, or on the command line. What is not said stays
 // as the dialogs have it.
-struct DiagramOptions {
-    MeasureOptions Measure = {};
+struct DiagramChoices {
+    MeasureChoices Measure = {};
     std::optional<std::int16_t> DiagType = {};            // 1 greyscale, 2 dots, 3 classic
     std::optional<std::int16_t> OrderMethod = {};         // 1 none, 2 simple, 3 simple genetic, 4 Ravelin
-    GeneticOptions Genetic = {};                          // of method 3
+    GeneticChoices Genetic = {};                          // of method 3
     std::map<RavelinParameter, std::string> Ravelin = {}; // of method 4, as typed
 };
 
