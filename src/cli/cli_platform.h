@@ -32,6 +32,7 @@ class CliPlatform : public MessageBoxes,
                     public SettingsStore,
                     public HelpViewer {
 public:
+    bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
@@ -41,7 +42,17 @@ public:
         };
     }
 
-    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+    Platform platform{.messages = *this,
+                      .files = *this,
+                      .forms = *this,
+                      .children = *this,
+                      .signals = *this,
+                      .events = *this,
+                      .keyboard = *this,
+                      .screen = *this,
+                      .clock = *this,
+                      .settings = *this,
+                      .help = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return {}; }

@@ -36,6 +36,7 @@ Subcommand ConvertSubcommand() {
     Options options;
     options.Argument("IN", given->in, "document (.mdt, .mtx or .dgr)");
     options.Argument("OUT", given->out, "document of the same kind");
+    AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "convert",
             .Help = "Read a document of any age and write the current format",

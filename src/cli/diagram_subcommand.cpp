@@ -45,6 +45,7 @@ Subcommand DiagramSubcommand() {
     AddDiagram(options, given->diagram);
     AddSeed(options, given->surroundings);
     AddSearches(options, given->diagram);
+    AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "diagram",
             .Help = "Make a diagram from a data sheet or a matrix (3 to 250 records)",

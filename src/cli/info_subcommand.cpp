@@ -28,6 +28,7 @@ Subcommand InfoSubcommand() {
     const auto given = std::make_shared<Given>();
     Options options;
     options.Argument("FILE", given->file, "document (.mdt, .mtx or .dgr)");
+    AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "info",
             .Help = "Tell what a document holds, one `key: value` a line",

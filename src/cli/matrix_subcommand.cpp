@@ -32,6 +32,7 @@ Subcommand MatrixSubcommand() {
     options.Argument("SHEET", given->sheet, "data sheet (.mdt)");
     options.Argument("OUT", given->out, "matrix to write (.mtx)");
     AddMeasure(options, given->measure);
+    AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "matrix",
             .Help = "Make a matrix of distances from a data sheet (2 to 150 records)",

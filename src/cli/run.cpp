@@ -20,6 +20,10 @@ void AddSeed(Options& options, Surroundings& surroundings) {
     options.Number("--seed", surroundings.Seed, "seed of the random numbers (from the clock)");
 }
 
+void AddYes(Options& options, Surroundings& surroundings) {
+    options.Flag("-y,--yes", surroundings.Yes, "open a sheet with empty fields, as empty cells (refused)");
+}
+
 void AddCodePage(Options& options, Surroundings& surroundings) {
     const auto take = [&surroundings](const std::string& text) -> std::string {
         int number = 0;
@@ -34,14 +38,21 @@ void AddCodePage(Options& options, Surroundings& surroundings) {
 }
 
 Run::Run(const Surroundings& surroundings) {
+    ports.answersYes = surroundings.Yes;
     Compose(session);
     const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
     mainWindow.Form_Load(surroundings.Seed.value_or(clock), ".");
-    session.codePage = CodePage(surroundings.CodePage.value_or(SystemCodePage()));
+    if (surroundings.CodePage) session.codePage = CodePage(*surroundings.CodePage);
 }
 
 std::string_view Run::Kind() const {
     return session.ActiveWindow ? std::string_view(session.ActiveWindow->TypeOfForm) : DocumentKind::Main;
+}
+
+void Run::TellRemarks(bool withLast) const {
+    const std::size_t count = ports.messages.size();
+    for (std::size_t place = 0; place + (withLast ? 0 : 1) < count; ++place)
+        fmt::print(stderr, "dorvan-cli: {}\n", ports.messages[place]);
 }
 
 Refusal Run::Refused(const std::string& what) const {
@@ -53,7 +64,9 @@ void Run::Open(const std::string& path, std::initializer_list<std::string_view> 
     if (!kind.empty() && std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
         throw Refusal(fmt::format("a file of the kind {} is of no use here", kind));
     OpenDocument(session, path);
-    if (Kind() != kind) throw Refused("the file could not be read");
+    const bool opened = !kind.empty() && Kind() == kind;
+    TellRemarks(opened);
+    if (!opened) throw Refused("the file could not be read");
 }
 
 void Run::Make(const std::string& button, std::string_view kind, const std::string& otherwise) {

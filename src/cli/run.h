@@ -23,6 +23,7 @@ struct Surroundings {
 };
 
 void AddSeed(Options& options, Surroundings& surroundings);
+void AddYes(Options& options, Surroundings& surroundings);
 void AddCodePage(Options& options, Surroundings& surroundings);
 
 // A failure whose text names its file itself.
@@ -50,6 +51,9 @@ struct Run {
 
     // Saves the active document under the path.
     void Save(const std::string& path);
+
+    // What the program said so far, but for a refusal at the end.
+    void TellRemarks(bool withLast) const;
 
     // What the program said last, or `what` when it said nothing.
     Refusal Refused(const std::string& what) const;

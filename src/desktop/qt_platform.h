@@ -156,8 +156,17 @@ struct QtPlatform {
     QtClock clock;
     QtSettings settings;
     QtHelp help;
-    Platform platform{messages, files,  forms, children, signals, events,
-                      keyboard, screen, clock, settings, help};
+    Platform platform{.messages = messages,
+                      .files = files,
+                      .forms = forms,
+                      .children = children,
+                      .signals = signals,
+                      .events = events,
+                      .keyboard = keyboard,
+                      .screen = screen,
+                      .clock = clock,
+                      .settings = settings,
+                      .help = help};
 };
 
 } // namespace dorvan

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "distance/measure_choices.h"
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 namespace dorvan {
 
 // The dialog of the customized measure d(x, y) = (sum |x - y|^p)^(1/r): its exponent p and root r.
-class frmCustomized : public Form {
+class frmCustomized : public Dialog {
 public:
     explicit frmCustomized(Session& session);
 
@@ -19,17 +18,14 @@ public:
     CommandButton Command2{"Command2", "Cancel"};
 
     void Enter(const MeasureChoices& options);
-    void Text1_KeyPress(int& keyAscii);
-    void Text2_KeyPress(int& keyAscii);
+    void Text1_KeyPress(int& keyAscii) { FilterKey(Text1, keyAscii); }
+    void Text2_KeyPress(int& keyAscii) { FilterKey(Text2, keyAscii); }
     void Command1_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
 
 private:
     void FilterKey(const TextBox& field, int& keyAscii);
-    void LeaveField();
-
-    Session& session_;
 };
 
 } // namespace dorvan

@@ -18,8 +18,7 @@ void Select(ComboBox& list, const std::string& item) {
 
 } // namespace
 
-frmGenetic::frmGenetic(Session& session)
-    : Form("frmGenetic", "Simple genetic algorithm"), session_(session) {}
+frmGenetic::frmGenetic(Session& session) : Dialog("frmGenetic", "Simple genetic algorithm", session) {}
 
 const std::vector<std::string>& frmGenetic::Generations() {
     static const std::vector<std::string> items{"2000", "1500", "1000", "750", "500", "250", "100"};
@@ -46,13 +45,7 @@ void frmGenetic::Enter(const GeneticChoices& options) {
 void frmGenetic::Command1_Click() {
     session_.ordering.GeneticGenerations = Selected(cboGen);
     session_.ordering.GeneticVariants = Selected(cboVar);
-    session_.DialogOutcome = 1;
-    Hide();
-}
-
-void frmGenetic::Command2_Click() {
-    session_.DialogOutcome = -99;
-    Hide();
+    Close(DialogResult::Accepted);
 }
 
 } // namespace dorvan

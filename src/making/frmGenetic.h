@@ -1,8 +1,7 @@
 #pragma once
 
 #include "making/diagram_choices.h"
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 #include <string>
 #include <vector>
@@ -10,7 +9,7 @@
 namespace dorvan {
 
 // The dialog of the simple genetic ordering: the size of the run.
-class frmGenetic : public Form {
+class frmGenetic : public Dialog {
 public:
     explicit frmGenetic(Session& session);
 
@@ -32,11 +31,8 @@ public:
     void Form_Load() override;
     void Enter(const GeneticChoices& options);
     void Command1_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
-
-private:
-    Session& session_;
 };
 
 } // namespace dorvan

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "making/diagram_choices.h"
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 #include <array>
 #include <cstddef>
@@ -14,7 +13,7 @@ namespace dorvan {
 
 // The dialog of the Ravelin ordering: the weights of its eight operators, its two critical numbers and the
 // coefficient by which distances become bytes.
-class frmGeneticUM : public Form {
+class frmGeneticUM : public Dialog {
 public:
     explicit frmGeneticUM(Session& session);
 
@@ -60,13 +59,11 @@ public:
     void Text_KeyPress(const TextBox& field, int& keyAscii);
 
     void Command1_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
 
 private:
     bool Store(const Row& row);
-
-    Session& session_;
 };
 
 } // namespace dorvan
