@@ -37,7 +37,8 @@ TEST(Options, ANumberIsWholeInItsRangeAndFits) {
     const auto& takeSeed = OptionNamed(options, "--seed").Take;
     EXPECT_EQ(OptionNamed(options, "--seed").Type, "UINT");
     EXPECT_EQ(OptionNamed(options, "--page").Type, "INT");
-    for (const auto* wrong : {"", "x", "1x", "1.5", "-1", "65536", " 1"}) EXPECT_NE(takeSeed(wrong), "") << wrong;
+    for (const auto* wrong : {"", "x", "1x", "1.5", "-1", "65536", " 1"})
+        EXPECT_NE(takeSeed(wrong), "") << wrong;
     EXPECT_FALSE(seed);
     EXPECT_EQ(takeSeed("65535"), "");
     EXPECT_EQ(seed, 65535);
