@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/drawn_text.h"
 #include "platform/platform.h"
 
 #include <functional>
@@ -34,6 +35,7 @@ class CliPlatform : public MessageBoxes,
 public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
+    DrawnText text;
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
     template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {

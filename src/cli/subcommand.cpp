@@ -36,6 +36,19 @@ void Options::OneOf(std::string name, std::vector<std::string> choices,
     all_.back().OneOf = std::move(choices);
 }
 
+void Options::Decimal(std::string name, double& number, double least, double most, std::string help) {
+    const auto take = [&number, least, most](const std::string& text) -> std::string {
+        double value = 0;
+        const char* end = text.data() + text.size();
+        const auto [stop, error] = std::from_chars(text.data(), end, value);
+        if (error != std::errc() || stop != end) return "no number: " + text;
+        if (!(value >= least && value <= most)) return "out of range: " + text;
+        number = value;
+        return {};
+    };
+    Checked(std::move(name), "FLOAT", take, std::move(help));
+}
+
 void Options::Flag(std::string name, bool& given, std::string help) {
     const auto take = [&given](const std::string&) {
         given = true;

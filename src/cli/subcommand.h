@@ -37,6 +37,9 @@ public:
     void OneOf(std::string name, std::vector<std::string> choices,
                std::function<void(const std::string&)> take, std::string help);
 
+    // With a point, from `least` to `most`.
+    void Decimal(std::string name, double& number, double least, double most, std::string help);
+
     template <class Integer>
     void Number(std::string name, std::optional<Integer>& number, std::string help,
                 std::function<bool(Integer)> fits = {}) {

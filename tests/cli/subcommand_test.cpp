@@ -48,6 +48,22 @@ TEST(Options, ANumberIsWholeInItsRangeAndFits) {
     EXPECT_EQ(page, 6);
 }
 
+TEST(Options, ADecimalHasAPointAndStaysInItsRange) {
+    double scale = 1;
+    Options options;
+    options.Decimal("--scale", scale, 0.5, 16, "a factor");
+    const auto& take = options.All().front().Take;
+    EXPECT_EQ(options.All().front().Type, "FLOAT");
+    for (const auto* wrong : {"", "x", "1,5", "1.5x", "0.49", "16.1", "nan"})
+        EXPECT_NE(take(wrong), "") << wrong;
+    EXPECT_EQ(scale, 1);
+    const std::pair<const char*, double> right[] = {{"0.5", 0.5}, {"16", 16}, {"1.25", 1.25}};
+    for (const auto& [text, value] : right) {
+        EXPECT_EQ(take(text), "");
+        EXPECT_EQ(scale, value);
+    }
+}
+
 TEST(Options, AFlagHasNoTextAndIsSetByBeingThere) {
     bool yes = false;
     Options options;
