@@ -35,14 +35,17 @@ TableOfRecords TextTable::Read(char decimalSeparator) const {
     const auto variables = static_cast<std::int32_t>(Variables());
     TableOfRecords table{Names(records), Names(variables), FloatTable(records, variables)};
     LineCursor lines(text_);
-    const std::int64_t wanted = fields_;
+    const auto nextLine = [&] {
+        const std::string_view line = lines.Next();
+        return FieldCursor(line, form_.Separator, lines.LineNumber(), fields_);
+    };
     if (form_.FirstRowNames) {
-        FieldCursor fields(lines.Next(), form_.Separator, lines.LineNumber(), wanted);
+        FieldCursor fields = nextLine();
         if (form_.FirstColumnNames) fields.Next(); // the corner
         for (auto& name : table.VariableNames.Cells()) name = fields.Next();
     }
     for (std::int32_t record = 1; record <= records; ++record) {
-        FieldCursor fields(lines.Next(), form_.Separator, lines.LineNumber(), wanted);
+        FieldCursor fields = nextLine();
         if (form_.FirstColumnNames) table.RecordNames(record) = fields.Next();
         float* row = table.Values.Row(record);
         for (std::int32_t j = 0; j < variables; ++j) row[j] = fields.NextNumber(decimalSeparator);
