@@ -2,6 +2,7 @@
 
 #include "desktop/event_dispatch.h"
 #include "platform/form.h"
+#include "platform/multi_list_box.h"
 
 #include <QObject>
 

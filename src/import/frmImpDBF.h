@@ -3,6 +3,7 @@
 #include "import/import_dialog.h"
 #include "import/modDBF.h"
 #include "import/reading_dbase.h"
+#include "platform/multi_list_box.h"
 
 #include <cstdint>
 

@@ -30,8 +30,7 @@ bool RefusesSize(Session& session, const TextTable& table) {
     return refusal;
 }
 
-std::optional<TableOfRecords> ReadTable(Session& session, const std::string& path,
-                                        const TextTableForm& form,
+std::optional<TableOfRecords> ReadTable(Session& session, const std::string& path, const TextTableForm& form,
                                         const TextCodes& codes) {
     std::optional<TableOfRecords> table;
     ReadsWithoutFault(session, path, Wait::No, [&] {

@@ -11,8 +11,7 @@ void TakeVariableNames(Session& session) {
     const frmNotePad& sheet = ActiveDataWindow(session);
     session.VariableNames = Names(sheet.VariableCount());
     for (int variable = 1; variable <= sheet.VariableCount(); ++variable)
-        session.VariableNames(variable) =
-            TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
+        session.VariableNames(variable) = TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
 }
 
 void ShowVariableNames(const Session& session, ListBox& list, int selected) {

@@ -7,8 +7,8 @@
 #include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/frmStandard.h"
-#include "sheet/standardizing.h"
 #include "sheet/sheet_structure.h"
+#include "sheet/standardizing.h"
 
 #include <fmt/format.h>
 

@@ -176,10 +176,11 @@ TEST_F(ImportingText, BytesOfTheCodePageAndUtf8ReadAlike) {
     session.codePage = CodePage(1250);
     import(file("page.csv", CodePage(1250).fromUtf8(Towns)));
     import(file("utf8.csv", Towns));
-    import(file("forced.csv", Towns), [](frmImportText& dialog) { dialog.CodePageForced = true; });
-    EXPECT_EQ(sheet(1).Grid1.Text(1, 1), "Łódź");
-    EXPECT_EQ(sheet(2).Grid1.Text(1, 1), "Łódź");
-    EXPECT_EQ(sheet(3).Grid1.Text(1, 1), CodePage(1250).toUtf8("Łódź"));
+    import(file("forced.csv", Towns), [](frmImportText& dialog) { dialog.CodePageForced = true;
+});
+EXPECT_EQ(sheet(1).Grid1.Text(1, 1), "Łódź");
+EXPECT_EQ(sheet(2).Grid1.Text(1, 1), "Łódź");
+EXPECT_EQ(sheet(3).Grid1.Text(1, 1), CodePage(1250).toUtf8("Łódź"));
 }
 
 TEST_F(ImportingText, AtMostAHundredVariables) {
