@@ -2,6 +2,7 @@
 #include "import/frmImpDBF.h"
 #include "import/import_commands.h"
 #include "import/import_session.h"
+#include "numbers/text.h"
 #include "platform/keys.h"
 
 #include <fmt/format.h>
@@ -83,7 +84,7 @@ TEST_F(ImportingDBase, TheDialogOpensEmpty) {
 TEST_F(ImportingDBase, BrowseAsksForATableAndShowsIt) {
     const std::string path = table(Counties());
     browse(path, [&](frmImpDBF& dialog) {
-        EXPECT_EQ(dialog.Label1.Caption, folder.path() + "/table.dbf");
+        EXPECT_EQ(dialog.Label1.Caption, LowerCase(folder.path()) + "/table.dbf");
         EXPECT_EQ(dialog.lblDate.Caption, "07.03.2004");
         EXPECT_EQ(dialog.lblRec.Caption, "3");
         EXPECT_EQ(dialog.AList.List, (Texts{"AREA", "BIRTHS"}));
@@ -103,19 +104,21 @@ TEST_F(ImportingDBase, BrowseAsksForATableAndShowsIt) {
 }
 
 TEST_F(ImportingDBase, ACancelledBrowseLeavesTheDialogButForgetsThePath) {
-    const std::string path = table(Counties());
-    files.paths.push_back(path);
-    browse("", [&](frmImpDBF& dialog) {
-        EXPECT_EQ(dialog.Label1.Caption, "");
-        dialog.cmdBrowse_Click();
+    browse(table(Counties()), [&](frmImpDBF& dialog) {
         files.paths.push_back("");
         dialog.cmdBrowse_Click();
         EXPECT_EQ(dialog.AList.List.size(), 2u);
         EXPECT_FALSE(dialog.Label1.Caption.empty());
         EXPECT_EQ(dialog.Table.DBPath, "");
+        dialog.AList.SelectAll();
+        dialog.cmdCopyToRight_Click();
+        dialog.cmdOK_Click();
+        EXPECT_TRUE(dialog.Visible);
+        EXPECT_EQ(messages.shown, std::vector<Message>{criticalMessage(
+                                      "The file cannot be read: No such file or directory. File: ")});
         CancelDialog(dialog);
     });
-    std::swap(files.requests[0], files.requests[1]);
+    expectNothingChanged();
 }
 
 TEST_F(ImportingDBase, DatesArePaddedToTwoDigits) {
@@ -148,7 +151,7 @@ TEST_F(ImportingDBase, AnErrorIsToldByItsNumberAndTheListsStay) {
             EXPECT_EQ(messages.shown, std::vector<Message>{Message{.Text = text}});
             EXPECT_EQ(dialog.Table.DBStatus, 0);
             EXPECT_EQ(dialog.AList.List.size(), 2u);
-            EXPECT_EQ(dialog.Label1.Caption, folder.path() + "/table.dbf");
+            EXPECT_EQ(dialog.Label1.Caption, LowerCase(folder.path()) + "/table.dbf");
         }
         CancelDialog(dialog);
     });
