@@ -36,6 +36,7 @@ public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
     DrawnText text;
+    std::string fileToOpen; // what the dialog for opening answers
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
     template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {
@@ -57,7 +58,7 @@ public:
                       .help = *this};
 
     Answer show(const Message& message) override;
-    std::string toOpen(const FileRequest&) override { return {}; }
+    std::string toOpen(const FileRequest&) override { return fileToOpen; }
     std::string toSave(const FileRequest&) override { return {}; }
     void showModal(Form& form) override;
     void show(Form& form) override;

@@ -4,7 +4,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <clocale>
 #include <cstdio>
 
@@ -37,13 +36,17 @@ void AddSubcommand(CLI::App& program, const Subcommand& subcommand) {
     auto* command = program.add_subcommand(subcommand.Name, subcommand.Help);
     for (const auto& option : subcommand.Takes.All()) AddOption(*command, option);
     command->footer(subcommand.Footer);
+    if (!subcommand.Inner.empty()) command->require_subcommand(1);
+    for (const auto& inner : subcommand.Inner) AddSubcommand(*command, inner);
 }
 
 int RunChosen(const CLI::App& program, const std::vector<Subcommand>& subcommands) {
-    const auto chosen =
-        std::find_if(subcommands.begin(), subcommands.end(),
-                     [&](const Subcommand& subcommand) { return program.got_subcommand(subcommand.Name); });
-    return chosen == subcommands.end() ? WrongUsage : chosen->Run();
+    for (const auto& subcommand : subcommands) {
+        if (!program.got_subcommand(subcommand.Name)) continue;
+        if (subcommand.Inner.empty()) return subcommand.Run();
+        return RunChosen(*program.get_subcommand(subcommand.Name), subcommand.Inner);
+    }
+    return WrongUsage;
 }
 
 int RunProgram(int argumentCount, char** arguments) {

@@ -47,13 +47,15 @@ public:
         Line("{}", Plain(option.Help));
     }
 
-    void Describe(const Subcommand& subcommand) {
-        Line(".SS dorvan\\-cli {}", Plain(subcommand.Name));
+    void Describe(const Subcommand& subcommand, const std::string& group = {}) {
+        const std::string name = group + subcommand.Name;
+        Line(".SS dorvan\\-cli {}", Plain(name));
         Line("{}.", Plain(subcommand.Help));
         for (const bool arguments : {true, false})
             for (const auto& option : subcommand.Takes.All())
                 if (option.IsArgument() == arguments) Describe(option);
         Verbatim(subcommand.Footer);
+        for (const auto& inner : subcommand.Inner) Describe(inner, name + " ");
     }
 
     std::string Text() && { return std::move(text_); }

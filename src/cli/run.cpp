@@ -55,6 +55,11 @@ void Run::TellRemarks(bool withLast) const {
         fmt::print(stderr, "dorvan-cli: {}\n", ports.messages[place]);
 }
 
+void Run::TellFrom(std::size_t place) const {
+    for (; place < ports.messages.size(); ++place)
+        fmt::print(stderr, "dorvan-cli: {}\n", ports.messages[place]);
+}
+
 Refusal Run::Refused(const std::string& what) const {
     return Refusal(ports.messages.empty() ? what : ports.messages.back());
 }

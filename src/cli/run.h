@@ -5,6 +5,7 @@
 #include "session/frmMDI.h"
 #include "session/session.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -54,6 +55,9 @@ struct Run {
 
     // What the program said so far, but for a refusal at the end.
     void TellRemarks(bool withLast) const;
+
+    // What it said since there were that many messages, a message a line.
+    void TellFrom(std::size_t place) const;
 
     // What the program said last, or `what` when it said nothing.
     Refusal Refused(const std::string& what) const;

@@ -74,10 +74,11 @@ private:
 struct Subcommand {
     std::string Name;
     std::string Help;
-    Options Takes;
+    Options Takes = {};
     std::string Footer = {}; // examples
     // The exit status: 0 done, 1 refused or failed with a line on standard error, 2 for wrong usage.
     std::function<int()> Run = {};
+    std::vector<Subcommand> Inner = {}; // of a group, of which one has to be named; it has no more than these
 };
 
 } // namespace dorvan::cli

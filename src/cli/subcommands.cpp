@@ -8,6 +8,8 @@ Subcommand DiagramSubcommand();
 Subcommand ConvertSubcommand();
 Subcommand InfoSubcommand();
 Subcommand PictureSubcommand();
+Subcommand ImportSubcommand();
+Subcommand StandardizeSubcommand();
 
 std::vector<Subcommand> Subcommands() {
     return {
@@ -17,6 +19,9 @@ std::vector<Subcommand> Subcommands() {
         // documents
         ConvertSubcommand(),
         InfoSubcommand(),
+        StandardizeSubcommand(),
+        // input
+        ImportSubcommand(),
         // output
         PictureSubcommand(),
     };
