@@ -14,6 +14,10 @@ void frmOpcjeMacierzy::Form_Load() {
     cboData_Click();
 }
 
+void frmOpcjeMacierzy::Enter(const MeasureChoices& options) {
+    if (options.Measure) SelectMeasure(*options.Measure, cboData, Combo1);
+}
+
 void frmOpcjeMacierzy::cboData_Click() {
     Combo1.List = MeasuresOfKind(cboData.ListIndex);
     Combo1.ListIndex = 0;

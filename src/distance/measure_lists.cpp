@@ -63,4 +63,11 @@ MeasurePlace PlaceOfMeasure(std::int16_t code) {
     throw RuntimeFailure(Failure::InvalidProcedureCall);
 }
 
+void SelectMeasure(std::int16_t code, ComboBox& kinds, ComboBox& measures) {
+    const MeasurePlace place = PlaceOfMeasure(code);
+    kinds.ListIndex = place.DataKind;
+    measures.List = MeasuresOfKind(place.DataKind);
+    measures.ListIndex = place.Position;
+}
+
 } // namespace dorvan

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/controls.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -22,5 +24,8 @@ struct MeasurePlace {
     int Position = 0;
 };
 MeasurePlace PlaceOfMeasure(std::int16_t code);
+
+// Selects it in the lists of a dialog, as a user would.
+void SelectMeasure(std::int16_t code, ComboBox& kinds, ComboBox& measures);
 
 } // namespace dorvan

@@ -22,6 +22,10 @@ std::array<frmGeneticUM::Row, frmGeneticUM::RowCount> frmGeneticUM::Rows() {
              {&Label11, &Text11, nullptr}}};
 }
 
+void frmGeneticUM::Enter(const std::map<RavelinParameter, std::string>& texts) {
+    for (const auto& [parameter, text] : texts) Rows().at(std::size_t(parameter)).Field->Text = text;
+}
+
 void frmGeneticUM::Text_KeyPress(const TextBox& field, int& keyAscii) {
     FilterNumberKey(session_.platform.keyboard, keyAscii, &field == &Text11 ? "." : "");
 }

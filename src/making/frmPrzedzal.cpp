@@ -52,6 +52,13 @@ void frmPrzedzal::Form_Show() {
     Option9.Enabled = session_.orderingMethods.contains(4);
 }
 
+void frmPrzedzal::Enter(const DiagramChoices& options) {
+    if (options.Measure.Measure) SelectMeasure(*options.Measure.Measure, cboData, Combo1);
+    if (options.DiagType) Choose(TypeOptions(), *TypeOptions().at(std::size_t(*options.DiagType - 1)));
+    if (options.OrderMethod)
+        Choose(OrderOptions(), *OrderOptions().at(std::size_t(*options.OrderMethod - 1)));
+}
+
 void frmPrzedzal::cboData_Click() {
     Combo1.List = MeasuresOfKind(cboData.ListIndex);
     Combo1.ListIndex = 0;

@@ -61,6 +61,16 @@ TEST_F(frmOpcjeMacierzyTest, AChangeOfTheDataKindFillsTheMeasuresAnew) {
     }
 }
 
+TEST_F(frmOpcjeMacierzyTest, EnteredChoicesSelectTheMeasureInItsLists) {
+    for (std::int16_t code = 1; code <= 10; ++code) {
+        dialog.Enter({.Measure = code});
+        EXPECT_EQ(MeasureCode(dialog.cboData.ListIndex, dialog.Combo1.ListIndex), code);
+        EXPECT_EQ(dialog.Combo1.List, MeasuresOfKind(dialog.cboData.ListIndex));
+    }
+    dialog.Enter({});
+    EXPECT_EQ(MeasureCode(dialog.cboData.ListIndex, dialog.Combo1.ListIndex), 10) << "nothing was said";
+}
+
 TEST_F(frmOpcjeMacierzyTest, OKPutsTheMeasureInForceAndRedrawsTheActiveWindow) {
     OpenSheet({{"1"}, {"2"}});
     for (const std::int16_t code : {1, 2, 3, 4, 5, 7, 8, 9, 10}) {

@@ -1,6 +1,7 @@
 #include "making/frmPrzedzal.h"
 
 #include "distance/frmCustomized.h"
+#include "distance/measures.h"
 #include "platform/keys.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
@@ -355,6 +356,23 @@ TEST_F(DiagramOptions, OkStoresTheMeasureOfEachPosition) {
             EXPECT_EQ(session.CurrentDistType, code);
         }
     expectScriptsUsedUp();
+}
+
+TEST_F(DiagramOptions, EnteredChoicesSelectMeasureTypeAndOrder) {
+    Open();
+    for (std::int16_t measure = 1; measure <= 10; ++measure)
+        for (std::int16_t type = 1; type <= 3; ++type)
+            for (std::int16_t order = 1; order <= 4; ++order) {
+                if (measure == DistanceType::Customized) continue; // has a dialog of its own
+                dialog.Visible = true;
+                dialog.Enter({.Measure = {.Measure = measure}, .DiagType = type, .OrderMethod = order});
+                dialog.Enter({});
+                session.orderingMethods.clear();
+                dialog.Command3_Click();
+                EXPECT_EQ(session.CurrentDistType, measure);
+                EXPECT_EQ(session.CurrentDiagType, type);
+                EXPECT_EQ(session.CurrentOrderMethod, order);
+            }
 }
 
 TEST_F(DiagramOptions, OkStoresTypeAndOrder) {

@@ -58,6 +58,15 @@ TEST_F(GeneticDialog, OkStoresTheNumbersOfEverySelectedItem) {
         }
 }
 
+TEST_F(GeneticDialog, EnteredChoicesSelectItemsOfTheLists) {
+    dialog.Enter({.Generations = "750", .Variants = "50"});
+    EXPECT_EQ(dialog.cboGen.Text(), "750");
+    EXPECT_EQ(dialog.cboVar.Text(), "50");
+    dialog.Enter({.Generations = "", .Variants = "7"});
+    EXPECT_EQ(dialog.cboGen.Text(), "750");
+    EXPECT_EQ(dialog.cboVar.Text(), "50") << "no item";
+}
+
 TEST_F(GeneticDialog, CancelStoresNothing) {
     const OrderingOptions before = session.ordering;
     dialog.cboGen.ListIndex = 0;
@@ -125,6 +134,32 @@ TEST_F(RavelinDialog, OkStoresEachFieldInItsOwnValue) {
     EXPECT_FALSE(session.ordering.WorkCancelled);
     EXPECT_FALSE(dialog.Visible);
     EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(RavelinDialog, EnteredChoicesArriveInTheirOwnValues) {
+    const std::pair<RavelinParameter, std::int16_t OrderingOptions::*> values[] = {
+        {RavelinParameter::SequenceChange, &OrderingOptions::SequenceChange},
+        {RavelinParameter::FragmentTransfer, &OrderingOptions::FragmentTransfer},
+        {RavelinParameter::SomeSingleTransfers, &OrderingOptions::SomeSingleTransfers},
+        {RavelinParameter::SingleTransfer, &OrderingOptions::SingleTransfer},
+        {RavelinParameter::SomeRemoteConversions, &OrderingOptions::SomeRemoteConversions},
+        {RavelinParameter::RemoteConversion, &OrderingOptions::RemoteConversion},
+        {RavelinParameter::SomeNeighbourConversions, &OrderingOptions::SomeNeighbourConversions},
+        {RavelinParameter::NeighbourConversion, &OrderingOptions::NeighbourConversion},
+        {RavelinParameter::CriticalMutationNumber, &OrderingOptions::CriticalMutationNumber},
+        {RavelinParameter::CriticalGenerationNumber, &OrderingOptions::CriticalGenerationNumber}};
+    std::int16_t number = 600;
+    for (const auto& [parameter, value] : values) {
+        ++number;
+        dialog.Enter({{parameter, std::to_string(number)}});
+        dialog.Command1_Click();
+        EXPECT_EQ(session.ordering.*value, number);
+    }
+    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 1.0F);
+    dialog.Enter({{RavelinParameter::MatrixConversionCoefficient, "2.5"}});
+    dialog.Command1_Click();
+    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 2.5F);
+    EXPECT_EQ(session.ordering.SequenceChange, 601) << "what was not said stays";
 }
 
 TEST_F(RavelinDialog, DefaultsAddUpTo371) {

@@ -1,4 +1,4 @@
-#include "cli/requests.h"
+#include "cli/measure_names.h"
 
 #include <algorithm>
 #include <array>
