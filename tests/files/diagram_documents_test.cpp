@@ -3,6 +3,7 @@
 #include "files/files_session.h"
 #include "files/older_bytes.h"
 #include "session/children.h"
+#include "view/classes.h"
 #include "view/frmDiagram.h"
 
 #include <cmath>
@@ -16,6 +17,13 @@ protected:
     frmDiagram& window(std::int16_t slot = 1) { return DiagramWindow(session, slot); }
     DiagramDocument& document(std::size_t slot = 1) { return session.DiagramDocuments.at(slot); }
     bool free(std::size_t slot = 1) { return session.DiagramStates.at(slot).Deleted; }
+    void expectClassified() {
+        ASSERT_EQ(document().Classes.Rows(), 3);
+        for (int row = 1; row <= 3; ++row)
+            for (int column = 1; column <= 3; ++column)
+                EXPECT_EQ(document().Classes(row, column),
+                          ClassifyCell(document().Matrix(row, column), document().SectionLimits));
+    }
 };
 
 TEST_F(DiagramDocuments, ReadingOpensACleanWindow) {
@@ -45,7 +53,7 @@ TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
     EXPECT_EQ(document().RecordNames(1), "Third one");
     EXPECT_EQ(document().VariableNames(2), "Width");
     EXPECT_EQ(document().RecordHasNA.Cells(), (std::vector<bool>{false, true, false}));
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    expectClassified();
     EXPECT_TRUE(session.DataHasNA);
 }
 
@@ -88,7 +96,7 @@ TEST_F(DiagramDocuments, AnOlderFileOpensAfterARemarkAndCountsAsChanged) {
     EXPECT_EQ(document().Par_P, 7);
     EXPECT_EQ(document().Par_R, 8);
     EXPECT_FALSE(document().NoData);
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    expectClassified();
     EXPECT_EQ(session.PendingRecCount, 3);
     EXPECT_EQ(session.PendingVarCount, 2);
     EXPECT_EQ(session.SectionLimits.Cells(), (std::vector<float>{0.5f, 1.5f, 2.5f, 3.5f}));
