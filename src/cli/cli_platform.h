@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/drawn_text.h"
 #include "cli/requests.h"
 #include "platform/platform.h"
 
@@ -31,8 +32,9 @@ class CliPlatform : public MessageBoxes,
                     public HelpViewer {
 public:
     Choices choices;
-    bool answersYes = false;                  // to a question of Yes or No; any other one is a refusal
-    std::vector<std::string> messages;        // in one line each
+    bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
+    std::vector<std::string> messages; // in one line each
+    DrawnText text;
     std::function<void(Form&)> onDialog = {}; // answers a dialog that the choices do not know
     std::string fileToOpen;                   // what the open dialog answers
 

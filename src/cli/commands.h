@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/picture.h"
 #include "cli/requests.h"
 
 #include <string>
@@ -14,7 +15,8 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
                const Surroundings& surroundings);
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings);
 int RunInfo(const std::string& file, const Surroundings& surroundings);
-int RunPicture(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
+int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
+               const Surroundings& surroundings);
 
 // `method` is range or deviation, or empty for the dialog's own choice.
 int RunStandardize(const std::string& sheet, const std::string& out, const std::string& method,
