@@ -4,6 +4,11 @@
 
 namespace dorvan {
 
+// What the loading keeps in the session.
+struct LoadingValues {
+    bool PendingError = false; // the pending-error indicator: the next cell that is loaded is refused
+};
+
 // Turns the active data sheet into the working arrays `RecordNames`, `VariableNames`, `DataValues`,
 // `RecordHasNA`, `DataHasNA`. A cell "N/A" becomes NaValue, an empty cell 0 (and "0.00" in the sheet), other
 // text its leading number, with a comma read as a point. False, after a message, when the pending-error

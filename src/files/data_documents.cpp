@@ -18,8 +18,8 @@ namespace {
 std::string CaptionOf(const std::string& path) { return fmt::format("[DATA]: {}", LowerCase(path)); }
 
 void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
-    session.PendingRecCount = static_cast<std::int16_t>(session.RecordNames.Count());
-    session.PendingVarCount = static_cast<std::int16_t>(session.VariableNames.Count());
+    session.PendingRecCount = static_cast<std::int16_t>(session.tables.RecordNames.Count());
+    session.PendingVarCount = static_cast<std::int16_t>(session.tables.VariableNames.Count());
     OpenDocumentWindow<frmNotePad>(session, {.Caption = CaptionOf(path), .Dirty = false},
                                    [&](frmNotePad& window) {
                                        window.FilePath = path;
@@ -44,8 +44,7 @@ void ReadDataFile(Session& session, const std::string& path) {
         const std::string bytes = LoadFile(path);
         current = IsCurrentDataFile(bytes);
         if (!current) return;
-        TablesOfSession transit(session);
-        description = ParseDataFile(bytes, FileTextOf(session), transit.Tables);
+        description = ParseDataFile(bytes, FileTextOf(session), session.tables);
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
     if (current) return OpenDataWindow(session, path, description);
@@ -58,8 +57,7 @@ void ReadOldDataFile(Session& session, const std::string& path) {
     std::string description;
     const auto read = [&] {
         const std::string bytes = LoadFile(path);
-        TablesOfSession transit(session);
-        description = ParseOldDataFile(bytes, FileTextOf(session), transit.Tables);
+        description = ParseOldDataFile(bytes, FileTextOf(session), session.tables);
     };
     if (ReadsWithoutFault(session, path, Wait::Yes, read)) OpenDataWindow(session, path, description);
 }
@@ -67,14 +65,15 @@ void ReadOldDataFile(Session& session, const std::string& path) {
 bool WriteDataFile(Session& session, const std::string& path) {
     const frmNotePad& window = ActiveDataWindow(session);
     const WaitCursor wait(session.platform);
-    session.SilentFailure.clear();
+    std::string& silentFailure = session.Of<FileValues>().SilentFailure;
+    silentFailure.clear();
     try {
-        ReplaceFile(path, ComposeDataFile(window.Grid1, window.OpisText.Text, FileTextOf(session)));
+        ReplaceFile(path, ComposeDataFile(window.Table(), window.OpisText.Text, FileTextOf(session)));
     } catch (const FileError& error) { // silent by design: the document counts as saved all the same
-        session.SilentFailure = error.what();
+        silentFailure = error.what();
     }
     session.DataStates.at(std::size_t(window.Index)).Dirty = false;
-    return session.SilentFailure.empty();
+    return silentFailure.empty();
 }
 
 void SaveData(Session& session) {

@@ -8,6 +8,9 @@
 #include "platform/keys.h"
 #include "session/busy.h"
 #include "sheet/expression.h"
+#include "sheet/sheet_values.h"
+
+#include <utility>
 
 namespace dorvan {
 
@@ -174,8 +177,7 @@ void frmNotePad::EditCell_LostFocus() {
 }
 
 void frmNotePad::CommitCell(int key) {
-    if (session_.SuppressCommit) {
-        session_.SuppressCommit = false;
+    if (std::exchange(session_.Of<SheetValues>().SuppressCommit, false)) {
         EditCell.Text.clear();
         EditCell.SelStart = 0;
         return;

@@ -1,4 +1,5 @@
 #include "distance/frmCustomized.h"
+#include "distance/loading.h"
 #include "distance/making_matrix.h"
 #include "distance/matrix_session.h"
 #include "numbers/number_text.h"
@@ -65,20 +66,20 @@ TEST_F(MakeMatrixTest, TakesOneHundredAndFiftyRecordsAndTwo) {
 
 TEST_F(MakeMatrixTest, CancelInTheDialogEndsTheCommandBeforeAnythingIsLoaded) {
     auto& sheet = OpenSheet({{""}, {"2"}});
-    session.PendingError = true;
+    session.Of<LoadingValues>().PendingError = true;
     CancelDialog();
     MakeMatrix(session);
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "");
-    EXPECT_TRUE(session.PendingError);
+    EXPECT_TRUE(session.Of<LoadingValues>().PendingError);
     EXPECT_TRUE(signals.cursors.empty());
     ExpectNoMatrix();
 }
 
 TEST_F(MakeMatrixTest, ClearsThePendingErrorAfterTheDialog) {
     OpenSheet({{"1"}, {"2"}});
-    session.PendingError = true;
+    session.Of<LoadingValues>().PendingError = true;
     Make();
-    EXPECT_FALSE(session.PendingError);
+    EXPECT_FALSE(session.Of<LoadingValues>().PendingError);
     EXPECT_TRUE(messages.shown.empty());
     EXPECT_FALSE(session.MatrixStates.at(1).Deleted);
 }

@@ -69,13 +69,13 @@ TEST(StartSession, LeavesTheOtherValuesAtZero) {
     EXPECT_EQ(session.NewWindowIndex, 0);
     EXPECT_EQ(session.DiagramBusy, 0);
     EXPECT_FALSE(session.DiagramFromMatrix);
-    EXPECT_FALSE(session.DataHasNA);
+    EXPECT_FALSE(session.tables.DataHasNA);
     EXPECT_EQ(session.SectionLimits.Count(), 0);
-    EXPECT_EQ(session.RecordNames.Count(), 0);
-    EXPECT_EQ(session.VariableNames.Count(), 0);
-    EXPECT_EQ(session.RecordHasNA.Count(), 0);
-    EXPECT_EQ(session.DataValues.Rows(), 0);
-    EXPECT_EQ(session.DistanceValues.Rows(), 0);
+    EXPECT_EQ(session.tables.RecordNames.Count(), 0);
+    EXPECT_EQ(session.tables.VariableNames.Count(), 0);
+    EXPECT_EQ(session.tables.RecordHasNA.Count(), 0);
+    EXPECT_EQ(session.tables.DataValues.Rows(), 0);
+    EXPECT_EQ(session.tables.DistanceValues.Rows(), 0);
 }
 
 TEST(StartSession, BuildsARegistryWhoseSlotOneIsFree) {

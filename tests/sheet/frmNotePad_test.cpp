@@ -172,17 +172,17 @@ TEST(DataSheetResize, LeavesLargerAndMinimizedWindowsAlone) {
 TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
     SheetSession test;
     auto& session = test.session;
-    session.RecordNames = Names(2);
-    session.RecordNames(1) = "Biskupin";
-    session.RecordNames(2) = "Kraków";
-    session.VariableNames = Names(2);
-    session.VariableNames(1) = "length";
-    session.VariableNames(2) = "width";
-    session.DataValues = FloatTable(2, 2);
-    session.DataValues(1, 1) = 1.5f;
-    session.DataValues(1, 2) = NaValue;
-    session.DataValues(2, 1) = -12.3456f;
-    session.DataValues(2, 2) = 1000.0f;
+    session.tables.RecordNames = Names(2);
+    session.tables.RecordNames(1) = "Biskupin";
+    session.tables.RecordNames(2) = "Kraków";
+    session.tables.VariableNames = Names(2);
+    session.tables.VariableNames(1) = "length";
+    session.tables.VariableNames(2) = "width";
+    session.tables.DataValues = FloatTable(2, 2);
+    session.tables.DataValues(1, 1) = 1.5f;
+    session.tables.DataValues(1, 2) = NaValue;
+    session.tables.DataValues(2, 1) = -12.3456f;
+    session.tables.DataValues(2, 2) = 1000.0f;
     session.NewWindowIndex = FindFreeDataSlot(session);
     PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
     auto& window = DataWindow(session, session.NewWindowIndex);
