@@ -30,6 +30,7 @@ class CliPlatform : public MessageBoxes,
                     public HelpViewer {
 public:
     Choices choices;
+    bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
 
     Platform platform{.messages = *this,

@@ -31,14 +31,22 @@ struct Run {
 
     Run(const Choices& choices, const Surroundings& surroundings) {
         ports.choices = choices;
+        ports.answersYes = surroundings.yes;
         Compose(session);
         const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
         mainWindow.Form_Load(surroundings.seed.value_or(clock), ".");
-        session.codePage = CodePage(surroundings.codePage.value_or(SystemCodePage()));
+        if (surroundings.codePage) session.codePage = CodePage(*surroundings.codePage);
     }
 
     std::string_view kind() const {
         return session.ActiveWindow ? std::string_view(session.ActiveWindow->TypeOfForm) : DocumentKind::Main;
+    }
+
+    // What the program said so far, but for a refusal at the end.
+    void tellRemarks(bool withLast) const {
+        const std::size_t count = ports.messages.size();
+        for (std::size_t place = 0; place + (withLast ? 0 : 1) < count; ++place)
+            fmt::print(stderr, "dorvan-cli: {}\n", ports.messages[place]);
     }
 
     // What the program said last, or that it said nothing.
@@ -53,7 +61,9 @@ void Open(Run& run, const std::string& path, std::initializer_list<std::string_v
     if (!kind.empty() && std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
         throw Refusal(fmt::format("a file of the kind {} is of no use here", kind));
     OpenDocument(run.session, path);
-    if (run.kind() != kind) throw run.refusal("the file could not be read");
+    const bool opened = !kind.empty() && run.kind() == kind;
+    run.tellRemarks(opened);
+    if (!opened) throw run.refusal("the file could not be read");
 }
 
 // A failure whose text names its file itself.

@@ -41,6 +41,11 @@ void AddCodePage(CLI::App& command, Arguments& arguments) {
         ->check(IsKnownCodePage);
 }
 
+void AddYes(CLI::App& command, Arguments& arguments) {
+    command.add_flag("-y,--yes", arguments.surroundings.yes,
+                     "open a sheet with empty fields, as empty cells (refused)");
+}
+
 void AddMeasure(CLI::App& command, Arguments& arguments) {
     command
         .add_option("--measure", arguments.choices.measure,
@@ -99,6 +104,7 @@ void AddMatrix(CLI::App& app, Arguments& arguments) {
     command->add_option("SHEET", arguments.input, "data sheet (.mdt)")->required();
     command->add_option("OUT", arguments.output, "matrix to write (.mtx)")->required();
     AddMeasure(*command, arguments);
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Examples:\n"
                     "  dorvan-cli matrix iris.mdt iris.mtx\n"
@@ -119,6 +125,7 @@ void AddDiagram(CLI::App& app, Arguments& arguments) {
     command->add_option("--seed", arguments.surroundings.seed, "seed of the random numbers (from the clock)");
     AddGenetic(*command, arguments);
     AddRavelin(*command, arguments);
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer(
         "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table "
@@ -136,6 +143,7 @@ void AddConvert(CLI::App& app, Arguments& arguments) {
     auto* command = app.add_subcommand("convert", "Read a document of any age and write the current format");
     command->add_option("IN", arguments.input, "document (.mdt, .mtx or .dgr)")->required();
     command->add_option("OUT", arguments.output, "document of the same kind")->required();
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Examples:\n"
                     "  dorvan-cli convert old.dgr new.dgr\n"
@@ -145,6 +153,7 @@ void AddConvert(CLI::App& app, Arguments& arguments) {
 void AddInfo(CLI::App& app, Arguments& arguments) {
     auto* command = app.add_subcommand("info", "Tell what a document holds, one `key: value` a line");
     command->add_option("FILE", arguments.input, "document (.mdt, .mtx or .dgr)")->required();
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Example:\n  dorvan-cli info USArrests.dgr");
 }

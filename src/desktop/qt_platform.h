@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/child_faces.h"
-#include "desktop/form_face.h"
+#include "desktop/form_faces.h"
 #include "platform/platform.h"
 
 #include <QElapsedTimer>

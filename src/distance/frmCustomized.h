@@ -9,8 +9,10 @@ class frmCustomized : public Dialog {
 public:
     explicit frmCustomized(Session& session);
 
-    TextBox Text1{"Text1", "2"}; // p
-    TextBox Text2{"Text2", "2"}; // r
+    Label Label1{"Label1", "p = "};
+    TextBox Text1{"Text1", "2"};
+    Label Label2{"Label2", "r = "};
+    TextBox Text2{"Text2", "2"};
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
 

@@ -123,7 +123,7 @@ void frmMacierz::Form_Unload() {
 }
 
 // It is the active window that is kept from getting too small, which need not be this one.
-void frmMacierz::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 3200, .Width = 5000}); }
+void frmMacierz::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 3200, .Width = 5000}); }
 
 frmMacierz& MatrixWindow(Session& session, std::int16_t slot) {
     return WindowInSlot<frmMacierz>(session.MatrixWindows, slot);

@@ -10,8 +10,10 @@ public:
     explicit frmOpcjeMacierzy(Session& session);
 
     Frame Frame1{"Frame1", "Distance type:"};
+    Label lblData{"lblData", "&Data:"};
     ComboBox cboData{"cboData"}; // the data kind
-    ComboBox Combo1{"Combo1"};   // the measures of that kind
+    Label lblDistance{"lblDistance", "D&istance:"};
+    ComboBox Combo1{"Combo1"}; // the measures of that kind
     CommandButton Command1{"Command1", "Cancel"};
     CommandButton Command2{"Command2", "OK"};
 

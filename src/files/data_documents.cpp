@@ -2,7 +2,9 @@
 
 #include "files/data_file.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
+#include "files/file_fault.h"
 #include "files/reading.h"
 #include "numbers/text.h"
 #include "session/busy.h"
@@ -10,6 +12,8 @@
 #include "sheet/frmNotePad.h"
 
 #include <fmt/format.h>
+
+#include <optional>
 
 namespace dorvan {
 
@@ -27,6 +31,40 @@ void OpenDataWindow(Session& session, const std::string& path, const std::string
                                    });
 }
 
+// A sheet that reads only with its empty fields taken, as a save of emptied cells leaves them.
+struct SheetWithEmptyCells {
+    std::string Fault; // that of the plain reading
+    DocumentTables Tables;
+};
+
+std::string ParseCurrentSheet(std::string_view bytes, const FileText& text, DocumentTables& tables,
+                              std::optional<SheetWithEmptyCells>& other, const std::string& path) {
+    try {
+        return ParseDataFile(bytes, text, tables);
+    } catch (const FileFault& fault) {
+        if (!bytes.ends_with('\n')) throw; // cut off, rather than saved with an empty cell
+        other.emplace(SheetWithEmptyCells{fault.Describe(path), {}});
+        try {
+            return ParseDataFile(bytes, text, other->Tables, EmptyFields::Taken);
+        } catch (const FileFault&) {
+            other.reset();
+        }
+        throw;
+    }
+}
+
+// The user decides whether such a sheet opens.
+bool OpensWithEmptyCells(Session& session, SheetWithEmptyCells&& sheet) {
+    const Message question{.Text = sheet.Fault + "\r\nOpen the sheet with its empty fields as empty cells?",
+                           .Icon = MessageIcon::Exclamation,
+                           .Buttons = MessageButtons::YesNo};
+    if (session.platform.messages.show(question) != Answer::Yes) return false;
+    session.tables.RecordNames = std::move(sheet.Tables.RecordNames);
+    session.tables.VariableNames = std::move(sheet.Tables.VariableNames);
+    session.tables.DataValues = std::move(sheet.Tables.DataValues);
+    return true;
+}
+
 } // namespace
 
 void OpenDataFile(Session& session) {
@@ -39,14 +77,16 @@ void OpenDataFile(Session& session) {
 
 void ReadDataFile(Session& session, const std::string& path) {
     std::string description;
+    std::optional<SheetWithEmptyCells> withEmptyCells;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDataFile(bytes);
         if (!current) return;
-        description = ParseDataFile(bytes, FileTextOf(session), session.tables);
+        description = ParseCurrentSheet(bytes, FileTextOf(session), session.tables, withEmptyCells, path);
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
+    if (withEmptyCells && !OpensWithEmptyCells(session, std::move(*withEmptyCells))) return;
     if (current) return OpenDataWindow(session, path, description);
     TellOlderVersion(session);
     ReadOldDataFile(session, path);
@@ -56,7 +96,7 @@ void ReadOldDataFile(Session& session, const std::string& path) {
     if (RefusedWhileBusy(session)) return;
     std::string description;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         description = ParseOldDataFile(bytes, FileTextOf(session), session.tables);
     };
     if (ReadsWithoutFault(session, path, Wait::Yes, read)) OpenDataWindow(session, path, description);

@@ -3,6 +3,7 @@
 #include "distance/distance.h"
 #include "files/diagram_file.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/file_fault.h"
 #include "files/reading.h"
@@ -65,7 +66,7 @@ FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) 
 
 // Reads the older format into the working arrays and the analysis options.
 DiagramHeader ReadOldDiagram(Session& session, const std::string& path) {
-    const std::string bytes = LoadFile(path);
+    const std::string bytes = LoadDocument(path, session.codePage);
     DiagramHeader header = ParseOldDiagramFile(bytes, FileTextOf(session), session.tables);
     session.SectionLimits = header.SectionLimits;
     session.CurrentDistType = header.DistType;
@@ -92,7 +93,7 @@ void ReadDiagramFile(Session& session, const std::string& path) {
     DiagramHeader header;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDiagramFile(bytes);
         if (!current) return;
         header = ParseDiagramFile(bytes, FileTextOf(session), session.tables);

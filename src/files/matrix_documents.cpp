@@ -2,6 +2,7 @@
 
 #include "distance/frmMacierz.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/matrix_file.h"
 #include "files/reading.h"
@@ -34,7 +35,7 @@ void ReadMatrixFile(Session& session, const std::string& path) {
     bool current = true;
     std::int16_t slot = 0;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentMatrixFile(bytes);
         if (!current) return;
         const FileText text = FileTextOf(session);
@@ -56,14 +57,13 @@ void ReadOldMatrixFile(Session& session, const std::string& path) {
     std::string description;
     DistanceMatrix document;
     const auto read = [&] {
-        description = ParseOldMatrixFile(LoadFile(path), FileTextOf(session), document);
+        description = ParseOldMatrixFile(LoadDocument(path, session.codePage), FileTextOf(session), document);
     };
     if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
-    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path)},
-                                   [&](frmMacierz& window) {
-                                       window.Document() = std::move(document);
-                                       window.Present(description);
-                                   });
+    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path)}, [&](frmMacierz& window) {
+        window.Document() = std::move(document);
+        window.Present(description);
+    });
 }
 
 void WriteMatrixFile(Session& session, const std::string& path, const DistanceMatrix& document,

@@ -13,7 +13,9 @@ public:
     explicit frmPrzedzal(Session& session);
 
     Frame Frame1{"Frame1", "Data and distance type:"};
+    Label lblData{"lblData", "&Data:"};
     ComboBox cboData{"cboData"};
+    Label lblDistance{"lblDistance", "D&istance:"};
     ComboBox Combo1{"Combo1"};
 
     Frame Frame2{"Frame2", "Diagram type:"};

@@ -95,7 +95,8 @@ private:
     std::map<std::type_index, std::shared_ptr<void>> roomValues_;
 };
 
-// The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.
+// The session's part of the start-up: caption, folder, the locale's decimal separator and code page of files,
+// registry, defaults, commands off.
 // The random generator is seeded from `seed` (the clock's seconds since midnight unless a seed was asked
 // for).
 void StartSession(Session& session, std::uint64_t seed, const std::string& programFolder);

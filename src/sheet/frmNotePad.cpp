@@ -22,6 +22,11 @@ constexpr int ValueColumnWidth = 900;
 constexpr int MinimalHeight = 2500; // twips
 constexpr int MinimalWidth = 3000;
 
+std::string CellText(float value, char decimalSeparator) {
+    if (IsEmptyValue(value)) return {};
+    return value == NaValue ? std::string(NaText) : FormatPattern(value, "###0.000", decimalSeparator);
+}
+
 } // namespace
 
 frmNotePad::frmNotePad(Session& session) : ChildWindow("frmNotePad"), session_(session) {
@@ -70,10 +75,8 @@ void frmNotePad::Present(const std::string& description) {
     for (int row = 1; row <= RecordCount(); ++row) {
         Grid1.SetText(row, NameColumn, session_.tables.RecordNames(row));
         for (int variable = 1; variable <= VariableCount(); ++variable) {
-            const float value = values(row, variable);
             Grid1.SetText(row, ValueColumn(variable),
-                          value == NaValue ? std::string(NaText)
-                                           : FormatPattern(value, "###0.000", session_.DecimalSeparator));
+                          CellText(values(row, variable), session_.DecimalSeparator));
         }
     }
     if (RecordCount() >= 1) Grid1.SetCurrent(1, NameColumn);

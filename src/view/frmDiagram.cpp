@@ -141,7 +141,7 @@ void frmDiagram::Form_Unload() {
     SwitchCommands(session_.mainWindow, DocumentKind::Diagram, WindowEvent::Unloaded);
 }
 
-void frmDiagram::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
+void frmDiagram::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
 void frmDiagram::Beep() { session_.platform.signals.beep(); }
 

@@ -246,6 +246,44 @@ TEST_F(CommandLine, PolishCharactersSurviveInTheLocalesCodePage) {
               std::string::npos);
 }
 
+TEST_F(CommandLine, TheRemarkOnAnOlderFileGoesToStandardError) {
+    const Outcome outcome = runCli({"info", sourcePath("tests/files/older_sheet.mdt")});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.err, "dorvan-cli: This file has been created in older Dorvan version. You can save it "
+                           "only with new format.\n");
+    EXPECT_NE(outcome.out.find("kind: data sheet\n"), std::string::npos);
+}
+
+TEST_F(CommandLine, ABrokenOlderFileIsToldToBeReadAsOneAndWhatIsWrongWithIt) {
+    writeFile(sheet, "Dorvan data 3.3\r\n");
+    const Outcome outcome = runCli({"convert", sheet, out("new.mdt")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 2) << outcome.err;
+    EXPECT_TRUE(outcome.err.starts_with("dorvan-cli: This file has been created in older Dorvan version."));
+    EXPECT_NE(outcome.err.find("\ndorvan-cli: Byte 18: the file ends"), std::string::npos) << outcome.err;
+    EXPECT_FALSE(fs::exists(out("new.mdt")));
+}
+
+TEST_F(CommandLine, ASheetWithAnEmptyFieldIsRefusedAndOpensOnYes) {
+    std::string empty = smallSheet;
+    empty.replace(empty.find("10.000"), 6, "");
+    writeFile(sheet, empty);
+    expectRefusal({"convert", sheet, out("new.mdt")}, sheet, "Line 16: \"\" is not a number", out("new.mdt"));
+    const Outcome outcome = runCli({"convert", sheet, out("new.mdt"), "--yes"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.err.find("Line 16: \"\" is not a number"), std::string::npos) << outcome.err;
+    EXPECT_EQ(fileBytes(out("new.mdt")), empty);
+    EXPECT_EQ(runCli({"matrix", sheet, out("new.mtx"), "-y"}).status, 0);
+    EXPECT_NE(fileBytes(out("new.mtx")).find("[MATRIX]\r\n0.000;0.000;1.000\r\n"), std::string::npos);
+}
+
+TEST_F(CommandLine, Utf16IsRefused) {
+    std::string wide = "\xFF\xFE";
+    for (const char character : smallSheet) wide += {character, '\0'};
+    writeFile(sheet, wide);
+    expectRefusal({"convert", sheet, out("new.mdt")}, sheet, "The file is text in UTF-16", out("new.mdt"));
+}
+
 TEST_F(CommandLine, InfoTellsASheet) {
     EXPECT_EQ(
         runCli({"info", sample("airquality.mdt")}).out,
@@ -336,11 +374,12 @@ TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
                   "Parametr error!", out("d.dgr"));
 }
 
-// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout` signals
-// its child once; otherwise the group as well, and the second signal ends the process.
+// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout`
+// signals its child once; otherwise the group as well, and the second signal ends the process.
 TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     const std::string command =
-        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
+        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " +
+        out("d.dgr") +
         " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
         "2>" +
         out("err");

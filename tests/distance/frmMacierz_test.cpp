@@ -264,29 +264,6 @@ TEST_F(Resizing, OnlyInTheNormalStateItGrows) {
     }
 }
 
-TEST_F(Resizing, TheGridFillsTheWindowUnderTheDescription) {
-    window.BottomTextLeft = 1300;
-    Resize(9200, 7600);
-    EXPECT_EQ(window.SiatkaBounds.Left, 0);
-    EXPECT_EQ(window.SiatkaBounds.Top, frmMacierz::BottomPanelHeight);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    EXPECT_EQ(window.SiatkaBounds.Height, 7000 - frmMacierz::BottomPanelHeight);
-    EXPECT_EQ(window.BottomTextWidth, 9000 - 1300 - 100);
-    EXPECT_TRUE(window.Siatka.Visible);
-}
-
-TEST_F(Resizing, NothingIsLaidOutWhenMinimizedOrWithoutInnerHeight) {
-    Resize(9200, 7600);
-    window.Mode = WindowMode::Minimized;
-    Resize(6000, 5000);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    window.Mode = WindowMode::Maximized;
-    Resize(6000, 600);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    Resize(6000, 5000);
-    EXPECT_EQ(window.SiatkaBounds.Width, 5800);
-}
-
 TEST_F(frmMacierzTest, MatrixWindowFailsForASlotWithoutOne) {
     EXPECT_FAILURE(Failure::SubscriptOutOfRange, MatrixWindow(session, 0));
     EXPECT_FAILURE(Failure::SubscriptOutOfRange, MatrixWindow(session, 2));

@@ -585,6 +585,101 @@ TEST_F(MakingDiagram, RegisteredMethodsRunOnTheDistancesWithTheFlagOn) {
     }
 }
 
+// A search in whose midst the user does something.
+class MakingDiagramMeanwhile : public MakingDiagram {
+protected:
+    void MakeWith(std::function<void()> meanwhile) {
+        session.Of<OrderingMethods>()[3] = {.askOptions = [](Session& owner) { owner.DialogOutcome = 1; },
+                                            .run =
+                                                [meanwhile](Session&, const FloatTable& distances) {
+                                                    meanwhile();
+                                                    EXPECT_EQ(distances(1, 4), 11);
+                                                    return ArrayOf<std::int16_t>({5, 4, 3, 2, 1});
+                                                }};
+        Options([](frmPrzedzal& dialog) { dialog.Option8_Click(); });
+        MakeDiagram(session);
+    }
+
+    // What a document that is opened during the search leaves in the working arrays.
+    void LoadAnother() {
+        session.tables.RecordNames = ArrayOf<std::string>({"x"});
+        session.tables.VariableNames = ArrayOf<std::string>({"y"});
+        session.tables.DataValues = FloatTable(1, 1, 77.0f);
+        session.tables.DistanceValues = FloatTable(1, 1);
+        session.tables.RecordHasNA = Flags(1, true);
+    }
+
+    void ExpectReversedSheet() {
+        const auto& document = Document();
+        EXPECT_EQ(document.RecordNames, ArrayOf<std::string>({"e", "d", "c", "b", "a"}));
+        EXPECT_EQ(document.VariableNames, ArrayOf<std::string>({"var1"}));
+        EXPECT_EQ(document.Data.Cells(), (Floats{2, 11, 1, 10, 0}));
+        EXPECT_EQ(document.Matrix(1, 2), 9);
+        EXPECT_EQ(document.RecordHasNA.Count(), 5);
+        EXPECT_EQ(session.DiagramBusy, 0);
+    }
+};
+
+TEST_F(MakingDiagramMeanwhile, AClickOnAMatrixLeavesTheDiagramTheSheetsDescription) {
+    auto& matrix = OpenMatrix(MatrixRows(3), "of the matrix");
+    auto& sheet = OpenSheet(Zigzag, "of the sheet");
+    MakeWith([&] {
+        ActivateChild(session, matrix);
+        sheet.OpisText.Text = "written during the search";
+    });
+    ExpectReversedSheet();
+    EXPECT_EQ(Window().BottomText.Text,
+              "written during the search"); // that of the window, when the search has ended
+    ASSERT_EQ(session.Children.size(), 3u);
+    EXPECT_EQ(session.Children[1].get(), &sheet); // brought to the front before the diagram came
+    EXPECT_EQ(sheet.TypeOfForm, "DATA");
+}
+
+TEST_F(MakingDiagramMeanwhile, AClickOnASheetLeavesTheDiagramTheMatrixsDescription) {
+    auto& sheet = OpenSheet(Line(3), "of the sheet");
+    OpenMatrix(ZigzagMatrix, "of the matrix");
+    MakeWith([&] { ActivateChild(session, sheet); });
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
+    EXPECT_EQ(Document().Matrix(1, 2), 9);
+}
+
+TEST_F(MakingDiagramMeanwhile, AClosedSheetIsUsedAsItStoodAtTheStart) {
+    auto& sheet = OpenSheet(Zigzag, "of the sheet");
+    MakeWith([&] {
+        CloseChild(session, sheet);
+        OpenSheet(Line(2), "another one in its slot");
+        LoadAnother();
+    });
+    ExpectReversedSheet();
+    EXPECT_EQ(Window().BottomText.Text, "of the sheet");
+}
+
+TEST_F(MakingDiagramMeanwhile, AClosedMatrixIsUsedAsItStoodAtTheStart) {
+    auto& matrix = OpenMatrix(ZigzagMatrix, "of the matrix");
+    MakeWith([&] {
+        CloseChild(session, matrix);
+        OpenMatrix(MatrixRows(2), "another one in its slot");
+        LoadAnother();
+        session.DiagramFromMatrix = true;
+    });
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
+    EXPECT_EQ(Document().RecordNames, ArrayOf<std::string>({"a", "b", "c", "d", "e"}));
+    EXPECT_EQ(Document().Matrix(1, 2), 9);
+    EXPECT_EQ(Document().Matrix.Rows(), 5);
+}
+
+TEST_F(MakingDiagramMeanwhile, ADocumentReadDuringTheSearchDoesNotReachTheDiagram) {
+    OpenSheet(Zigzag);
+    MakeWith([&] { LoadAnother(); });
+    ExpectReversedSheet();
+}
+
+TEST_F(MakingDiagramMeanwhile, AnOrderedMatrixReadsTheDocumentsCells) {
+    OpenMatrix(ZigzagMatrix);
+    MakeWith([&] { session.MatrixDocuments.at(1).Cells(5, 4) = "42"; });
+    EXPECT_EQ(Document().Matrix(1, 2), 42);
+}
+
 TEST_F(MakingDiagram, CommandOfAMethodThatNobodyRegisteredFails) {
     OpenSheet(Zigzag);
     Options([&](frmPrzedzal& dialog) {

@@ -156,5 +156,22 @@ TEST(NaValue, IsOneExactFloat) {
     EXPECT_EQ(NaText, "N/A");
 }
 
+struct OneRoom {
+    int Value = 3;
+};
+struct OtherRoom {
+    int Value = 4;
+};
+
+TEST(SessionOf, MakesTheValuesOfARoomOnceForEachSession) {
+    TestSession test;
+    TestSession other;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 3);
+    test.session.Of<OneRoom>().Value = 5;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 5);
+    EXPECT_EQ(test.session.Of<OtherRoom>().Value, 4);
+    EXPECT_EQ(other.session.Of<OneRoom>().Value, 3);
+}
+
 } // namespace
 } // namespace dorvan::test

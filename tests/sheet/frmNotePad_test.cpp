@@ -196,6 +196,12 @@ TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
         for (int column = 0; column < 4; ++column)
             EXPECT_EQ(window.Grid1.Text(row, column), cells[row][column]) << row << "," << column;
     EXPECT_EQ(window.OpisText.Text, "two places");
+    const SheetTable table = window.Table();
+    EXPECT_EQ(table.RecordCount(), 2);
+    EXPECT_EQ(table.VariableCount(), 2);
+    EXPECT_EQ(table.RecordNames.Cells(), (std::vector<std::string>{"Biskupin", "Kraków"}));
+    EXPECT_EQ(table.VariableNames.Cells(), (std::vector<std::string>{"length", "width"}));
+    EXPECT_EQ(table.Cells.Cells(), (std::vector<std::string>{"1.500", "N/A", "-12.346", "1000.000"}));
     session.DecimalSeparator = ',';
     window.Present("");
     EXPECT_EQ(window.Grid1.Text(1, 2), "1,500");
