@@ -1,6 +1,7 @@
 #include "desktop/qt_platform.h"
 
 #include "desktop/qt_text.h"
+#include "platform/twips.h"
 #include "session/children.h"
 
 #include <QApplication>
@@ -8,12 +9,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
 #include <QTime>
+#include <QTreeView>
 #include <QUrl>
 
 #include <stdexcept>
@@ -22,8 +25,8 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr qint64 MillisecondsBetweenRuns = 8;
+constexpr QSize FileDialogSize(760, 480);
 
 // Over the window that the user works in.
 QWidget* ParentOfDialogs() {
@@ -100,21 +103,42 @@ Answer QtMessages::show(const Message& message) {
     }
 }
 
+namespace {
+
+// Behind each description the pattern itself, which is not shown: "*.*" means files without a dot too.
+QStringList NameFilters(const FileRequest& request) {
+    QStringList filters;
+    for (const auto& [description, wildcard] : request.Filters)
+        filters += QString("%1 (%2)").arg(dorvan::ToQt(description),
+                                          wildcard == "*.*" ? "*" : dorvan::ToQt(wildcard));
+    return filters;
+}
+
+// The names take what the other columns leave.
+void FitColumns(QFileDialog& dialog) {
+    dialog.resize(FileDialogSize);
+    auto* files = dialog.findChild<QTreeView*>("treeView"); // not there in a desktop's own dialog
+    if (!files) return;
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+} // namespace
+
 std::string QtFiles::Ask(QFileDialog& dialog, const FileRequest& request) {
     dispatch_.Mirror();
     const PlainCursor cursor;
     dialog.setObjectName("FileDialog");
     dialog.setWindowTitle(dorvan::ToQt(request.Title));
-    QStringList filters;
-    for (const auto& filter : request.Filters) {
-        const QString description = dorvan::ToQt(filter.Description);
-        const QString wildcard = "(" + dorvan::ToQt(filter.Wildcard) + ")";
-        filters += description.endsWith(wildcard) ? description : description + " " + wildcard;
-    }
-    dialog.setNameFilters(filters);
-    if (!request.StartFolder.empty()) dialog.setDirectory(dorvan::ToQt(request.StartFolder));
+    dialog.setNameFilters(NameFilters(request));
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the descriptions name their patterns
+    const QString folder = lastFolder_.isEmpty() ? dorvan::ToQt(request.StartFolder) : lastFolder_;
+    if (!folder.isEmpty()) dialog.setDirectory(folder);
+    FitColumns(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return FromQt(dialog.selectedFiles().first());
+    const QString chosen = dialog.selectedFiles().first();
+    lastFolder_ = QFileInfo(chosen).absolutePath();
+    return FromQt(chosen);
 }
 
 std::string QtFiles::toOpen(const FileRequest& request) {
@@ -187,7 +211,8 @@ ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
 
 void QtChildren::show(ChildWindow& window) {
     ChildFace* face = FaceOf(window);
-    if (!face) {
+    const bool isNew = !face;
+    if (isNew) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
@@ -197,6 +222,8 @@ void QtChildren::show(ChildWindow& window) {
     }
     face->Mirror();
     area_->setActiveSubWindow(face);
+    // In front of a maximized window the toolkit maximizes it as well.
+    if (isNew) face->MirrorMode();
 }
 
 void QtChildren::update(ChildWindow& window) {

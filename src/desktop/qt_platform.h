@@ -35,6 +35,7 @@ public:
 private:
     std::string Ask(QFileDialog& dialog, const FileRequest& request);
     EventDispatch& dispatch_;
+    QString lastFolder_; // of the run; empty until a file was chosen
 };
 
 class QtForms : public FormDisplay {

@@ -268,10 +268,10 @@ TEST_F(CommandLine, ASheetWithAnEmptyFieldIsRefusedAndOpensOnYes) {
     std::string empty = smallSheet;
     empty.replace(empty.find("10.000"), 6, "");
     writeFile(sheet, empty);
-    expectRefusal({"convert", sheet, out("new.mdt")}, sheet, "Line 16: \"\" is not a number", out("new.mdt"));
+    expectRefusal({"convert", sheet, out("new.mdt")}, sheet, "Line 18: \"\" is not a number", out("new.mdt"));
     const Outcome outcome = runCli({"convert", sheet, out("new.mdt"), "--yes"});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_NE(outcome.err.find("Line 16: \"\" is not a number"), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find("Line 18: \"\" is not a number"), std::string::npos) << outcome.err;
     EXPECT_EQ(fileBytes(out("new.mdt")), empty);
     EXPECT_EQ(runCli({"matrix", sheet, out("new.mtx"), "-y"}).status, 0);
     EXPECT_NE(fileBytes(out("new.mtx")).find("[MATRIX]\r\n0.000;0.000;1.000\r\n"), std::string::npos);

@@ -75,6 +75,30 @@ TEST_F(DiagramTest, ADoubleClickSelectsARowAndTheButtonsMoveIt) {
     EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
 }
 
+TEST_F(DiagramTest, ADoubleClickOnTheFixedRowLeavesTheSelectionAsItIs) {
+    ClickCell(ActiveGrid(), 2, 1);
+    DoubleClickCell(ActiveGrid(), 0, 3);
+    EXPECT_EQ(Diagram().RowSelected, 0);
+    EXPECT_EQ(Diagram().Siatka.Row(), 2);
+    DoubleClickCell(ActiveGrid(), 2, 0);
+    EXPECT_EQ(Diagram().SelectedRow, 2);
+    DoubleClickCell(ActiveGrid(), 0, 1);
+    EXPECT_EQ(Diagram().SelectedRow, 2);
+}
+
+TEST_F(DiagramTest, TheMovingButtonsFollowTheWindowInFront) {
+    DoubleClickCell(ActiveGrid(), 2, 1);
+    auto* selected = desktop.ports.children.FaceOf(*desktop.session.ActiveWindow);
+    desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    QCoreApplication::processEvents();
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command3").click(); });
+    Click("mnuAnalysisDiagram");
+    EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+    desktop.mainWindow->Area().setActiveSubWindow(selected);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Item("toolDiagram.Up").isEnabled());
+}
+
 TEST_F(DiagramTest, KeysReachTheTargetOfAnInsertion) {
     const std::string third = Name(3);
     ClickCell(ActiveGrid(), 3, 1);
