@@ -27,7 +27,7 @@ FloatTable DistancesOfPoints(std::int32_t n) {
     constexpr std::int32_t variables = 10;
     RandomSource random(static_cast<std::uint64_t>(n));
     FloatTable points(n, variables);
-    for (auto& value : points.Cells()) value = 50 * random.draw();
+    for (auto& value : points.Cells()) value = 50 * random.Draw();
     return DistancesBetweenRows(points, n, variables, {.Type = DistanceType::Euclidean});
 }
 

@@ -44,7 +44,7 @@ std::string Score(float (*scoreOf)(const FloatTable&), const FloatTable& distanc
     try {
         return FormatPattern(double(scoreOf(distances)), "###0.00000", separator);
     } catch (const RuntimeFailure& failure) {
-        return LowerCase(FailureText(failure.failure()));
+        return LowerCase(FailureText(failure.Kind()));
     }
 }
 

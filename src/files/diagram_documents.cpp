@@ -59,7 +59,7 @@ FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) 
                     DistanceBetween(values.Row(i), values.Row(j), values.Columns(), measure);
             } catch (const RuntimeFailure& failure) {
                 throw FileFault::OfWholeFile(fmt::format("The records {} and {} have no distance: {}", i, j,
-                                                         FailureText(failure.failure())));
+                                                         FailureText(failure.Kind())));
             }
     return distances;
 }

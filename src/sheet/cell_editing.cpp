@@ -37,7 +37,7 @@ Message TooLarge() {
 }
 
 Message Unexpected(const RuntimeFailure& failure) {
-    return {.Text = "Unexpected error #" + SignedText(failure.number()) +
+    return {.Text = "Unexpected error #" + SignedText(failure.Number()) +
                     " in processing that number.  Try again.",
             .Icon = MessageIcon::Exclamation,
             .Title = RefusalTitle};

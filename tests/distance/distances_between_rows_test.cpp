@@ -51,7 +51,7 @@ Outcome OutcomeOf(const std::function<FloatTable()>& compute) {
         const FloatTable distances = compute();
         for (const float cell : distances.Cells()) outcome.Bits.push_back(std::bit_cast<std::uint32_t>(cell));
     } catch (const RuntimeFailure& failure) {
-        outcome.FailureNumber = failure.number();
+        outcome.FailureNumber = failure.Number();
     }
     return outcome;
 }

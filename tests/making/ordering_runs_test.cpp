@@ -20,7 +20,7 @@ FloatTable RandomDistances(std::int32_t n, std::uint64_t seed) {
     RandomSource random(seed);
     FloatTable distances(n, n, 0.0F);
     for (std::int32_t i = 1; i <= n; ++i)
-        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 100 * random.draw();
+        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 100 * random.Draw();
     return distances;
 }
 
@@ -107,7 +107,7 @@ TEST_F(OrderingRun, CancelLaterGivesTheBestSoFar) {
         if (run == 3) Work().CancelCommand();
     };
     EXPECT_EQ(Run(3), whole.BestOrder);
-    EXPECT_EQ(session.random.position(), same.session.random.position());
+    EXPECT_EQ(session.random.Position(), same.session.random.Position());
 }
 
 TEST_F(OrderingRun, SimpleGeneticEndsWhenNoWindowIsLeft) {

@@ -18,7 +18,7 @@ TEST(StartSession, SeedsTheRandomSource) {
     TestSession test;
     StartSession(test.session, 77, "");
     RandomSource expected(77);
-    EXPECT_EQ(test.session.random.draw(), expected.draw());
+    EXPECT_EQ(test.session.random.Draw(), expected.Draw());
 }
 
 TEST(StartSession, ShowsTheMainToolbarAloneAndChecksItsMenuItem) {
@@ -145,7 +145,7 @@ TEST(ParseSheetNumber, RefusesWhatIsNoNumber) {
         ParseSheetNumber("stone", '.');
         FAIL();
     } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::TypeMismatch);
+        EXPECT_EQ(failure.Kind(), Failure::TypeMismatch);
     }
 }
 
