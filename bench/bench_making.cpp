@@ -17,8 +17,8 @@
 #include <random>
 #include <string>
 
-// The command Make Diagram on a sheet of 250 records, from the text of the sheet to the shown (but unpainted)
-// window, beside the plain making in the same run: the counter "ratio" tells how many times the plain one
+// The command Make Diagram on a sheet of 250 records, from the text of the sheet to the window with its grid
+// filled (but not painted), beside the plain making in the same run: the counter "ratio" tells how many times the plain one
 // takes as long.
 namespace dorvan {
 namespace {
