@@ -18,8 +18,8 @@
 #include <string>
 
 // The command Make Diagram on a sheet of 250 records, from the text of the sheet to the window with its grid
-// filled (but not painted), beside the plain making in the same run: the counter "ratio" tells how many times the plain one
-// takes as long.
+// filled (but not painted), beside the plain making in the same run: the counter "ratio" tells how many times
+// the plain one takes as long.
 namespace dorvan {
 namespace {
 
