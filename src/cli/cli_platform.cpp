@@ -2,7 +2,7 @@
 
 #include "distance/frmCustomized.h"
 #include "distance/frmOpcjeMacierzy.h"
-#include "distance/measure_lists.h"
+#include "distance/measures.h"
 #include "making/frmGenetic.h"
 #include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"

@@ -81,7 +81,8 @@ void Save(Run& run, const std::string& path) {
     } catch (const RuntimeFailure& failure) {
         throw SaveFailure(failure.what());
     }
-    if (!run.session.SilentFailure.empty()) throw SaveFailure(path + ": " + run.session.SilentFailure);
+    const std::string& silentFailure = run.session.Of<FileValues>().SilentFailure;
+    if (!silentFailure.empty()) throw SaveFailure(path + ": " + silentFailure);
 }
 
 void Write(const std::string& path, const std::string& bytes) {

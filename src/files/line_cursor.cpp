@@ -19,12 +19,12 @@ std::string Quoted(std::string_view bytes, const CodePage& codes) {
     std::string shown(bytes.substr(0, Longest));
     std::replace_if(
         shown.begin(), shown.end(), [](char sign) { return static_cast<unsigned char>(sign) < ' '; }, '?');
-    return fmt::format("\"{}{}\"", codes.toUtf8(shown), bytes.size() > Longest ? "..." : "");
+    return fmt::format("\"{}{}\"", codes.ToUtf8(shown), bytes.size() > Longest ? "..." : "");
 }
 
 std::string NoNumber(const RuntimeFailure& failure, std::string_view field, const CodePage& codes) {
     return fmt::format("{} {}", Quoted(field, codes),
-                       failure.failure() == Failure::Overflow ? "is out of range" : "is not a number");
+                       failure.Kind() == Failure::Overflow ? "is out of range" : "is not a number");
 }
 
 } // namespace
@@ -59,7 +59,7 @@ std::optional<std::string_view> SectionReader::Value(std::string_view key) {
 }
 
 std::string SectionReader::Text(std::string_view key) {
-    return text_.Codes.toUtf8(Value(key).value_or(std::string_view()));
+    return text_.Codes.ToUtf8(Value(key).value_or(std::string_view()));
 }
 
 HeaderCount SectionReader::Count(std::string_view key) {
@@ -95,7 +95,7 @@ void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters,
     labels.Cells().reserve(std::min<std::size_t>(std::size_t(count.Value), lines_.Remaining()));
     for (std::int32_t i = 1; i <= count.Value; ++i) {
         const std::string_view label = NextTrimmed(); // a byte is a character of the code page
-        labels.Append(text_.Codes.toUtf8(TrimSpaces(label.substr(0, mostCharacters))));
+        labels.Append(text_.Codes.ToUtf8(TrimSpaces(label.substr(0, mostCharacters))));
     }
 }
 

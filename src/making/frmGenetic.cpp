@@ -1,5 +1,6 @@
 #include "making/frmGenetic.h"
 
+#include "making/ordering_options.h"
 #include "numbers/number_text.h"
 
 namespace dorvan {
@@ -20,8 +21,9 @@ void frmGenetic::Form_Load() {
 }
 
 void frmGenetic::Command1_Click() {
-    session_.ordering.GeneticGenerations = Selected(cboGen);
-    session_.ordering.GeneticVariants = Selected(cboVar);
+    auto& options = session_.Of<OrderingOptions>();
+    options.GeneticGenerations = Selected(cboGen);
+    options.GeneticVariants = Selected(cboVar);
     Close(DialogResult::Accepted);
 }
 

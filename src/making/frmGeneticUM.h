@@ -1,5 +1,6 @@
 #pragma once
 
+#include "making/ordering_options.h"
 #include "session/dialog.h"
 
 #include <array>
