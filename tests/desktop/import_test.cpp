@@ -134,7 +134,7 @@ TEST_F(ImportTest, ATextMatrixBecomesAMatrix) {
     });
     Click("toolMain.ImportMatrix");
     EXPECT_EQ(Face().windowTitle(), "[MATRIX]: Imported matrix");
-    EXPECT_EQ(ActiveGrid().Shown().Text(1, 3), "1.300");
+    EXPECT_EQ(ActiveGrid().Shown()->Text(1, 3), "1.300");
 }
 
 TEST_F(ImportTest, ATableIsShownAndItsSelectedFieldsAreRead) {

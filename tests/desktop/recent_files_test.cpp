@@ -65,7 +65,7 @@ TEST_F(RecentFilesTest, TheListOutlivesTheRunInTheUsersConfiguration) {
     QSettings stored(QSettings::IniFormat, QSettings::UserScope, "Dorvan", "Dorvan");
     EXPECT_TRUE(stored.fileName().startsWith(folder_.path())) << "a folder of this test";
     EXPECT_EQ(stored.value("Recent Files/RecentFile1").toString(), path);
-    Session next(desktop.platform.platform);
+    Session next(desktop.ports.platform);
     StartSession(next, 1, "");
     EXPECT_EQ(RecentFilePath(next, 0), path.toStdString());
 }
