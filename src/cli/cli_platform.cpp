@@ -9,6 +9,8 @@
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "numbers/text.h"
+#include "view/frmDiagramType.h"
+#include "view/frmHistogram.h"
 
 #include <fmt/format.h>
 
@@ -76,6 +78,20 @@ void Fill(frmGeneticUM& form, const Choices& choices) {
     form.Command1_Click();
 }
 
+void Fill(frmDiagramType& form, const Choices& choices) {
+    form.Option1.Value = choices.type == "greyscale";
+    form.Option2.Value = choices.type == "dots";
+    form.Option3.Value = choices.type == "classic";
+    form.OKButton_Click();
+}
+
+void Fill(frmHistogram& form, const Choices& choices) {
+    TextBox* boxes[] = {&form.Text1, &form.Text2, &form.Text3, &form.Text4};
+    for (std::size_t number = 0; number < choices.limits.size() && number < std::size(boxes); ++number)
+        boxes[number]->Text = choices.limits[number];
+    form.Command1_Click();
+}
+
 std::string ProgressLine(const frmWork& form) {
     return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
                        form.lblFunkcja.Caption);
@@ -130,6 +146,8 @@ void CliPlatform::showModal(Form& form) {
     if (auto* diagram = dynamic_cast<frmPrzedzal*>(&form)) Fill(*diagram, choices);
     if (auto* genetic = dynamic_cast<frmGenetic*>(&form)) Fill(*genetic, choices);
     if (auto* ravelin = dynamic_cast<frmGeneticUM*>(&form)) Fill(*ravelin, choices);
+    if (auto* type = dynamic_cast<frmDiagramType*>(&form)) Fill(*type, choices);
+    if (auto* histogram = dynamic_cast<frmHistogram*>(&form)) Fill(*histogram, choices);
     if (!form.Visible) return;
     const std::string reason =
         messages.empty() ? "the dialog " + form.Name + " has no answer" : messages.back();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/drawn_text.h"
+#include "cli/offscreen_drawing.h"
 #include "cli/requests.h"
 #include "platform/platform.h"
 
@@ -28,12 +28,13 @@ class CliPlatform : public MessageBoxes,
                     public Screen,
                     public Clock,
                     public SettingsStore,
-                    public HelpViewer {
+                    public HelpViewer,
+                    public PictureClipboard {
 public:
     Choices choices;
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
-    DrawnText text;
+    OffscreenDrawing drawing;
 
     Platform platform{.messages = *this,
                       .files = *this,
@@ -45,7 +46,10 @@ public:
                       .screen = *this,
                       .clock = *this,
                       .settings = *this,
-                      .help = *this};
+                      .help = *this,
+                      .text = drawing,
+                      .raster = drawing,
+                      .clipboard = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return {}; }
@@ -71,6 +75,8 @@ public:
     void write(const std::string&, const std::string&, const std::string&) override {}
     std::vector<std::pair<std::string, std::string>> readSection(const std::string&) override { return {}; }
     void show(const std::string&, int) override {}
+    void clear() override {}
+    void put(const Drawing&) override {}
 
 private:
     Form* running_ = nullptr; // the progress window that is up

@@ -3,12 +3,15 @@
 #include "cli/cli_platform.h"
 #include "cli/information.h"
 #include "distance/frmMacierz.h"
+#include "export/modFreeImage.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
+#include "numbers/text.h"
 #include "program/open_document.h"
 #include "program/program.h"
 #include "session/frmMDI.h"
 #include "sheet/frmNotePad.h"
+#include "view/bitmap_drawing.h"
 #include "view/frmDiagram.h"
 
 #include <fmt/format.h>
@@ -63,6 +66,11 @@ void Open(Run& run, const std::string& path, std::initializer_list<std::string_v
     const bool opened = !kind.empty() && run.kind() == kind;
     run.tellRemarks(opened);
     if (!opened) throw run.refusal("the file could not be read");
+}
+
+frmDiagram& OpenDiagram(Run& run, const std::string& path) {
+    Open(run, path, {DocumentKind::Diagram});
+    return DiagramWindow(run.session, run.session.ActiveWindow->Index);
 }
 
 // A failure whose text names its file itself.
@@ -152,14 +160,51 @@ int RunInfo(const std::string& file, const Surroundings& surroundings) {
     });
 }
 
+int RunDerive(const std::string& what, const std::string& diagram, const std::string& out,
+              const Surroundings& surroundings) {
+    const auto wanted = what == "data" ? DocumentKind::Data : DocumentKind::Matrix;
+    if (KindOfFile(out) != wanted) {
+        fmt::print(stderr, "dorvan-cli: {} is no name of a {}\n", out, what);
+        return 2;
+    }
+    return Reported(diagram, [&] {
+        Run run({}, surroundings);
+        auto& window = OpenDiagram(run, diagram);
+        if (what == "data" && window.Document().NoData) throw Refusal("the diagram has no data behind it");
+        what == "data" ? window.DataOrder() : window.Matrix();
+        Save(run, out);
+    });
+}
+
+int RunRetype(const std::string& diagram, const std::string& out, const Choices& choices,
+              const Surroundings& surroundings) {
+    return Reported(diagram, [&] {
+        Run run(choices, surroundings);
+        auto& window = OpenDiagram(run, diagram);
+        if (!choices.type.empty()) window.DiagramType();
+        if (!choices.limits.empty()) window.Histogram();
+        Save(run, out);
+    });
+}
+
+int RunExportImage(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+    return Reported(diagram, [&] {
+        Run run({}, surroundings);
+        const auto& document = OpenDiagram(run, diagram).Document();
+        const Drawing drawing = BitmapDrawing(document, run.ports.drawing, run.session.DecimalSeparator);
+        const std::string bytes =
+            EncodedImage(run.ports.drawing.pixelsOf(drawing), ImageFormatOf(LowerCase(out)));
+        Write(out, bytes);
+    });
+}
+
 int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
                const Surroundings& surroundings) {
     return Reported(diagram, [&] {
         Run run({}, surroundings);
-        Open(run, diagram, {DocumentKind::Diagram});
-        const auto& document = DiagramWindow(run.session, run.session.ActiveWindow->Index).Document();
-        const Drawing drawing = PictureOf(document, choices, run.ports.text, run.session.DecimalSeparator);
-        run.ports.text.StartToolkit();
+        const auto& document = OpenDiagram(run, diagram).Document();
+        const Drawing drawing = PictureOf(document, choices, run.ports.drawing, run.session.DecimalSeparator);
+        run.ports.drawing.StartToolkit();
         Write(out, PictureBytes(drawing, out, choices.scale));
     });
 }

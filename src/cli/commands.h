@@ -15,6 +15,11 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
                const Surroundings& surroundings);
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings);
 int RunInfo(const std::string& file, const Surroundings& surroundings);
+int RunDerive(const std::string& what, const std::string& diagram, const std::string& out,
+              const Surroundings& surroundings); // "matrix" or "data"
+int RunRetype(const std::string& diagram, const std::string& out, const Choices& choices,
+              const Surroundings& surroundings); // type and limits, as far as they are chosen
+int RunExportImage(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
 int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
                const Surroundings& surroundings);
 

@@ -1,6 +1,8 @@
 #include "cli/commands.h"
 #include "cli/manual_page.h"
+#include "export/modFreeImage.h"
 #include "numbers/code_page.h"
+#include "numbers/text.h"
 #include "session/session.h"
 
 #include <CLI/CLI.hpp>
@@ -30,6 +32,7 @@ const auto IsKnownCodePage = CLI::Validator(
 struct Arguments {
     std::string input;
     std::string output;
+    std::string what; // to derive
     Choices choices;
     PictureChoices picture;
     Surroundings surroundings;
@@ -159,6 +162,56 @@ void AddInfo(CLI::App& app, Arguments& arguments) {
     command->footer("Example:\n  dorvan-cli info USArrests.dgr");
 }
 
+const auto IsImage = CLI::Validator(
+    [](std::string& path) {
+        return ImageFormatOf(LowerCase(path)) ? std::string() : "no .bmp, .tif or .png: " + path;
+    },
+    "");
+
+void AddDerive(CLI::App& app, Arguments& arguments) {
+    auto* command =
+        app.add_subcommand("derive", "Take the matrix or the data out of a diagram, in its order");
+    command->add_option("WHAT", arguments.what, "matrix or data")
+        ->required()
+        ->check(CLI::IsMember({"matrix", "data"}));
+    command->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
+    command->add_option("OUT", arguments.output, "document to write (.mtx or .mdt)")->required();
+    AddCodePage(*command, arguments);
+    command->footer("Examples:\n"
+                    "  dorvan-cli derive matrix USArrests.dgr ordered.mtx\n"
+                    "  dorvan-cli derive data USArrests.dgr ordered.mdt");
+}
+
+void AddRetype(CLI::App& app, Arguments& arguments) {
+    auto* command = app.add_subcommand("retype", "Give a diagram another type, or other section limits");
+    command->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
+    command->add_option("OUT", arguments.output, "diagram to write (.dgr)")->required();
+    command->add_option("--type", arguments.choices.type, "greyscale, dots or classic (as it is)")
+        ->check(CLI::IsMember({"greyscale", "dots", "classic"}));
+    command
+        ->add_option("--limits", arguments.choices.limits,
+                     "the four limits of the sections, rising; not from 182 records on (as they are)")
+        ->delimiter(',')
+        ->expected(4);
+    AddCodePage(*command, arguments);
+    command->footer("Examples:\n"
+                    "  dorvan-cli retype USArrests.dgr grey.dgr --type greyscale\n"
+                    "  dorvan-cli retype USArrests.dgr narrow.dgr --limits 10,20,40,80");
+}
+
+void AddExport(CLI::App& app, Arguments& arguments) {
+    auto* group = app.add_subcommand("export", "Write a document in another program's format");
+    group->require_subcommand(1);
+    auto* image = group->add_subcommand("image", "The bitmap of a diagram as an image of 256 greys");
+    image->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
+    image->add_option("OUT", arguments.output, "image to write (.bmp, .tif or .png)")
+        ->required()
+        ->check(IsImage);
+    AddCodePage(*image, arguments);
+    image->footer("Example:\n  dorvan-cli export image USArrests.dgr USArrests.png");
+    group->footer("Example:\n  dorvan-cli export image USArrests.dgr USArrests.tif");
+}
+
 const auto IsPicture = CLI::Validator(
     [](std::string& path) { return IsPictureName(path) ? std::string() : "no .svg, .pdf or .png: " + path; },
     "");
@@ -182,10 +235,13 @@ void AddPicture(CLI::App& app, Arguments& arguments) {
 }
 
 int Run(const CLI::App& app, const Arguments& arguments) {
-    const auto& [input, output, choices, picture, surroundings] = arguments;
+    const auto& [input, output, what, choices, picture, surroundings] = arguments;
     if (app.got_subcommand("matrix")) return RunMatrix(input, output, choices, surroundings);
     if (app.got_subcommand("diagram")) return RunDiagram(input, output, choices, surroundings);
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
+    if (app.got_subcommand("derive")) return RunDerive(what, input, output, surroundings);
+    if (app.got_subcommand("retype")) return RunRetype(input, output, choices, surroundings);
+    if (app.got_subcommand("export")) return RunExportImage(input, output, surroundings);
     if (app.got_subcommand("info")) return RunInfo(input, surroundings);
     return RunPicture(input, output, picture, surroundings);
 }
@@ -202,6 +258,9 @@ int main(int argc, char** argv) {
     AddDiagram(app, arguments);
     AddConvert(app, arguments);
     AddInfo(app, arguments);
+    AddDerive(app, arguments);
+    AddRetype(app, arguments);
+    AddExport(app, arguments);
     AddPicture(app, arguments);
     app.footer("dorvan-cli SUBCOMMAND --help shows options and examples.\n"
                "Exit status: 0 done, 1 refused or failed, 2 wrong usage.");

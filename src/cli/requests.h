@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace dorvan::cli {
 
@@ -15,6 +16,7 @@ struct Choices {
     std::string parameterR;
     std::string order;                          // none, simple, genetic, ravelin
     std::string type;                           // greyscale, dots, classic
+    std::vector<std::string> limits;            // of the sections, four, as texts
     std::string generations;                    // an item of the dialog's list
     std::string variants;                       // likewise
     std::map<std::string, std::string> ravelin; // text by field, such as {"Text4", "50"}

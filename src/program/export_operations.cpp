@@ -1,7 +1,10 @@
 #include "program/registering.h"
+#include "view/frmBMP.h"
 
 namespace dorvan {
 
-void RegisterExportOperations(Session&) {}
+void RegisterExportOperations(Session& session) {
+    Register(session, "frmBMP.SaveBMP", BitmapWindow, &frmBMP::SaveBMP);
+}
 
 } // namespace dorvan

@@ -41,15 +41,6 @@ constexpr const char* NotBuiltYet[] = {
     // Printing
     "frmDiagram.PrintDiagram",
     "frmMacierz.PrintMatrix",
-    // Pictures and derived documents
-    "frmBMP.BitmapClip",
-    "frmBMP.SaveBMP",
-    "frmDiagram.BITMAP",
-    "frmDiagram.DataOrder",
-    "frmDiagram.DiagramType",
-    "frmDiagram.Histogram",
-    "frmDiagram.Linear",
-    "frmDiagram.Matrix",
 };
 
 TEST(Compose, EveryOperationThatACommandNamesIsRegisteredOrKnownToBeMissing) {
