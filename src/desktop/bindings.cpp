@@ -280,15 +280,11 @@ void Bindings::Mirror() {
     MirrorFocus();
     mirroring_ = false;
     QWidget* focus = root_->focusWidget();
-    if (form_ && focus && focus->isVisibleTo(root_)) FocusIn(focus);
+    if (form_ && focus && focus->isVisibleTo(root_)) FocusIn(focus, Qt::OtherFocusReason);
 }
 
 void Bindings::MirrorFocus() {
-    if (!active_ || active_()) PlaceFocus();
-}
-
-void Bindings::PlaceFocus() {
-    if (!form_ || !form_->ActiveControl) return;
+    if (!form_ || !form_->ActiveControl || (active_ && !active_())) return;
     QWidget* wanted = WidgetOf(form_->ActiveControl);
     if (wanted && wanted->isVisibleTo(root_) && wanted->isEnabledTo(root_) && root_->focusWidget() != wanted)
         wanted->setFocus(Qt::OtherFocusReason);
@@ -303,8 +299,9 @@ void Bindings::Detach() {
     }
 }
 
-void Bindings::FocusIn(QWidget* widget) {
-    if (mirroring_) return;
+// A window that comes to the front has its focus where it was; the toolkit may have chosen another widget.
+void Bindings::FocusIn(QWidget* widget, Qt::FocusReason reason) {
+    if (mirroring_ || (active_ && !active_() && reason != Qt::MouseFocusReason)) return;
     for (const auto& [bound, control] : widgets_)
         if (bound == widget) form_->ActiveControl = control;
 }
@@ -346,7 +343,7 @@ bool Bindings::eventFilter(QObject* watched, QEvent* event) {
     if (!form_ || passing_) return false;
     auto* widget = static_cast<QWidget*>(watched);
     switch (event->type()) {
-    case QEvent::FocusIn: FocusIn(widget); return false;
+    case QEvent::FocusIn: FocusIn(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::KeyPress: {
         const auto field = fields_.find(watched);

@@ -123,9 +123,16 @@ void MainWindowFace::MirrorToolbars() {
     }
 }
 
+// A maximized child window has no title of its own.
+QString MainWindowFace::Title() const {
+    const QString caption = ToQt(session_.mainWindow.Caption);
+    const ChildWindow* active = session_.ActiveWindow;
+    if (!active || active->Mode != WindowMode::Maximized) return caption;
+    return caption + " - [" + ToQt(active->Caption) + "]"; // as the toolkit writes it
+}
+
 void MainWindowFace::Mirror() {
-    if (const QString title = ToQt(session_.mainWindow.Caption); windowTitle() != title)
-        setWindowTitle(title);
+    if (const QString title = Title(); windowTitle() != title) setWindowTitle(title);
     for (const auto& [name, action] : items_) {
         action->setEnabled(shell_.MenuEnabled(name));
         action->setVisible(shell_.MenuShown(name));

@@ -1,5 +1,6 @@
 #include "desktop/qt_platform.h"
 
+#include "desktop/arrangement.h"
 #include "desktop/qt_text.h"
 #include "painting/raster_player.h"
 #include "platform/twips.h"
@@ -17,6 +18,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
+#include <QStyle>
 #include <QTime>
 #include <QTreeView>
 #include <QUrl>
@@ -29,6 +31,7 @@ namespace {
 
 constexpr qint64 MillisecondsBetweenRuns = 8;
 constexpr QSize FileDialogSize(760, 480);
+constexpr int CascadeGap = 6; // pixels, below a title
 
 // Over the window that the user works in.
 QWidget* ParentOfDialogs() {
@@ -219,7 +222,6 @@ void QtChildren::show(ChildWindow& window) {
         faces_[&window] = face;
         area_->addSubWindow(face);
         face->Place();
-        face->Binder().PlaceFocus(); // or the first field in order would get it
         face->show();
     }
     face->Mirror();
@@ -242,9 +244,31 @@ void QtChildren::close(ChildWindow& window) {
     face->deleteLater();
 }
 
+// Those that are no icons.
+QList<QMdiSubWindow*> QtChildren::ArrangedWindows(QMdiArea::WindowOrder order) const {
+    QList<QMdiSubWindow*> windows = area_->subWindowList(order);
+    windows.removeIf([](const QMdiSubWindow* window) { return window->isMinimized(); });
+    return windows;
+}
+
+void QtChildren::Arrange(const QList<QMdiSubWindow*>& windows, const std::vector<QRect>& places) {
+    for (int window = 0; window < windows.size(); ++window) {
+        if (windows[window]->isMaximized()) windows[window]->showNormal();
+        windows[window]->setGeometry(places[std::size_t(window)]);
+    }
+}
+
 void QtChildren::arrange(int mode) {
-    if (mode == 0) area_->cascadeSubWindows();
-    if (mode == 1) area_->tileSubWindows();
+    const QSize room = area_->viewport()->size();
+    if (mode == 0) {
+        const auto windows = ArrangedWindows(QMdiArea::StackingOrder);
+        const int step = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight) + CascadeGap;
+        Arrange(windows, CascadePlaces(room, int(windows.size()), step));
+    }
+    if (mode == 1) {
+        const auto windows = ArrangedWindows(QMdiArea::CreationOrder);
+        Arrange(windows, TilePlaces(room, int(windows.size())));
+    }
     if (mode == 3) ArrangeIcons();
 }
 

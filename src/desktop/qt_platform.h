@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 
 #include <QElapsedTimer>
+#include <QMdiArea>
 #include <QPointer>
 
 #include <map>
@@ -14,7 +15,6 @@
 #include <vector>
 
 class QFileDialog;
-class QMdiArea;
 
 // The ports on a real screen.
 namespace dorvan {
@@ -72,6 +72,8 @@ public:
 
 private:
     void FollowScreen();
+    QList<QMdiSubWindow*> ArrangedWindows(QMdiArea::WindowOrder order) const;
+    void Arrange(const QList<QMdiSubWindow*>& windows, const std::vector<QRect>& places);
     void ArrangeIcons();
 
     std::unique_ptr<ChildContext> context_;
