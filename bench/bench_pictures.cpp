@@ -1,4 +1,5 @@
 #include "export/modFreeImage.h"
+#include "export/modWMF.h"
 #include "painting/picture_files.h"
 #include "painting/raster_player.h"
 #include "painting/rasterizer.h"
@@ -57,6 +58,13 @@ void EncodeBitmap(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(EncodedImage(pixels, ImageFormat::Png));
 }
 BENCHMARK(EncodeBitmap)->Unit(benchmark::kMillisecond);
+
+void WriteMetafile(benchmark::State& state) {
+    const DiagramDocument document = LargestDiagram(2);
+    const CodePage codes;
+    for (auto _ : state) benchmark::DoNotOptimize(DrawDiagram(document, '.', codes));
+}
+BENCHMARK(WriteMetafile)->Unit(benchmark::kMillisecond);
 
 void WritePdf(benchmark::State& state) {
     const Drawing drawing = LargestDrawing(2);

@@ -4,6 +4,7 @@
 #include "cli/information.h"
 #include "distance/frmMacierz.h"
 #include "export/modFreeImage.h"
+#include "export/modWMF.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
 #include "numbers/text.h"
@@ -195,6 +196,20 @@ int RunExportImage(const std::string& diagram, const std::string& out, const Sur
         const std::string bytes =
             EncodedImage(run.ports.drawing.pixelsOf(drawing), ImageFormatOf(LowerCase(out)));
         Write(out, bytes);
+    });
+}
+
+int RunExportMetafile(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+    return Reported(diagram, [&] {
+        Run run({}, surroundings);
+        const auto& document = OpenDiagram(run, diagram).Document();
+        const std::string bytes = PlaceableHeader(BoxOfDiagram(document.RecCount)) +
+                                  DrawDiagram(document, run.session.DecimalSeparator, run.session.codePage);
+        try {
+            WriteOverStart(out, bytes);
+        } catch (const FileError& error) {
+            throw SaveFailure(fmt::format("{}: {}", out, error.what()));
+        }
     });
 }
 

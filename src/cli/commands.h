@@ -20,6 +20,7 @@ int RunDerive(const std::string& what, const std::string& diagram, const std::st
 int RunRetype(const std::string& diagram, const std::string& out, const Choices& choices,
               const Surroundings& surroundings); // type and limits, as far as they are chosen
 int RunExportImage(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
+int RunExportMetafile(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
 int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
                const Surroundings& surroundings);
 

@@ -209,7 +209,16 @@ void AddExport(CLI::App& app, Arguments& arguments) {
         ->check(IsImage);
     AddCodePage(*image, arguments);
     image->footer("Example:\n  dorvan-cli export image USArrests.dgr USArrests.png");
-    group->footer("Example:\n  dorvan-cli export image USArrests.dgr USArrests.tif");
+    auto* metafile =
+        group->add_subcommand("metafile", "The dots form of a diagram as a placeable metafile (WMF)");
+    metafile->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
+    metafile->add_option("OUT", arguments.output, "metafile to write (.wmf); a longer file keeps its tail")
+        ->required();
+    AddCodePage(*metafile, arguments);
+    metafile->footer("Example:\n  dorvan-cli export metafile USArrests.dgr USArrests.wmf");
+    group->footer("Examples:\n"
+                  "  dorvan-cli export image USArrests.dgr USArrests.tif\n"
+                  "  dorvan-cli export metafile USArrests.dgr USArrests.wmf");
 }
 
 const auto IsPicture = CLI::Validator(
@@ -241,7 +250,9 @@ int Run(const CLI::App& app, const Arguments& arguments) {
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
     if (app.got_subcommand("derive")) return RunDerive(what, input, output, surroundings);
     if (app.got_subcommand("retype")) return RunRetype(input, output, choices, surroundings);
-    if (app.got_subcommand("export")) return RunExportImage(input, output, surroundings);
+    if (const auto* group = app.get_subcommand("export"); group->parsed())
+        return group->got_subcommand("image") ? RunExportImage(input, output, surroundings)
+                                              : RunExportMetafile(input, output, surroundings);
     if (app.got_subcommand("info")) return RunInfo(input, surroundings);
     return RunPicture(input, output, picture, surroundings);
 }

@@ -66,6 +66,10 @@ public:
     void Matrix();
     void BITMAP();
 
+    // Asks for a path and writes the dots form of the diagram as a placeable metafile over the start of that
+    // file, of which a longer one keeps its tail.
+    void Metafile();
+
     // Switches the five moving buttons of toolDiagram.
     void SetIcons(bool enabled);
 

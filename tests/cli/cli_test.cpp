@@ -545,5 +545,17 @@ TEST_F(CommandLineDiagram, ImageThatCannotBeWrittenIsTold) {
     EXPECT_EQ(runCli({"export"}).status, 2);
 }
 
+TEST_F(CommandLineDiagram, MetafileIsWrittenOverTheStartOfTheFile) {
+    const Outcome outcome = runCli({"export", "metafile", diagram, out("d.wmf")});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const std::string metafile = fileBytes(out("d.wmf"));
+    EXPECT_EQ(metafile.substr(0, 4), "\xD7\xCD\xC6\x9A");
+    writeFile(out("old.wmf"), std::string(100'000, 'x'));
+    ASSERT_EQ(runCli({"export", "metafile", diagram, out("old.wmf")}).status, 0);
+    EXPECT_EQ(fileBytes(out("old.wmf")), metafile + std::string(100'000 - metafile.size(), 'x'));
+    expectRefusal({"export", "metafile", diagram, out("missing/d.wmf")}, "missing/d.wmf", "No such file",
+                  out("missing/d.wmf"));
+}
+
 } // namespace
 } // namespace dorvan::test

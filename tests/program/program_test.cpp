@@ -35,7 +35,6 @@ constexpr const char* NotBuiltYet[] = {
     "ExportData",
     "ExportDataToExcel",
     "frmDiagram.ExportDiagramToExcel",
-    "frmDiagram.Metafile",
     "frmMacierz.ExportMatrix",
     "frmMacierz.ExportMatrixToExcel",
     // Printing
