@@ -77,7 +77,7 @@ struct SilentSession : SilentPorts {
                       .clock = *this,
                       .settings = *this,
                       .help = *this,
-                      .text = *this,
+                      .fonts = *this,
                       .raster = *this,
                       .clipboard = *this};
     Session session{platform};

@@ -47,7 +47,7 @@ public:
                       .clock = *this,
                       .settings = *this,
                       .help = *this,
-                      .text = drawing,
+                      .fonts = drawing,
                       .raster = drawing,
                       .clipboard = *this};
 

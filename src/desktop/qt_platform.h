@@ -167,7 +167,7 @@ struct QtPlatform {
     QtClock clock;
     QtSettings settings;
     QtHelp help;
-    painting::QtTextMeasure text;
+    painting::QtTextMeasure fonts;
     painting::QtRasterizer raster;
     QtClipboard clipboard;
     Platform platform{.messages = messages,
@@ -181,7 +181,7 @@ struct QtPlatform {
                       .clock = clock,
                       .settings = settings,
                       .help = help,
-                      .text = text,
+                      .fonts = fonts,
                       .raster = raster,
                       .clipboard = clipboard};
 };

@@ -21,7 +21,7 @@ struct Platform {
     Clock& clock;
     SettingsStore& settings;
     HelpViewer& help;
-    TextMeasure& text;
+    TextMeasure& fonts;
     Rasterizer& raster;
     PictureClipboard& clipboard;
 };

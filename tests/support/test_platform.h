@@ -133,7 +133,7 @@ struct TestPlatform {
     ManualClock clock;
     MemorySettings settings;
     RecordingHelp help;
-    FixedMeasure text;
+    FixedMeasure fonts;
     BlankRasterizer raster;
     RecordingClipboard clipboard;
     Platform platform{.messages = messages,
@@ -147,7 +147,7 @@ struct TestPlatform {
                       .clock = clock,
                       .settings = settings,
                       .help = help,
-                      .text = text,
+                      .fonts = fonts,
                       .raster = raster,
                       .clipboard = clipboard};
 

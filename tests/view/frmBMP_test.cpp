@@ -38,7 +38,7 @@ TEST_F(BitmapTest, IsANewDocumentWithTheDrawingOfItsDiagram) {
     EXPECT_EQ(window.Tag, "1");
     EXPECT_EQ(window.Index, 1);
     EXPECT_TRUE(session.BitmapStates[1].Dirty);
-    EXPECT_TRUE(sameDrawing(window.Bmp.Shown(), BitmapDrawing(diagram.Document(), text, '.')));
+    EXPECT_TRUE(sameDrawing(window.Bmp.Shown(), BitmapDrawing(diagram.Document(), fonts, '.')));
     EXPECT_EQ(window.XBmp.Text, "7900");
     EXPECT_EQ(window.YBmp.Text, "2700");
     EXPECT_EQ(signals.cursors, (std::vector{Cursor::Wait, Cursor::Default}));

@@ -55,7 +55,7 @@ struct HistogramTest : ::testing::Test, DiagramSession {
     }
 
     Drawing chart(std::array<std::int16_t, 5> heights, bool cumulative = false) {
-        return HistogramDrawing(heights, cumulative, text);
+        return HistogramDrawing(heights, cumulative, fonts);
     }
 };
 

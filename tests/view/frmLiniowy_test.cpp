@@ -25,7 +25,7 @@ struct LinearGraphTest : ::testing::Test, DiagramSession {
         window.Linear();
     }
 
-    Drawing graphOf(const DiagramDocument& document) { return LinearGraphDrawing(document, text, '.'); }
+    Drawing graphOf(const DiagramDocument& document) { return LinearGraphDrawing(document, fonts, '.'); }
 };
 
 TEST_F(LinearGraphTest, DrawsAtTheResizeOfItsShowingAndNotAgain) {
