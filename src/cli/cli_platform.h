@@ -1,11 +1,14 @@
 #pragma once
 
 #include "cli/offscreen_drawing.h"
-#include "cli/requests.h"
 #include "platform/platform.h"
 
+#include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
+#include <typeindex>
+#include <utility>
 #include <vector>
 
 namespace dorvan::cli {
@@ -16,8 +19,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// The ports of a run without a screen. Messages are kept; a dialog is filled from the user's choices and its
-// OK is pressed; a dialog that stays open after that is a refusal with its last message.
+// The ports of a run without a screen. Messages are kept; a dialog gets the answer that was left for
+// its class; one that stays open after that is a refusal with its last message.
 class CliPlatform : public MessageBoxes,
                     public FileChoice,
                     public FormDisplay,
@@ -31,10 +34,17 @@ class CliPlatform : public MessageBoxes,
                     public HelpViewer,
                     public PictureClipboard {
 public:
-    Choices choices;
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
     OffscreenDrawing drawing;
+    std::string fileToOpen; // what the dialog for opening answers
+
+    // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
+    template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {
+        answers_[typeid(Dialog)] = [answer = std::move(answer)](Form& form) {
+            answer(dynamic_cast<Dialog&>(form));
+        };
+    }
 
     Platform platform{.messages = *this,
                       .files = *this,
@@ -52,7 +62,7 @@ public:
                       .clipboard = *this};
 
     Answer show(const Message& message) override;
-    std::string toOpen(const FileRequest&) override { return {}; }
+    std::string toOpen(const FileRequest&) override { return fileToOpen; }
     std::string toSave(const FileRequest&) override { return {}; }
     void showModal(Form& form) override;
     void show(Form& form) override;
@@ -79,6 +89,7 @@ public:
     void put(const Drawing&) override {}
 
 private:
+    std::map<std::type_index, std::function<void(Form&)>> answers_;
     Form* running_ = nullptr; // the progress window that is up
     double shownAt_ = 0;      // when its bar was shown last; 0 when there is none
 };

@@ -38,7 +38,7 @@ void frmBMP::SaveBMP(const std::string& path) {
 
 void frmBMP::WriteImage(const std::string& target) {
     const WaitCursor waiting(session_.platform);
-    std::string& silentFailure = session_.SilentFailure;
+    std::string& silentFailure = session_.Of<FileValues>().SilentFailure;
     silentFailure.clear();
     try {
         const auto format = ImageFormatOf(target);

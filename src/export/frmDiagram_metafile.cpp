@@ -21,12 +21,12 @@ void frmDiagram::Metafile() {
     const std::string target = PickFileToSave(session_, FileFilters{FileFilter{"WMF (*.wmf)", "*.wmf"}},
                                               " - Save metafile (WMF)", "*.wmf");
     if (target.empty()) return;
-    session_.SilentFailure.clear();
+    session_.Of<FileValues>().SilentFailure.clear();
     try {
         WriteOverStart(target, PlaceableHeader(BoxOfDiagram(document.RecCount)) +
                                    DrawDiagram(document, session_.DecimalSeparator, session_.codePage));
     } catch (const FileError& error) {
-        session_.SilentFailure = error.what();
+        session_.Of<FileValues>().SilentFailure = error.what();
     }
 }
 

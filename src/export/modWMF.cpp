@@ -72,7 +72,7 @@ private:
         device_.DeleteObject(brush);
     }
 
-    void Write(int x, int y, std::string_view text) { device_.TextOut(x, y, codes_.fromUtf8(text)); }
+    void Write(int x, int y, std::string_view text) { device_.TextOut(x, y, codes_.FromUtf8(text)); }
 
     void DrawNumbers() {
         for (int line = 0; line <= count_; ++line) {

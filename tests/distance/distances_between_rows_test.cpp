@@ -1,4 +1,4 @@
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "distance/plain_measures.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
@@ -51,7 +51,7 @@ Outcome OutcomeOf(const std::function<FloatTable()>& compute) {
         const FloatTable distances = compute();
         for (const float cell : distances.Cells()) outcome.Bits.push_back(std::bit_cast<std::uint32_t>(cell));
     } catch (const RuntimeFailure& failure) {
-        outcome.FailureNumber = failure.number();
+        outcome.FailureNumber = failure.Number();
     }
     return outcome;
 }
@@ -62,9 +62,9 @@ bool ExpectLikePlain(const FloatTable& values, std::int32_t n, std::int32_t m, c
     const Outcome fast = OutcomeOf([&] { return DistancesBetweenRows(values, n, m, measure); });
     const Outcome plain = OutcomeOf([&] { return test::plainDistances(values, n, m, measure); });
     EXPECT_EQ(fast.FailureNumber, plain.FailureNumber)
-        << what << ", measure " << measure.Type << ", n " << n << ", m " << m;
+        << what << ", measure " << int(measure.Type) << ", n " << n << ", m " << m;
     EXPECT_TRUE(fast.Bits == plain.Bits)
-        << what << ", measure " << measure.Type << ", n " << n << ", m " << m;
+        << what << ", measure " << int(measure.Type) << ", n " << n << ", m " << m;
     return fast.FailureNumber == 0;
 }
 
@@ -83,7 +83,7 @@ const SheetKind SheetKinds[] = {{"decimals", Decimal},
 
 class EachMeasure : public ::testing::TestWithParam<int> {
 protected:
-    Measure measure{static_cast<std::int16_t>(GetParam()), 3, 3};
+    Measure measure{DistanceType(GetParam()), 3, 3};
 };
 
 INSTANTIATE_TEST_SUITE_P(DistancesBetweenRows, EachMeasure, ::testing::Range(1, 11));
@@ -236,22 +236,22 @@ TEST(DistancesBetweenRows, FailsOutsideTheTable) {
 
 TEST(ComputeDistanceMatrix, ReplacesTheDistancesByThoseOfTheMeasureInForce) {
     test::TestSession test;
-    test.session.DataValues = RandomSheet(33, 10, 43u, Decimal);
-    test.session.DistanceValues = FloatTable(99, 99, 1.0f);
+    test.session.tables.DataValues = RandomSheet(33, 10, 43u, Decimal);
+    test.session.tables.DistanceValues = FloatTable(99, 99, 1.0f);
     for (std::int16_t type = 0; type <= 10; ++type) {
         test.session.CurrentDistType = type;
         test.session.Par_P = 3;
         test.session.Par_R = 2;
         if (type == DistanceType::LanceAndWilliams || type == DistanceType::Jaccard) continue;
         EXPECT_TRUE(ComputeDistanceMatrix(test.session, 33, 10));
-        EXPECT_EQ(test.session.DistanceValues,
-                  test::plainDistances(test.session.DataValues, 33, 10, {type, 3, 2}));
+        EXPECT_EQ(test.session.tables.DistanceValues,
+                  test::plainDistances(test.session.tables.DataValues, 33, 10, {type, 3, 2}));
     }
 }
 
 TEST(ComputeDistanceMatrix, ShowsTheWaitCursorAndSetsItBack) {
     test::TestSession test;
-    test.session.DataValues = FloatTable(2, 1);
+    test.session.tables.DataValues = FloatTable(2, 1);
     ComputeDistanceMatrix(test.session, 2, 1);
     EXPECT_EQ(test.signals.cursors, (std::vector{Cursor::Wait, Cursor::Default}));
 }
