@@ -103,21 +103,18 @@ TEST(StartSession, TurnsOffWhatNeedsADocument) {
 TEST(StartSession, LoadsTheRecentFilesBeforeTheCommandsGoOff) {
     TestSession test;
     auto& session = test.session;
-    bool loaded = false;
     session.mainWindow.EnableMenu("mnuSave", true);
     session.mainWindow.TypeOfForm.clear();
-    session.commands.Set("LoadRecentFiles", [&](const CommandCall&) {
-        loaded = true;
+    test.settings.onRead = [&] {
         EXPECT_EQ(session.MaxDiagramRecords, 250);
         EXPECT_TRUE(session.mainWindow.MenuEnabled("mnuSave"));
         EXPECT_EQ(session.mainWindow.TypeOfForm, "");
-        session.mainWindow.ShowMenu(RecentFileItem(1), true);
-    });
+    };
+    test.settings.sections["Recent Files"]["RecentFile1"] = "a.mdt";
     StartSession(session, 1, "");
-    EXPECT_TRUE(loaded);
     EXPECT_FALSE(session.mainWindow.MenuEnabled("mnuSave"));
-    EXPECT_FALSE(session.mainWindow.MenuShown(RecentFileItem(0)));
-    EXPECT_TRUE(session.mainWindow.MenuShown(RecentFileItem(1)));
+    EXPECT_TRUE(session.mainWindow.MenuShown(RecentFileItem(0)));
+    EXPECT_FALSE(session.mainWindow.MenuShown(RecentFileItem(1)));
 }
 
 TEST(DecimalSeparator, IsTheFirstOfPointAndCommaInTheLocalesNumber) {

@@ -80,12 +80,14 @@ void RecordingKeyboard::send(const std::string& keys) {
 
 std::string MemorySettings::read(const std::string& section, const std::string& key,
                                  const std::string& missing) {
+    if (onRead) onRead();
     const auto found = sections[section].find(key);
     return found == sections[section].end() ? missing : found->second;
 }
 
 void MemorySettings::write(const std::string& section, const std::string& key, const std::string& value) {
     sections[section][key] = value;
+    if (onWrite) onWrite(key, value);
 }
 
 std::vector<std::pair<std::string, std::string>> MemorySettings::readSection(const std::string& section) {

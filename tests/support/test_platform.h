@@ -92,6 +92,8 @@ public:
 class MemorySettings : public SettingsStore {
 public:
     std::map<std::string, std::map<std::string, std::string>> sections;
+    std::function<void()> onRead = {};
+    std::function<void(const std::string& key, const std::string& value)> onWrite = {};
     std::string read(const std::string& section, const std::string& key, const std::string& missing) override;
     void write(const std::string& section, const std::string& key, const std::string& value) override;
     std::vector<std::pair<std::string, std::string>> readSection(const std::string& section) override;
