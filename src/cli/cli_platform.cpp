@@ -130,6 +130,7 @@ void CliPlatform::showModal(Form& form) {
     if (auto* diagram = dynamic_cast<frmPrzedzal*>(&form)) Fill(*diagram, choices);
     if (auto* genetic = dynamic_cast<frmGenetic*>(&form)) Fill(*genetic, choices);
     if (auto* ravelin = dynamic_cast<frmGeneticUM*>(&form)) Fill(*ravelin, choices);
+    if (onDialog) onDialog(form);
     if (!form.Visible) return;
     const std::string reason =
         messages.empty() ? "the dialog " + form.Name + " has no answer" : messages.back();

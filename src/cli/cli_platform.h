@@ -4,6 +4,7 @@
 #include "cli/requests.h"
 #include "platform/platform.h"
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
     DrawnText text;
+    std::function<void(Form&)> onDialog = {}; // answers a dialog that the choices do not know
+    std::string fileToOpen;                   // what the open dialog answers
 
     Platform platform{.messages = *this,
                       .files = *this,
@@ -48,7 +51,7 @@ public:
                       .help = *this};
 
     Answer show(const Message& message) override;
-    std::string toOpen(const FileRequest&) override { return {}; }
+    std::string toOpen(const FileRequest&) override { return fileToOpen; }
     std::string toSave(const FileRequest&) override { return {}; }
     void showModal(Form& form) override;
     void show(Form& form) override;

@@ -18,4 +18,15 @@ int RunInfo(const std::string& file, const Surroundings& surroundings);
 int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
                const Surroundings& surroundings);
 
+// `method` is range or deviation, or empty for the dialog's own choice.
+int RunStandardize(const std::string& sheet, const std::string& out, const std::string& method,
+                   const Surroundings& surroundings);
+
+int RunImportText(const std::string& file, const std::string& out, const ImportChoices& choices,
+                  const Surroundings& surroundings);
+int RunImportMatrix(const std::string& file, const std::string& out, const ImportChoices& choices,
+                    const Surroundings& surroundings);
+int RunImportDBase(const std::string& file, const std::string& out, const ImportChoices& choices,
+                   const Surroundings& surroundings);
+
 } // namespace dorvan::cli

@@ -31,6 +31,8 @@ struct Arguments {
     std::string input;
     std::string output;
     Choices choices;
+    ImportChoices importing;
+    std::string method; // of standardization
     PictureChoices picture;
     Surroundings surroundings;
 };
@@ -181,8 +183,78 @@ void AddPicture(CLI::App& app, Arguments& arguments) {
                     "  dorvan-cli picture USArrests.dgr sections.pdf --what histogram --cumulative");
 }
 
+void AddStandardize(CLI::App& app, Arguments& arguments) {
+    auto* command = app.add_subcommand("standardize", "Make a sheet in which every variable is standardized");
+    command->add_option("SHEET", arguments.input, "data sheet (.mdt)")->required();
+    command->add_option("OUT", arguments.output, "data sheet to write (.mdt)")->required();
+    command
+        ->add_option("--method", arguments.method,
+                     "range (each variable from 0 to 100) or deviation (mean 0, deviation 1) (range)")
+        ->check(CLI::IsMember({"range", "deviation"}));
+    AddYes(*command, arguments);
+    AddCodePage(*command, arguments);
+    command->footer("A missing value counts as 0.\n\n"
+                    "Examples:\n"
+                    "  dorvan-cli standardize USArrests.mdt range.mdt\n"
+                    "  dorvan-cli standardize iris.mdt scores.mdt --method deviation");
+}
+
+CLI::App* AddImportOf(CLI::App& group, Arguments& arguments, const char* name, const char* help,
+                      const char* file, const char* out) {
+    auto* command = group.add_subcommand(name, help);
+    command->add_option("FILE", arguments.input, file)->required();
+    command->add_option("OUT", arguments.output, out)->required();
+    AddCodePage(*command, arguments);
+    return command;
+}
+
+void AddSeparator(CLI::App& command, Arguments& arguments) {
+    command.add_option("--separator", arguments.importing.separator, "semicolon or tab (semicolon)")
+        ->check(CLI::IsMember({"semicolon", "tab"}));
+    command.add_flag("--no-record-names", arguments.importing.noRecordNames, "the first field is a value");
+}
+
+void AddImport(CLI::App& app, Arguments& arguments) {
+    auto* group = app.add_subcommand("import", "Make documents from tables of other programs");
+    group->require_subcommand(1);
+    auto* text = AddImportOf(*group, arguments, "text",
+                             "Make a data sheet from delimited text (at most 250 records, 100 variables)",
+                             "delimited text", "data sheet to write (.mdt)");
+    AddSeparator(*text, arguments);
+    text->add_flag("--no-variable-names", arguments.importing.noVariableNames, "the first line is a record");
+    text->footer("UTF-8 and UTF-16 are recognised; --code-page reads any file by that page.\n\n"
+                 "Examples:\n"
+                 "  dorvan-cli import text towns.csv towns.mdt\n"
+                 "  dorvan-cli import text scores.txt scores.mdt --separator tab --no-record-names");
+    auto* matrix = AddImportOf(*group, arguments, "matrix",
+                               "Make a matrix from a square of delimited text (at most 250 records)",
+                               "delimited text, a line a row", "matrix to write (.mtx)");
+    AddSeparator(*matrix, arguments);
+    matrix->add_option("--precision", arguments.importing.precision, "decimals that are kept (3)");
+    matrix->footer("Signs are dropped.\n\nExample:\n"
+                   "  dorvan-cli import matrix distances.txt distances.mtx --precision 2");
+    auto* dbase = AddImportOf(*group, arguments, "dbase",
+                              "Make a data sheet from a dBase III table (its first 250 records)",
+                              "dBase III table (.dbf)", "data sheet to write (.mdt)");
+    dbase->add_option("--fields", arguments.importing.fields,
+                      "numeric fields, between commas (every numeric field)");
+    dbase->add_option("--names", arguments.importing.names,
+                      "character field of the records' names (the first one)");
+    dbase->footer("Example:\n"
+                  "  dorvan-cli import dbase counties.dbf counties.mdt --fields BIR74,SID74 --names NAME");
+}
+
+int RunImport(const CLI::App& group, const Arguments& arguments) {
+    const auto& [input, output, choices, importing, method, picture, surroundings] = arguments;
+    if (group.got_subcommand("text")) return RunImportText(input, output, importing, surroundings);
+    if (group.got_subcommand("matrix")) return RunImportMatrix(input, output, importing, surroundings);
+    return RunImportDBase(input, output, importing, surroundings);
+}
+
 int Run(const CLI::App& app, const Arguments& arguments) {
-    const auto& [input, output, choices, picture, surroundings] = arguments;
+    const auto& [input, output, choices, importing, method, picture, surroundings] = arguments;
+    if (app.got_subcommand("standardize")) return RunStandardize(input, output, method, surroundings);
+    if (app.got_subcommand("import")) return RunImport(*app.get_subcommand("import"), arguments);
     if (app.got_subcommand("matrix")) return RunMatrix(input, output, choices, surroundings);
     if (app.got_subcommand("diagram")) return RunDiagram(input, output, choices, surroundings);
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
@@ -203,6 +275,8 @@ int main(int argc, char** argv) {
     AddConvert(app, arguments);
     AddInfo(app, arguments);
     AddPicture(app, arguments);
+    AddStandardize(app, arguments);
+    AddImport(app, arguments);
     app.footer("dorvan-cli SUBCOMMAND --help shows options and examples.\n"
                "Exit status: 0 done, 1 refused or failed, 2 wrong usage.");
     app.add_flag_callback(

@@ -20,6 +20,16 @@ struct Choices {
     std::map<std::string, std::string> ravelin; // text by field, such as {"Text4", "50"}
 };
 
+// The same for an import.
+struct ImportChoices {
+    std::string separator; // semicolon, tab
+    bool noVariableNames = false;
+    bool noRecordNames = false;
+    std::optional<std::int16_t> precision; // decimals of a matrix
+    std::string fields;                    // numeric fields of a table, between commas; empty: all
+    std::string names;                     // its field of the records' names; empty: the first
+};
+
 struct Surroundings {
     std::optional<std::uint64_t> seed; // of the random generator; from the clock when not given
     std::optional<int> codePage;       // of files; from the locale when not given
