@@ -1,7 +1,6 @@
 """One analysis from the sample to the saved diagram, with keyboard and mouse on the built program; then the
 two ends of a run that nobody asked for. Usage: journey.py PROGRAM SAMPLES GOLDEN"""
 
-import os
 import pathlib
 import shutil
 import signal
@@ -9,31 +8,12 @@ import sys
 import tempfile
 import time
 
+from files import expect_bytes, expect_golden
 from screen import Failed, Program, keys, screenshot, type_text, wait_for
 
 program_path, samples, golden = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
 folder = pathlib.Path(tempfile.mkdtemp())
 documents = pathlib.Path.home() / "Documents" / "Dorvan rescued documents"
-
-
-def expect_bytes(path, expected):
-    wait_for(f"file {path}", path.exists)
-    time.sleep(0.2)
-    actual = path.read_bytes()
-    if actual == expected:
-        return
-    place = next((i for i, (a, b) in enumerate(zip(actual, expected)) if a != b),
-                 min(len(actual), len(expected)))
-    raise Failed(f"{path.name} differs at offset {place}: {actual[place:place + 40]!r}, "
-                 f"not {expected[place:place + 40]!r}")
-
-
-def expect_golden(path):
-    wait_for(f"file {path}", path.exists)
-    time.sleep(0.2)
-    if os.environ.get("JOURNEY_ACCEPT"):
-        shutil.copy(path, golden / path.name)
-    expect_bytes(path, (golden / path.name).read_bytes())
 
 
 def edits_the_sheet(dorvan):
@@ -79,7 +59,7 @@ def makes_a_matrix(dorvan):
     screenshot("matrix.png")
     keys("ctrl+s")
     dorvan.choose_file("Dorvan - Save matrix As", str(folder / "towns.mtx"))
-    expect_golden(folder / "towns.mtx")
+    expect_golden(folder / "towns.mtx", golden)
     keys("alt+f", "c")  # a saved matrix asks all the same
     wait_for("question", lambda: dorvan.has_label("The matrix in ["))
     keys("alt+n")
@@ -111,7 +91,7 @@ def makes_a_diagram(dorvan):
         dorvan.expect_cell("Diagram", row, 1, name)
     keys("ctrl+s")
     dorvan.choose_file("Dorvan - Save diagram As", str(folder / "towns.dgr"))
-    expect_golden(folder / "towns.dgr")
+    expect_golden(folder / "towns.dgr", golden)
 
 
 def closes_and_reopens(dorvan):
