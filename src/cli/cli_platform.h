@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/drawn_text.h"
+#include "cli/offscreen_drawing.h"
 #include "platform/platform.h"
 
 #include <functional>
@@ -31,11 +31,12 @@ class CliPlatform : public MessageBoxes,
                     public Screen,
                     public Clock,
                     public SettingsStore,
-                    public HelpViewer {
+                    public HelpViewer,
+                    public PictureClipboard {
 public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
-    DrawnText text;
+    OffscreenDrawing drawing;
     std::string fileToOpen; // what the dialog for opening answers
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
@@ -55,7 +56,10 @@ public:
                       .screen = *this,
                       .clock = *this,
                       .settings = *this,
-                      .help = *this};
+                      .help = *this,
+                      .fonts = drawing,
+                      .raster = drawing,
+                      .clipboard = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return fileToOpen; }
@@ -81,6 +85,8 @@ public:
     void write(const std::string&, const std::string&, const std::string&) override {}
     std::vector<std::pair<std::string, std::string>> readSection(const std::string&) override { return {}; }
     void show(const std::string&, int) override {}
+    void clear() override {}
+    void put(const Drawing&) override {}
 
 private:
     std::map<std::type_index, std::function<void(Form&)>> answers_;

@@ -21,8 +21,8 @@ int Draw(const Given& given) {
         run.Open(given.diagram, {DocumentKind::Diagram});
         const auto& document = DiagramWindow(run.session, run.session.ActiveWindow->Index).Document();
         const Drawing drawing =
-            PictureOf(document, given.choices, run.ports.text, run.session.DecimalSeparator);
-        run.ports.text.StartToolkit();
+            PictureOf(document, given.choices, run.ports.drawing, run.session.DecimalSeparator);
+        run.ports.drawing.StartToolkit();
         WriteOutput(given.out, PictureBytes(drawing, given.out, given.choices.scale));
     });
 }

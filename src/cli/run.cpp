@@ -88,7 +88,8 @@ void Run::Save(const std::string& path) {
     } catch (const RuntimeFailure& failure) {
         throw SaveFailure(failure.what());
     }
-    if (!session.SilentFailure.empty()) throw SaveFailure(path + ": " + session.SilentFailure);
+    const std::string& silentFailure = session.Of<FileValues>().SilentFailure;
+    if (!silentFailure.empty()) throw SaveFailure(path + ": " + silentFailure);
 }
 
 int Reported(const std::string& file, const std::function<void()>& work) {

@@ -8,6 +8,9 @@ Subcommand DiagramSubcommand();
 Subcommand ConvertSubcommand();
 Subcommand InfoSubcommand();
 Subcommand PictureSubcommand();
+Subcommand DeriveSubcommand();
+Subcommand RetypeSubcommand();
+Subcommand ExportSubcommand();
 Subcommand ImportSubcommand();
 Subcommand StandardizeSubcommand();
 
@@ -20,9 +23,12 @@ std::vector<Subcommand> Subcommands() {
         ConvertSubcommand(),
         InfoSubcommand(),
         StandardizeSubcommand(),
+        DeriveSubcommand(),
+        RetypeSubcommand(),
         // input
         ImportSubcommand(),
         // output
+        ExportSubcommand(),
         PictureSubcommand(),
     };
 }

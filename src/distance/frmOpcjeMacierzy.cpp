@@ -1,7 +1,7 @@
 #include "distance/frmOpcjeMacierzy.h"
 
+#include "distance/distance.h"
 #include "distance/frmCustomized.h"
-#include "distance/measure_lists.h"
 #include "distance/measures.h"
 
 namespace dorvan {

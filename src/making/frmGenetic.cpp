@@ -1,5 +1,6 @@
 #include "making/frmGenetic.h"
 
+#include "making/ordering_options.h"
 #include "numbers/number_text.h"
 
 #include <algorithm>
@@ -43,8 +44,9 @@ void frmGenetic::Enter(const GeneticChoices& options) {
 }
 
 void frmGenetic::Command1_Click() {
-    session_.ordering.GeneticGenerations = Selected(cboGen);
-    session_.ordering.GeneticVariants = Selected(cboVar);
+    auto& options = session_.Of<OrderingOptions>();
+    options.GeneticGenerations = Selected(cboGen);
+    options.GeneticVariants = Selected(cboVar);
     Close(DialogResult::Accepted);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "making/diagram_choices.h"
+#include "making/ordering_options.h"
 #include "session/dialog.h"
 
 #include <array>

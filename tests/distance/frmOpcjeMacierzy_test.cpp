@@ -1,7 +1,7 @@
 #include "distance/frmCustomized.h"
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/matrix_session.h"
-#include "distance/measure_lists.h"
+#include "distance/measures.h"
 
 #include <gtest/gtest.h>
 

@@ -430,7 +430,7 @@ TEST(FormLoad, EntersTheProgramsFolderAndStartsTheSession) {
     EXPECT_TRUE(std::filesystem::equivalent(entered, folder));
     EXPECT_EQ(test.session.AppPath, folder.string());
     RandomSource expected(5);
-    EXPECT_EQ(test.session.random.draw(), expected.draw());
+    EXPECT_EQ(test.session.random.Draw(), expected.Draw());
     EXPECT_TRUE(test.session.commands.Has("Save"));
     EXPECT_TRUE(test.session.commands.Has("SaveAs"));
 }

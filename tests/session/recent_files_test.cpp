@@ -10,7 +10,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-struct RecentFiles : ::testing::Test, TestSession {
+struct RecentFileList : ::testing::Test, TestSession {
     std::map<std::string, std::string>& Store() { return settings.sections["Recent Files"]; }
 
     // The captions of the items that show.
@@ -23,12 +23,12 @@ struct RecentFiles : ::testing::Test, TestSession {
     }
 };
 
-TEST_F(RecentFiles, AnEmptyStoreShowsNothing) {
+TEST_F(RecentFileList, AnEmptyStoreShowsNothing) {
     LoadRecentFiles(session);
     EXPECT_EQ(Shown(), Texts{});
 }
 
-TEST_F(RecentFiles, TheNewestTakesThePlaceOfTheSeparator) {
+TEST_F(RecentFileList, TheNewestTakesThePlaceOfTheSeparator) {
     Store() = {{"RecentFile1", "a.mdt"}, {"RecentFile2", "b.mtx"}};
     LoadRecentFiles(session);
     EXPECT_EQ(Shown(), (Texts{"a.mdt", "b.mtx"}));
@@ -36,14 +36,14 @@ TEST_F(RecentFiles, TheNewestTakesThePlaceOfTheSeparator) {
     EXPECT_EQ(RecentFilePath(session, 2), "RecentFile2");
 }
 
-TEST_F(RecentFiles, AFullListLeavesTheFifthItemHidden) {
+TEST_F(RecentFileList, AFullListLeavesTheFifthItemHidden) {
     Store() = {{"RecentFile1", "a"}, {"RecentFile2", "b"}, {"RecentFile3", "c"}, {"RecentFile4", "d"}};
     LoadRecentFiles(session);
     EXPECT_EQ(Shown(), (Texts{"a", "b", "c", "d"}));
     EXPECT_FALSE(session.mainWindow.MenuShown(RecentFileItem(4)));
 }
 
-TEST_F(RecentFiles, WithoutANewestTheMenuStaysAsItIs) {
+TEST_F(RecentFileList, WithoutANewestTheMenuStaysAsItIs) {
     Store() = {{"RecentFile2", "b"}};
     LoadRecentFiles(session);
     EXPECT_EQ(Shown(), Texts{});
@@ -52,19 +52,19 @@ TEST_F(RecentFiles, WithoutANewestTheMenuStaysAsItIs) {
     EXPECT_EQ(Shown(), Texts{});
 }
 
-TEST_F(RecentFiles, AnEmptyValueCountsAsMissing) {
+TEST_F(RecentFileList, AnEmptyValueCountsAsMissing) {
     Store() = {{"RecentFile1", "a"}, {"RecentFile2", ""}, {"RecentFile3", "c"}};
     LoadRecentFiles(session);
     EXPECT_EQ(Shown(), (Texts{"a", "c"}));
 }
 
-TEST_F(RecentFiles, ForeignValuesBeyondTheItemsAreNotShown) {
+TEST_F(RecentFileList, ForeignValuesBeyondTheItemsAreNotShown) {
     for (int number = 1; number <= 9; ++number) Store()["RecentFile" + std::to_string(number)] = "x";
     LoadRecentFiles(session);
     EXPECT_EQ(Shown().size(), 5u);
 }
 
-TEST_F(RecentFiles, TheListNeverGetsShorterWithinARun) {
+TEST_F(RecentFileList, TheListNeverGetsShorterWithinARun) {
     Store() = {{"RecentFile1", "a"}, {"RecentFile2", "b"}};
     LoadRecentFiles(session);
     Store() = {{"RecentFile1", "c"}};
@@ -72,14 +72,14 @@ TEST_F(RecentFiles, TheListNeverGetsShorterWithinARun) {
     EXPECT_EQ(Shown(), (Texts{"c", "b"}));
 }
 
-TEST_F(RecentFiles, ThePathsMoveDownAndTheFourthFallsOff) {
+TEST_F(RecentFileList, ThePathsMoveDownAndTheFourthFallsOff) {
     for (const char* path : {"a", "b", "c", "d", "e"}) AddRecentFile(session, path);
     EXPECT_EQ(Store(),
               (std::map<std::string, std::string>{
                   {"RecentFile1", "e"}, {"RecentFile2", "d"}, {"RecentFile3", "c"}, {"RecentFile4", "b"}}));
 }
 
-TEST_F(RecentFiles, AnEmptyEntryIsNotMovedDown) {
+TEST_F(RecentFileList, AnEmptyEntryIsNotMovedDown) {
     Store() = {{"RecentFile1", "a"}, {"RecentFile2", ""}, {"RecentFile3", "c"}, {"RecentFile4", "d"}};
     AddRecentFile(session, "n");
     EXPECT_EQ(Store(),
@@ -87,7 +87,7 @@ TEST_F(RecentFiles, AnEmptyEntryIsNotMovedDown) {
                   {"RecentFile1", "n"}, {"RecentFile2", "a"}, {"RecentFile3", "c"}, {"RecentFile4", "c"}}));
 }
 
-TEST_F(RecentFiles, ARecentFileIsOneOfTheItemsFromOneOn) {
+TEST_F(RecentFileList, ARecentFileIsOneOfTheItemsFromOneOn) {
     Store() = {{"RecentFile1", "a"}, {"RecentFile2", "b"}, {"RecentFile3", "c"}, {"RecentFile4", "d"}};
     LoadRecentFiles(session);
     EXPECT_FALSE(IsRecentFile(session, "a")) << "the newest stands in item 0";
@@ -97,7 +97,7 @@ TEST_F(RecentFiles, ARecentFileIsOneOfTheItemsFromOneOn) {
     EXPECT_FALSE(IsRecentFile(session, "x"));
 }
 
-TEST_F(RecentFiles, UpdatingAddsOnlyWhatIsNotRecognised) {
+TEST_F(RecentFileList, UpdatingAddsOnlyWhatIsNotRecognised) {
     for (const char* path : {"a", "b", "c"}) UpdateRecentFiles(session, path);
     EXPECT_EQ(Shown(), (Texts{"c", "b", "a"}));
     UpdateRecentFiles(session, "b");
@@ -108,12 +108,12 @@ TEST_F(RecentFiles, UpdatingAddsOnlyWhatIsNotRecognised) {
     EXPECT_EQ(Shown(), (Texts{"c", "c", "b", "a"})) << "and in item 1 it is recognised";
 }
 
-TEST_F(RecentFiles, FiveOpenedFilesLeaveTheLastFour) {
+TEST_F(RecentFileList, FiveOpenedFilesLeaveTheLastFour) {
     for (const char* path : {"a", "b", "c", "d", "e"}) UpdateRecentFiles(session, path);
     EXPECT_EQ(Shown(), (Texts{"e", "d", "c", "b"}));
 }
 
-TEST_F(RecentFiles, AreLoadedAtTheStart) {
+TEST_F(RecentFileList, AreLoadedAtTheStart) {
     TestPlatform other;
     other.settings.sections["Recent Files"] = {{"RecentFile1", "a.mdt"}};
     Session started(other.platform);
