@@ -74,8 +74,8 @@ TEST(BestOrder, FailsWhereThereIsNoCriterion) {
 }
 
 TEST(BestOrder, IsTheSameForTheSameSeedOnAnyNumberOfThreads) {
-    for (const int n : {9, 60, 121})
-        for (std::uint64_t seed = 1; seed <= 3; ++seed) {
+    for (const int n : {9, 40, 70})
+        for (std::uint64_t seed = 1; seed <= 2; ++seed) {
             const FloatTable distances = plain::Noise(n, seed);
             const Records one = Best(distances, seed, 1);
             EXPECT_EQ(Best(distances, seed, 1), one);
