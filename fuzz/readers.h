@@ -46,23 +46,32 @@ inline std::string composeSheet(const DocumentTables& tables, const std::string&
         for (int j = 1; j <= tables.VariableNames.Count(); ++j) {
             const float value = tables.DataValues(i, j);
             sheet.SetText(i, j + 1,
-                          value == NaValue ? std::string(NaText)
-                                           : FormatPattern(value, "###0.000", text.DecimalSeparator));
+                          IsEmptyValue(value) ? std::string()
+                          : value == NaValue  ? std::string(NaText)
+                                              : FormatPattern(value, "###0.000", text.DecimalSeparator));
         }
     }
     return ComposeDataFile(sheet, description, text);
 }
 
+inline std::string parseSheet(std::string_view bytes, const FileText& text, DocumentTables& tables) {
+    return ParseDataFile(bytes, text, tables);
+}
+
+inline std::string parseSheetWithEmptyCells(std::string_view bytes, const FileText& text,
+                                            DocumentTables& tables) {
+    return ParseDataFile(bytes, text, tables, EmptyFields::Taken);
+}
+
 inline void checkDataFile(std::string_view bytes) {
-    using Parse = std::string (*)(std::string_view, const FileText&, DocumentTables&);
-    for (const Parse parse : {Parse(ParseDataFile), Parse(ParseOldDataFile)})
+    for (const auto parse : {parseSheet, parseSheetWithEmptyCells, ParseOldDataFile})
         forEachLocale([&](const FileText& text) {
             IsCurrentDataFile(bytes);
             DocumentTables tables;
             const std::string description = parse(bytes, text, tables);
             requireStable(composeSheet(tables, description, text), [&](const std::string& written) {
                 DocumentTables again;
-                const std::string same = ParseDataFile(written, text, again);
+                const std::string same = parseSheetWithEmptyCells(written, text, again);
                 return composeSheet(again, same, text);
             });
         });

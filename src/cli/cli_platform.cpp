@@ -116,6 +116,7 @@ double SteadySeconds() {
 
 Answer CliPlatform::show(const Message& message) {
     messages.push_back(OneLine(message.Text));
+    if (message.Buttons == MessageButtons::YesNo && answersYes) return Answer::Yes;
     if (message.Buttons != MessageButtons::Ok)
         throw Refusal("a question that nobody can answer: " + messages.back());
     return Answer::Ok;

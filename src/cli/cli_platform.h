@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/drawn_text.h"
 #include "cli/requests.h"
 #include "platform/platform.h"
 
@@ -30,9 +31,21 @@ class CliPlatform : public MessageBoxes,
                     public HelpViewer {
 public:
     Choices choices;
+    bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
+    DrawnText text;
 
-    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+    Platform platform{.messages = *this,
+                      .files = *this,
+                      .forms = *this,
+                      .children = *this,
+                      .signals = *this,
+                      .events = *this,
+                      .keyboard = *this,
+                      .screen = *this,
+                      .clock = *this,
+                      .settings = *this,
+                      .help = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return {}; }

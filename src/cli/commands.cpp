@@ -2,7 +2,6 @@
 
 #include "cli/cli_platform.h"
 #include "cli/information.h"
-#include "cli/picture.h"
 #include "distance/frmMacierz.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
@@ -31,14 +30,22 @@ struct Run {
 
     Run(const Choices& choices, const Surroundings& surroundings) {
         ports.choices = choices;
+        ports.answersYes = surroundings.yes;
         Compose(session);
         const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
         mainWindow.Form_Load(surroundings.seed.value_or(clock), ".");
-        session.codePage = CodePage(surroundings.codePage.value_or(SystemCodePage()));
+        if (surroundings.codePage) session.codePage = CodePage(*surroundings.codePage);
     }
 
     std::string_view kind() const {
         return session.ActiveWindow ? std::string_view(session.ActiveWindow->TypeOfForm) : DocumentKind::Main;
+    }
+
+    // What the program said so far, but for a refusal at the end.
+    void tellRemarks(bool withLast) const {
+        const std::size_t count = ports.messages.size();
+        for (std::size_t place = 0; place + (withLast ? 0 : 1) < count; ++place)
+            fmt::print(stderr, "dorvan-cli: {}\n", ports.messages[place]);
     }
 
     // What the program said last, or that it said nothing.
@@ -53,7 +60,9 @@ void Open(Run& run, const std::string& path, std::initializer_list<std::string_v
     if (!kind.empty() && std::find(wanted.begin(), wanted.end(), kind) == wanted.end())
         throw Refusal(fmt::format("a file of the kind {} is of no use here", kind));
     OpenDocument(run.session, path);
-    if (run.kind() != kind) throw run.refusal("the file could not be read");
+    const bool opened = !kind.empty() && run.kind() == kind;
+    run.tellRemarks(opened);
+    if (!opened) throw run.refusal("the file could not be read");
 }
 
 // A failure whose text names its file itself.
@@ -73,6 +82,14 @@ void Save(Run& run, const std::string& path) {
         throw SaveFailure(failure.what());
     }
     if (!run.session.SilentFailure.empty()) throw SaveFailure(path + ": " + run.session.SilentFailure);
+}
+
+void Write(const std::string& path, const std::string& bytes) {
+    try {
+        ReplaceFile(path, bytes);
+    } catch (const FileError& error) {
+        throw SaveFailure(fmt::format("{}: {}", path, error.what()));
+    }
 }
 
 // Does the work and tells a failure in one line that names the file.
@@ -135,18 +152,15 @@ int RunInfo(const std::string& file, const Surroundings& surroundings) {
     });
 }
 
-int RunPicture(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
+               const Surroundings& surroundings) {
     return Reported(diagram, [&] {
         Run run({}, surroundings);
         Open(run, diagram, {DocumentKind::Diagram});
-        auto& window = DiagramWindow(run.session, run.session.ActiveWindow->Index);
-        const auto picture =
-            DiagramSvg(window.Document(), window.BottomText.Text, run.session.DecimalSeparator);
-        try {
-            ReplaceFile(out, picture);
-        } catch (const FileError& error) {
-            throw SaveFailure(fmt::format("{}: {}", out, error.what()));
-        }
+        const auto& document = DiagramWindow(run.session, run.session.ActiveWindow->Index).Document();
+        const Drawing drawing = PictureOf(document, choices, run.ports.text, run.session.DecimalSeparator);
+        run.ports.text.StartToolkit();
+        Write(out, PictureBytes(drawing, out, choices.scale));
     });
 }
 

@@ -31,6 +31,7 @@ struct Arguments {
     std::string input;
     std::string output;
     Choices choices;
+    PictureChoices picture;
     Surroundings surroundings;
 };
 
@@ -39,6 +40,11 @@ void AddCodePage(CLI::App& command, Arguments& arguments) {
         .add_option("--code-page", arguments.surroundings.codePage,
                     "code page of files: 1250 to 1258 or 874 (from the locale)")
         ->check(IsKnownCodePage);
+}
+
+void AddYes(CLI::App& command, Arguments& arguments) {
+    command.add_flag("-y,--yes", arguments.surroundings.yes,
+                     "open a sheet with empty fields, as empty cells (refused)");
 }
 
 void AddMeasure(CLI::App& command, Arguments& arguments) {
@@ -99,6 +105,7 @@ void AddMatrix(CLI::App& app, Arguments& arguments) {
     command->add_option("SHEET", arguments.input, "data sheet (.mdt)")->required();
     command->add_option("OUT", arguments.output, "matrix to write (.mtx)")->required();
     AddMeasure(*command, arguments);
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Examples:\n"
                     "  dorvan-cli matrix iris.mdt iris.mtx\n"
@@ -119,6 +126,7 @@ void AddDiagram(CLI::App& app, Arguments& arguments) {
     command->add_option("--seed", arguments.surroundings.seed, "seed of the random numbers (from the clock)");
     AddGenetic(*command, arguments);
     AddRavelin(*command, arguments);
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer(
         "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table "
@@ -136,6 +144,7 @@ void AddConvert(CLI::App& app, Arguments& arguments) {
     auto* command = app.add_subcommand("convert", "Read a document of any age and write the current format");
     command->add_option("IN", arguments.input, "document (.mdt, .mtx or .dgr)")->required();
     command->add_option("OUT", arguments.output, "document of the same kind")->required();
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Examples:\n"
                     "  dorvan-cli convert old.dgr new.dgr\n"
@@ -145,25 +154,40 @@ void AddConvert(CLI::App& app, Arguments& arguments) {
 void AddInfo(CLI::App& app, Arguments& arguments) {
     auto* command = app.add_subcommand("info", "Tell what a document holds, one `key: value` a line");
     command->add_option("FILE", arguments.input, "document (.mdt, .mtx or .dgr)")->required();
+    AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer("Example:\n  dorvan-cli info USArrests.dgr");
 }
 
+const auto IsPicture = CLI::Validator(
+    [](std::string& path) { return IsPictureName(path) ? std::string() : "no .svg, .pdf or .png: " + path; },
+    "");
+
 void AddPicture(CLI::App& app, Arguments& arguments) {
-    auto* command = app.add_subcommand("picture", "Draw a diagram as a scalable picture (SVG)");
+    auto* command = app.add_subcommand("picture", "Draw a diagram, or a graph of it");
     command->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
-    command->add_option("OUT", arguments.output, "picture to write (.svg)")->required();
+    command->add_option("OUT", arguments.output, "picture to write (.svg, .pdf or .png)")
+        ->required()
+        ->check(IsPicture);
+    command->add_option("--what", arguments.picture.what, "diagram, histogram or linear (diagram)")
+        ->check(CLI::IsMember({"diagram", "histogram", "linear"}));
+    command->add_flag("--cumulative", arguments.picture.cumulative, "running sums in the histogram");
+    command->add_option("--scale", arguments.picture.scale, "times the size on a screen, 0.1 to 16 (1)")
+        ->check(CLI::Range(0.1, 16.0));
     AddCodePage(*command, arguments);
-    command->footer("Example:\n  dorvan-cli picture USArrests.dgr USArrests.svg");
+    command->footer("Examples:\n"
+                    "  dorvan-cli picture USArrests.dgr USArrests.svg\n"
+                    "  dorvan-cli picture USArrests.dgr USArrests.png --scale 2\n"
+                    "  dorvan-cli picture USArrests.dgr sections.pdf --what histogram --cumulative");
 }
 
 int Run(const CLI::App& app, const Arguments& arguments) {
-    const auto& [input, output, choices, surroundings] = arguments;
+    const auto& [input, output, choices, picture, surroundings] = arguments;
     if (app.got_subcommand("matrix")) return RunMatrix(input, output, choices, surroundings);
     if (app.got_subcommand("diagram")) return RunDiagram(input, output, choices, surroundings);
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
     if (app.got_subcommand("info")) return RunInfo(input, surroundings);
-    return RunPicture(input, output, surroundings);
+    return RunPicture(input, output, picture, surroundings);
 }
 
 } // namespace

@@ -23,6 +23,7 @@ struct Choices {
 struct Surroundings {
     std::optional<std::uint64_t> seed; // of the random generator; from the clock when not given
     std::optional<int> codePage;       // of files; from the locale when not given
+    bool yes = false;                  // the answer to a question; refused when not given
 };
 
 // The code number of a measure's name or number text; nothing for another text.

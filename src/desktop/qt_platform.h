@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 
 #include <QElapsedTimer>
+#include <QMdiArea>
 #include <QPointer>
 
 #include <map>
@@ -12,7 +13,6 @@
 #include <vector>
 
 class QFileDialog;
-class QMdiArea;
 
 // The ports on a real screen.
 namespace dorvan {
@@ -35,6 +35,7 @@ public:
 private:
     std::string Ask(QFileDialog& dialog, const FileRequest& request);
     EventDispatch& dispatch_;
+    QString lastFolder_; // of the run; empty until a file was chosen
 };
 
 class QtForms : public FormDisplay {
@@ -69,6 +70,8 @@ public:
 
 private:
     void FollowScreen();
+    QList<QMdiSubWindow*> ArrangedWindows(QMdiArea::WindowOrder order) const;
+    void Arrange(const QList<QMdiSubWindow*>& windows, const std::vector<QRect>& places);
     void ArrangeIcons();
 
     std::unique_ptr<ChildContext> context_;
@@ -156,8 +159,17 @@ struct QtPlatform {
     QtClock clock;
     QtSettings settings;
     QtHelp help;
-    Platform platform{messages, files,  forms, children, signals, events,
-                      keyboard, screen, clock, settings, help};
+    Platform platform{.messages = messages,
+                      .files = files,
+                      .forms = forms,
+                      .children = children,
+                      .signals = signals,
+                      .events = events,
+                      .keyboard = keyboard,
+                      .screen = screen,
+                      .clock = clock,
+                      .settings = settings,
+                      .help = help};
 };
 
 } // namespace dorvan

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 namespace dorvan {
 
 // The dialog "Matrix": chooses the measure of a matrix, `CurrentDistType`.
-class frmOpcjeMacierzy : public Form {
+class frmOpcjeMacierzy : public Dialog {
 public:
     explicit frmOpcjeMacierzy(Session& session);
 
@@ -21,12 +20,9 @@ public:
     void Form_Load() override;
     void Form_Show() override { Form_Load(); } // always opens on the first kind and measure
     void cboData_Click();                      // after a change of its selection
-    void Command1_Click();
+    void Command1_Click() { Close(DialogResult::Cancelled); }
     void Command2_Click();
     void CancelCommand() override { Command1_Click(); }
-
-private:
-    Session& session_;
 };
 
 } // namespace dorvan

@@ -122,8 +122,10 @@ struct CustomizedLanes {
     DORVAN_INLINE void RaiseTo(float x, const float* y, double* power) const {
         double base[Lanes];
         for (int lane = 0; lane < Lanes; ++lane) {
-            base[lane] = std::fabs(x - y[lane]);
-            power[lane] = 1.0;
+            const float difference = std::fabs(x - y[lane]);
+            base[lane] = difference;
+            // A difference out of range is a failure, whatever its power is.
+            power[lane] = difference <= std::numeric_limits<float>::max() ? 1.0 : double(Undecided);
         }
         for (int bits = std::abs(int(P)); bits != 0; bits /= 2) {
             if (bits % 2 != 0)

@@ -2,33 +2,67 @@
 
 #include "files/data_file.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
+#include "files/file_fault.h"
 #include "files/reading.h"
 #include "numbers/text.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 
 #include <fmt/format.h>
+
+#include <optional>
 
 namespace dorvan {
 
 namespace {
 
-void NameAfterFile(frmNotePad& window, const std::string& path) {
-    window.Caption = fmt::format("[DATA]: {}", LowerCase(path));
-    window.FilePath = path;
-}
+std::string CaptionOf(const std::string& path) { return fmt::format("[DATA]: {}", LowerCase(path)); }
 
 void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
     session.PendingRecCount = static_cast<std::int16_t>(session.RecordNames.Count());
     session.PendingVarCount = static_cast<std::int16_t>(session.VariableNames.Count());
-    const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
-    CreateChildWindow(session, DocumentKind::Data);
-    frmNotePad& window = DataWindow(session, slot);
-    NameAfterFile(window, path);
-    window.Present(description);
-    session.DataStates.at(std::size_t(slot)).Dirty = false;
-    ShowOpened(session, window);
+    OpenDocumentWindow<frmNotePad>(session, {.Caption = CaptionOf(path), .Dirty = false},
+                                   [&](frmNotePad& window) {
+                                       window.FilePath = path;
+                                       window.Present(description);
+                                   });
+}
+
+// A sheet that reads only with its empty fields taken, as a save of emptied cells leaves them.
+struct SheetWithEmptyCells {
+    std::string Fault; // that of the plain reading
+    DocumentTables Tables;
+};
+
+std::string ParseCurrentSheet(std::string_view bytes, const FileText& text, DocumentTables& tables,
+                              std::optional<SheetWithEmptyCells>& other, const std::string& path) {
+    try {
+        return ParseDataFile(bytes, text, tables);
+    } catch (const FileFault& fault) {
+        if (!bytes.ends_with('\n')) throw; // cut off, rather than saved with an empty cell
+        other.emplace(SheetWithEmptyCells{fault.Describe(path), {}});
+        try {
+            return ParseDataFile(bytes, text, other->Tables, EmptyFields::Taken);
+        } catch (const FileFault&) {
+            other.reset();
+        }
+        throw;
+    }
+}
+
+// The user decides whether such a sheet opens.
+bool OpensWithEmptyCells(Session& session, SheetWithEmptyCells&& sheet) {
+    const Message question{.Text = sheet.Fault + "\r\nOpen the sheet with its empty fields as empty cells?",
+                           .Icon = MessageIcon::Exclamation,
+                           .Buttons = MessageButtons::YesNo};
+    if (session.platform.messages.show(question) != Answer::Yes) return false;
+    session.RecordNames = std::move(sheet.Tables.RecordNames);
+    session.VariableNames = std::move(sheet.Tables.VariableNames);
+    session.DataValues = std::move(sheet.Tables.DataValues);
+    return true;
 }
 
 } // namespace
@@ -43,15 +77,17 @@ void OpenDataFile(Session& session) {
 
 void ReadDataFile(Session& session, const std::string& path) {
     std::string description;
+    std::optional<SheetWithEmptyCells> withEmptyCells;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDataFile(bytes);
         if (!current) return;
         TablesOfSession transit(session);
-        description = ParseDataFile(bytes, FileTextOf(session), transit.Tables);
+        description = ParseCurrentSheet(bytes, FileTextOf(session), transit.Tables, withEmptyCells, path);
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
+    if (withEmptyCells && !OpensWithEmptyCells(session, std::move(*withEmptyCells))) return;
     if (current) return OpenDataWindow(session, path, description);
     TellOlderVersion(session);
     ReadOldDataFile(session, path);
@@ -61,7 +97,7 @@ void ReadOldDataFile(Session& session, const std::string& path) {
     if (RefusedWhileBusy(session)) return;
     std::string description;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         TablesOfSession transit(session);
         description = ParseOldDataFile(bytes, FileTextOf(session), transit.Tables);
     };
@@ -89,7 +125,8 @@ void SaveData(Session& session) {
                                  : window.NamedFile();
     if (path.empty()) return;
     WriteDataFile(session, path);
-    NameAfterFile(window, path);
+    window.Caption = CaptionOf(path);
+    window.FilePath = path;
 }
 
 void SaveDataAs(Session& session) {

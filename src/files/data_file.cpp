@@ -14,16 +14,16 @@ namespace {
 
 constexpr std::string_view Pattern = "#0.000";
 
-void ReadValues(SectionReader& reader, DocumentTables& tables) {
+void ReadValues(SectionReader& reader, DocumentTables& tables, EmptyFields empty) {
     const std::int32_t records = tables.RecordNames.Count();
     const std::int32_t variables = tables.VariableNames.Count();
     tables.DataValues = FloatTable();
-    reader.ExpectRoomFor(records, variables);
+    reader.ExpectRoomFor(records, variables, empty);
     tables.DataValues = FloatTable(records, variables);
     for (std::int32_t i = 1; i <= records; ++i) {
         float* row = tables.DataValues.Row(i);
         reader.Row(variables, [&](std::int32_t j, std::string_view field) {
-            row[j - 1] = reader.NumberOrMissing(field);
+            row[j - 1] = reader.NumberOrMissing(field, empty);
         });
     }
 }
@@ -41,7 +41,8 @@ void WriteCell(LineWriter& writer, std::string_view cell, const FileText& text) 
 
 bool IsCurrentDataFile(std::string_view bytes) { return LineCursor(bytes).Next().starts_with("Dorvan DATA"); }
 
-std::string ParseDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables) {
+std::string ParseDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables,
+                          EmptyFields empty) {
     SectionReader reader(bytes, text);
     reader.FirstLine();
     reader.ExpectSection("HEADER");
@@ -53,7 +54,7 @@ std::string ParseDataFile(std::string_view bytes, const FileText& text, Document
     reader.ExpectSection("VARIABLE_LABEL");
     reader.Labels(variables, VariableLabelSize, tables.VariableNames);
     reader.ExpectSection("DATA");
-    ReadValues(reader, tables);
+    ReadValues(reader, tables, empty);
     return std::string(TrimSpaces(description));
 }
 

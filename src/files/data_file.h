@@ -2,6 +2,7 @@
 
 #include "files/document_tables.h"
 #include "files/file_text.h"
+#include "files/line_cursor.h"
 #include "platform/grid.h"
 
 #include <string>
@@ -14,8 +15,10 @@ namespace dorvan {
 bool IsCurrentDataFile(std::string_view bytes);
 
 // Fill `RecordNames` (n, at most 15 characters each), `VariableNames` (m, at most 8) and `DataValues`
-// (n by m), and return the description. Fail with a FileFault.
-std::string ParseDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
+// (n by m), and return the description. Fail with a FileFault. A writer leaves an empty field where a cell
+// was empty or no number; only where they are taken does such a file read, with EmptyValue in their places.
+std::string ParseDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables,
+                          EmptyFields empty = EmptyFields::Refused);
 std::string ParseOldDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
 
 // `sheet` as frmNotePad holds it: n + 1 rows, m + 2 columns of text. A cell that is neither a number nor

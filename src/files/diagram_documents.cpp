@@ -3,10 +3,14 @@
 #include "distance/measures.h"
 #include "files/diagram_file.h"
 #include "files/disk.h"
+#include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/file_fault.h"
 #include "files/reading.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
+#include "view/classes.h"
+#include "view/frmDiagram.h"
 
 #include <fmt/format.h>
 
@@ -35,16 +39,14 @@ DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) 
     return document;
 }
 
-// The document comes first: a window sizes its row order by it as it loads.
 void OpenDiagramWindow(Session& session, const std::string& path, const DiagramHeader& header, bool dirty) {
-    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
-    session.DiagramDocuments.at(std::size_t(slot)) = DocumentOf(session, header);
-    session.commands.Call("ClassifyDiagram", {.Index = slot, .Path = {}});
-    ChildWindow& window = CreateChildWindow(session, DocumentKind::Diagram);
-    window.Caption = fmt::format("[DIAGRAM]: {}", path);
-    window.Present(header.Description);
-    session.DiagramStates.at(std::size_t(slot)).Dirty = dirty;
-    ShowOpened(session, window);
+    const std::int16_t slot = FindFreeDiagramSlot(session);
+    DiagramDocument& document = session.DiagramDocuments.at(std::size_t(slot));
+    document = DocumentOf(session, header);
+    ClassifyDiagram(document);
+    OpenDocumentWindow<frmDiagram>(
+        session, {.Caption = fmt::format("[DIAGRAM]: {}", path), .Dirty = dirty, .Slot = slot},
+        [&](frmDiagram& window) { window.Present(header.Description); });
 }
 
 // Both triangles from one computation of each pair, the lower-numbered record first.
@@ -64,7 +66,7 @@ FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) 
 
 // Reads the older format into the working arrays and the analysis options.
 DiagramHeader ReadOldDiagram(Session& session, const std::string& path) {
-    const std::string bytes = LoadFile(path);
+    const std::string bytes = LoadDocument(path, session.codePage);
     TablesOfSession transit(session);
     DiagramHeader header = ParseOldDiagramFile(bytes, FileTextOf(session), transit.Tables);
     session.SectionLimits = header.SectionLimits;
@@ -92,7 +94,7 @@ void ReadDiagramFile(Session& session, const std::string& path) {
     DiagramHeader header;
     bool current = true;
     const auto read = [&] {
-        const std::string bytes = LoadFile(path);
+        const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDiagramFile(bytes);
         if (!current) return;
         TablesOfSession transit(session);

@@ -99,9 +99,10 @@ void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters,
     }
 }
 
-void SectionReader::ExpectRoomFor(std::int32_t rows, std::int32_t columns) const {
+void SectionReader::ExpectRoomFor(std::int32_t rows, std::int32_t columns, EmptyFields empty) const {
     // A field takes a character and a separator or line end; the last line may lack its end.
-    const std::int64_t least = std::int64_t(rows) * columns * 2 - 1;
+    const std::int64_t perField = empty == EmptyFields::Taken ? 1 : 2;
+    const std::int64_t least = std::int64_t(rows) * columns * perField - 1;
     if (least > static_cast<std::int64_t>(lines_.Remaining()))
         throw FileFault::AtLine(lines_.LineNumber(),
                                 fmt::format("{} lines of {} values do not fit into the {} bytes that follow",
@@ -116,8 +117,11 @@ float SectionReader::Number(std::string_view field) const {
     }
 }
 
-float SectionReader::NumberOrMissing(std::string_view field) const {
-    return TrimSpaces(field) == NaText ? NaValue : Number(field);
+float SectionReader::NumberOrMissing(std::string_view field, EmptyFields empty) const {
+    const std::string_view trimmed = TrimSpaces(field);
+    if (trimmed == NaText) return NaValue;
+    if (empty == EmptyFields::Taken && trimmed.empty()) return EmptyValue;
+    return Number(field);
 }
 
 void SectionReader::FailTooFewFields(std::int32_t found, std::int32_t wanted) const {

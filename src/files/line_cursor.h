@@ -34,6 +34,9 @@ struct HeaderCount {
     std::int64_t Line = 0;
 };
 
+// An empty field is no number; where a reader is told so, it stands for an empty cell.
+enum class EmptyFields { Refused, Taken };
+
 // The parts that the three text formats have in common, read from a cursor. Each fails with a FileFault that
 // names the line.
 class SectionReader {
@@ -62,7 +65,8 @@ public:
 
     // Fails when `rows` lines of `columns` fields each cannot stand in the rest of the file, so that nothing
     // is sized by a count that the file does not fill.
-    void ExpectRoomFor(std::int32_t rows, std::int32_t columns) const;
+    void ExpectRoomFor(std::int32_t rows, std::int32_t columns,
+                       EmptyFields empty = EmptyFields::Refused) const;
 
     // One line of at least `columns` fields between semicolons; `take(j, field)` gets the fields 1 to
     // `columns` in turn, further ones are ignored.
@@ -78,9 +82,9 @@ public:
         }
     }
 
-    // A field as a number, or NaValue for "N/A".
+    // A field as a number, NaValue for "N/A", EmptyValue for an empty one that is taken.
     float Number(std::string_view field) const;
-    float NumberOrMissing(std::string_view field) const;
+    float NumberOrMissing(std::string_view field, EmptyFields empty = EmptyFields::Refused) const;
 
     const FileText& Style() const { return text_; }
 

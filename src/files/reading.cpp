@@ -1,7 +1,6 @@
 #include "files/reading.h"
 
 #include "files/file_fault.h"
-#include "session/children.h"
 
 #include <fmt/format.h>
 
@@ -35,19 +34,8 @@ void TellOlderVersion(Session& session) {
          .Icon = MessageIcon::Exclamation});
 }
 
-bool RefusedWhileBusy(Session& session) {
-    if (session.DiagramBusy != 1) return false;
-    session.platform.signals.beep();
-    return true;
-}
-
 void UpdateRecentFiles(Session& session, const std::string& path) {
     session.commands.Call("UpdateRecentFiles", {.Index = 0, .Path = path});
-}
-
-void ShowOpened(Session& session, ChildWindow& window) {
-    PlaceNewWindow(session, window);
-    ShowChild(session, window);
 }
 
 } // namespace dorvan

@@ -18,13 +18,7 @@ bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
 // Said before a file of an older format is read.
 void TellOlderVersion(Session& session);
 
-// True after a beep: commands are refused while a diagram is being made.
-bool RefusedWhileBusy(Session& session);
-
 // Puts a path that was opened through a dialog on the list of recent files.
 void UpdateRecentFiles(Session& session, const std::string& path);
-
-// Gives a filled window its size and shows it.
-void ShowOpened(Session& session, ChildWindow& window);
 
 } // namespace dorvan

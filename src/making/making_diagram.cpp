@@ -8,14 +8,16 @@
 #include "making/section_limits.h"
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
-#include "session/children.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "view/classes.h"
+#include "view/frmDiagram.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace dorvan {
 
@@ -25,27 +27,49 @@ namespace {
 constexpr std::int16_t LastMeasureWithNA = DistanceType::Czekanowski;
 
 // What the diagram is made of: the active sheet of n records by m variables, or the matrix of n records in
-// `MatrixSlot` (m = 0). `Session::DiagramFromMatrix` tells which.
+// `MatrixSlot` (m = 0). `Session::DiagramFromMatrix` tells which. A search lets events run, so the copies
+// stand in for what was closed or loaded meanwhile.
 struct Source {
     std::int32_t n = 0;
     std::int32_t m = 0;
     std::int16_t MatrixSlot = 0;
+    std::shared_ptr<ChildWindow> Window; // the active one at the start
+    std::string Description;             // of Window, at the start
+    DistanceMatrix SavedMatrix;
+    FloatTable SavedValues;
+    Names SavedNames;
+    Names SavedVariableNames;
+    Flags SavedHasNA;
 };
 
-DistanceMatrix& MatrixOf(Session& session, const Source& source) {
+bool IsOpen(const Session& session, const std::shared_ptr<ChildWindow>& window) {
+    return std::find(session.Children.begin(), session.Children.end(), window) != session.Children.end();
+}
+
+DistanceMatrix& DocumentOf(Session& session, const Source& source) {
     if (source.MatrixSlot < 0 || std::size_t(source.MatrixSlot) >= session.MatrixDocuments.size())
         throw RuntimeFailure(Failure::SubscriptOutOfRange);
     return session.MatrixDocuments[std::size_t(source.MatrixSlot)];
 }
 
+// The slot of a closed matrix may hold another one by now.
+const DistanceMatrix& MatrixOf(Session& session, const Source& source) {
+    return IsOpen(session, source.Window) ? DocumentOf(session, source) : source.SavedMatrix;
+}
+
 Source ActiveSource(Session& session) {
-    if (!session.DiagramFromMatrix) {
+    Source source;
+    if (session.DiagramFromMatrix) {
+        if (!session.ActiveWindow) throw RuntimeFailure(Failure::InvalidProcedureCall, "no window is active");
+        source.MatrixSlot = session.ActiveWindow->Index;
+        source.n = DocumentOf(session, source).Size;
+    } else {
         const auto& sheet = ActiveDataWindow(session);
-        return {.n = sheet.RecordCount(), .m = sheet.VariableCount()};
+        source.n = sheet.RecordCount();
+        source.m = sheet.VariableCount();
     }
-    if (!session.ActiveWindow) throw RuntimeFailure(Failure::InvalidProcedureCall, "no window is active");
-    Source source{.MatrixSlot = session.ActiveWindow->Index};
-    source.n = MatrixOf(session, source).Size;
+    for (const auto& window : session.Children)
+        if (window.get() == session.ActiveWindow) source.Window = window;
     return source;
 }
 
@@ -62,8 +86,7 @@ bool CountAccepted(Session& session, std::int32_t n) {
 }
 
 bool OptionsAccepted(Session& session) {
-    ShowDiagramOptions(session);
-    if (session.DialogOutcome == -99) return false;
+    if (!ShowDiagramOptions(session)) return false;
     session.platform.events.run();
     return true;
 }
@@ -79,7 +102,7 @@ bool MeasureAccepted(Session& session) {
 
 // The cells as numbers of the process's own locale.
 void ReadMatrixCells(Session& session, const Source& source) {
-    const auto& cells = MatrixOf(session, source).Cells;
+    const auto& cells = DocumentOf(session, source).Cells;
     session.DistanceValues = FloatTable(source.n, source.n);
     for (std::int32_t i = 1; i <= source.n; ++i)
         for (std::int32_t j = 1; j <= source.n; ++j)
@@ -105,28 +128,33 @@ Order FindOrder(Session& session, float maxDistance) {
     const auto method = session.orderingMethods.find(session.CurrentOrderMethod);
     if (method == session.orderingMethods.end())
         throw RuntimeFailure(Failure::InvalidProcedureCall, "no such ordering");
-    return method->second.run(session, session.DistanceValues);
+    const FloatTable distances = session.DistanceValues; // a document read meanwhile may replace them
+    return method->second.run(session, distances);
 }
 
 // `RecordHasNA` stays in the order of the sheet.
 void RewriteData(Session& session, const Source& source, const Order& order) {
-    const FloatTable savedValues = session.DataValues;
-    const Names savedNames = session.RecordNames;
+    session.DataValues = FloatTable(source.n, source.m);
+    session.RecordNames = Names(source.n);
     for (std::int32_t p = 1; p <= source.n; ++p) {
-        for (std::int32_t v = 1; v <= source.m; ++v) session.DataValues(p, v) = savedValues(order(p), v);
-        session.RecordNames(p) = savedNames(order(p));
+        for (std::int32_t v = 1; v <= source.m; ++v)
+            session.DataValues(p, v) = source.SavedValues(order(p), v);
+        session.RecordNames(p) = source.SavedNames(order(p));
     }
+    session.VariableNames = source.SavedVariableNames;
+    session.RecordHasNA = source.SavedHasNA;
     ComputeDistanceMatrix(session, source.n, source.m);
 }
 
 void RewriteMatrix(Session& session, const Source& source, const Order& order) {
-    const auto& names = MatrixOf(session, source).Names;
-    const FloatTable savedDistances = session.DistanceValues;
+    const DistanceMatrix& matrix = MatrixOf(session, source);
     session.RecordNames = Names(source.n);
+    session.DistanceValues = FloatTable(source.n, source.n);
     for (std::int32_t p = 1; p <= source.n; ++p) {
-        session.RecordNames(p) = names(order(p));
+        session.RecordNames(p) = matrix.Names(order(p));
         for (std::int32_t q = 1; q <= source.n; ++q)
-            session.DistanceValues(p, q) = savedDistances(order(p), order(q));
+            session.DistanceValues(p, q) =
+                StrictFloat(matrix.Cells(order(p), order(q)), session.DecimalSeparator);
     }
 }
 
@@ -139,10 +167,28 @@ void PutInOrder(Session& session, const Source& source, float maxDistance) {
         RewriteData(session, source, order);
 }
 
+std::string DescriptionNow(Session& session, const Source& source) {
+    return session.DiagramFromMatrix ? MatrixWindow(session, source.MatrixSlot).BottomText.Text
+                                     : ActiveDataWindow(session).OpisText.Text;
+}
+
+void SaveCopies(Session& session, Source& source) {
+    source.Description = DescriptionNow(session, source);
+    if (session.DiagramFromMatrix) {
+        source.SavedMatrix = DocumentOf(session, source);
+        return;
+    }
+    source.SavedValues = session.DataValues;
+    source.SavedNames = session.RecordNames;
+    source.SavedVariableNames = session.VariableNames;
+    source.SavedHasNA = session.RecordHasNA;
+}
+
 // Distances, limits and order, with `DiagramBusy` at 1: a failure on the way leaves it there.
-void Analyse(Session& session, const Source& source) {
+void Analyse(Session& session, Source& source) {
     session.DiagramBusy = 1;
     TakeDistances(session, source);
+    SaveCopies(session, source);
     const float maxDistance = MaxDistance(session.DistanceValues);
     session.SectionLimits = ComputeAutomaticLimits(session.DistanceValues);
     PutInOrder(session, source, maxDistance);
@@ -173,31 +219,27 @@ void FillDocument(Session& session, const Source& source, DiagramDocument& docum
     ClassifyDiagram(document);
 }
 
+// Clicks during the search may have brought another window to the front, or closed this one.
 std::string DescriptionOf(Session& session, const Source& source) {
-    return session.DiagramFromMatrix ? MatrixWindow(session, source.MatrixSlot).BottomText.Text
-                                     : ActiveDataWindow(session).OpisText.Text;
+    if (!IsOpen(session, source.Window)) return source.Description;
+    if (session.ActiveWindow != source.Window.get()) ShowChild(session, *source.Window);
+    return DescriptionNow(session, source);
 }
 
 void OpenDiagram(Session& session, const Source& source) {
     const WaitCursor wait(session.platform);
-    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
+    const std::string description = DescriptionOf(session, source);
+    const std::int16_t slot = FindFreeDiagramSlot(session);
     FillDocument(session, source, session.DiagramDocuments.at(std::size_t(slot)));
-    auto& window = CreateChildWindow(session, DocumentKind::Diagram);
-    window.Caption = UntitledCaption(DocumentKind::Diagram, slot);
-    window.Present(DescriptionOf(session, source));
-    session.DiagramStates.at(std::size_t(slot)).Dirty = true;
-    if (window.Mode == WindowMode::Normal) PlaceNewWindow(session, window);
-    ShowChild(session, window);
+    OpenDocumentWindow<frmDiagram>(session, {.Slot = slot},
+                                   [&](frmDiagram& window) { window.Present(description); });
 }
 
 } // namespace
 
 void MakeDiagram(Session& session) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
-    const Source source = ActiveSource(session);
+    if (RefusedWhileBusy(session)) return;
+    Source source = ActiveSource(session);
     if (!CountAccepted(session, source.n)) return;
     session.DiagramRecordCount = source.n;
     if (!OptionsAccepted(session)) return;

@@ -33,9 +33,8 @@ public:
     virtual void Form_Unload() = 0;
     virtual void Form_Resize() {}
 
-    // Shows the document of the window's slot (a matrix or diagram record, or for a sheet the working arrays)
-    // with its description.
-    virtual void Present(const std::string& description) = 0;
+    // A command is about to run, or another window comes to the front: a field that has the focus loses it.
+    virtual void LeaveField() {}
 };
 
 } // namespace dorvan

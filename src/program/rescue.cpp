@@ -26,7 +26,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* FolderName = "Dorvan rescued documents";
-constexpr int FirstValueColumn = 2;
 
 struct Copied {
     std::string Extension;
@@ -48,7 +47,7 @@ bool Reads(const std::string& cell, char decimalSeparator) {
 Grid ReadableSheet(const Grid& sheet, char decimalSeparator) {
     Grid copy = sheet;
     for (int row = 1; row < copy.Rows(); ++row)
-        for (int column = FirstValueColumn; column < copy.Columns(); ++column) {
+        for (int column = DocumentGrid::FirstValueColumn; column < copy.Columns(); ++column) {
             const std::string& cell = copy.Text(row, column);
             if (Reads(cell, decimalSeparator)) continue;
             const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;

@@ -1,5 +1,4 @@
 #include "program/registering.h"
-#include "view/classes.h"
 #include "view/frmDiagram.h"
 
 namespace dorvan {
@@ -11,9 +10,6 @@ void RegisterViewOperations(Session& session) {
     Register(session, "frmDiagram.Down", DiagramWindow, &frmDiagram::Down);
     Register(session, "frmDiagram.EndRow", DiagramWindow, &frmDiagram::EndRow);
     Register(session, "frmDiagram.Insert", DiagramWindow, &frmDiagram::Insert);
-    session.commands.Set("ClassifyDiagram", [&session](const CommandCall& call) {
-        ClassifyDiagram(session.DiagramDocuments.at(std::size_t(call.Index)));
-    });
 }
 
 } // namespace dorvan

@@ -2,7 +2,9 @@
 
 #include "numbers/arrays.h"
 
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -16,6 +18,10 @@ using Flags = Array1<bool>;
 // A missing value. Shown and filed as "N/A". A real -9999999 cannot be told from it.
 inline constexpr float NaValue = -9999999.0f;
 inline constexpr std::string_view NaText = "N/A";
+
+// An empty cell of a sheet on its way from a file; analysis never meets one.
+inline constexpr float EmptyValue = std::numeric_limits<float>::quiet_NaN();
+inline bool IsEmptyValue(float value) { return std::isnan(value); }
 
 // What `ChildWindow::TypeOfForm` holds.
 namespace DocumentKind {

@@ -50,6 +50,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     session.AppPath = programFolder;
     session.MaxDiagramRecords = 250;
     session.DecimalSeparator = FindDecimalSeparator();
+    session.codePage = CodePage(SystemCodePage());
     BuildRegistry(session);
     SetDefaults(session);
     session.commands.Call("LoadRecentFiles");

@@ -93,14 +93,12 @@ struct Session {
     std::vector<std::shared_ptr<ChildWindow>> Children;
     ChildWindow* ActiveWindow = nullptr; // null: the main window alone
 
-    // Makes the window of a kind by the composition root's hand; it takes its slot from NewWindowIndex.
-    std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
-
     OrderingMethods orderingMethods;
     OrderingOptions ordering; // of the two genetic ones
 };
 
-// The session's part of the start-up: caption, folder, decimal separator, registry, defaults, commands off.
+// The session's part of the start-up: caption, folder, the locale's decimal separator and code page of files,
+// registry, defaults, commands off.
 // The random generator is seeded from `seed` (the clock's seconds since midnight unless a seed was asked
 // for).
 void StartSession(Session& session, std::uint64_t seed, const std::string& programFolder);

@@ -160,6 +160,16 @@ TEST(DistancesBetweenRows, CustomizedEqualsThePlainDefinitionForAnyParameters) {
     EXPECT_GT(matrices, 150);
 }
 
+TEST(DistancesBetweenRows, CustomizedFailsForADifferenceOutOfRangeWhateverItsPower) {
+    FloatTable values(40, 1);
+    for (std::int32_t i = 1; i <= 40; ++i) values(i, 1) = static_cast<float>(i);
+    values(7, 1) = std::numeric_limits<float>::max();
+    values(33, 1) = std::numeric_limits<float>::lowest();
+    for (const std::int16_t p : {-3, -1, 0, 1, 2})
+        EXPECT_FAILURE(Failure::Overflow,
+                       DistancesBetweenRows(values, 40, 1, {DistanceType::Customized, p, 2}));
+}
+
 // Sums that stand exactly half way between two floats, which the lanes have to leave to the plain way.
 TEST(DistancesBetweenRows, CustomizedDecidesTiesAsThePlainDefinitionDoes) {
     FloatTable values(40, 3);

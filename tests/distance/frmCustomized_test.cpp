@@ -97,10 +97,29 @@ TEST_F(frmCustomizedTest, OKStoresTheParametersAndHidesTheDialog) {
 }
 
 TEST_F(frmCustomizedTest, TheFieldsKeepTheirTextsForTheNextShowing) {
-    Accept("3", "4");
-    auto& again = session.forms.Load<frmCustomized>(session);
-    EXPECT_EQ(again.Text1.Text, "3");
-    EXPECT_EQ(again.Text2.Text, "4");
+    // As any user of the dialog shows it: found by its class, then shown modally.
+    const auto show = [this](const std::string& p, const std::string& r, bool accept) {
+        std::string before;
+        forms.scripts.push_back([&, accept](Form& form) {
+            auto& shown = dynamic_cast<frmCustomized&>(form);
+            shown.Form_Show();
+            before = shown.Text1.Text + "/" + shown.Text2.Text;
+            shown.Text1.Text = p;
+            shown.Text2.Text = r;
+            if (accept)
+                shown.Command1_Click();
+            else
+                shown.Command2_Click();
+        });
+        platform.forms.showModal(session.forms.Load<frmCustomized>(session));
+        return before;
+    };
+    EXPECT_EQ(show("3", "4", true), "2/2");
+    EXPECT_EQ(show("8", "9", false), "3/4");
+    EXPECT_EQ(show("", "x", false), "8/9") << "a cancelled text stays as well";
+    EXPECT_EQ(show("5", "6", true), "/x");
+    EXPECT_EQ(session.Par_P, 5);
+    EXPECT_EQ(session.Par_R, 6);
 }
 
 TEST_F(frmCustomizedTest, AnInvalidPIsRefusedAndTheDialogStays) {

@@ -21,7 +21,8 @@ struct frmMacierzTest : ::testing::Test, MatrixSession {
         document.Names = Names(size);
         for (int row = 1; row <= size; ++row) document.Names(row) = "n" + std::to_string(row);
         document.Cells = Array2<std::string>(size, size, cell);
-        auto& window = dynamic_cast<frmMacierz&>(CreateChildWindow(session, DocumentKind::Matrix));
+        PutIntoRegistry(session, DocumentKind::Matrix, std::make_shared<frmMacierz>(session));
+        auto& window = MatrixWindow(session, session.NewWindowIndex);
         window.Caption = "[MATRIX]: /folder/a.mtx";
         window.Present(description);
         return window;

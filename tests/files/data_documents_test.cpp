@@ -21,7 +21,7 @@ protected:
         session.VariableNames = Names(1, "V");
         session.DataValues = FloatTable(1, 1, 0);
         const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
-        CreateChildWindow(session, DocumentKind::Data);
+        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
         window(slot).Caption = UntitledCaption(DocumentKind::Data, slot);
         window(slot).Present("about");
         window(slot).Grid1.SetText(1, 2, value);
@@ -156,8 +156,9 @@ TEST_F(DataDocuments, FilesThatCannotBeReadGiveOneMessage) {
 
 TEST_F(DataDocuments, OddBytesGiveMessagesAndNoWindow) {
     const std::string mark = "\xEF\xBB\xBF";
-    for (const std::string& bytes : {mark + golden("sheet.mdt"), std::string(100, '\0'), std::string("\r\n"),
-                                     std::string(3000, '\xFF'), std::string("Dorvan DATA")}) {
+    for (const std::string& bytes :
+         {mark + golden("sheet.mdt").substr(1), std::string(100, '\0'), std::string("\r\n"),
+          std::string(3000, '\xFF'), std::string("Dorvan DATA")}) {
         messages.shown.clear();
         ReadDataFile(session, file("f.mdt", bytes));
         EXPECT_EQ(faultCount(), 1u);
@@ -356,6 +357,43 @@ TEST_F(DataDocuments, WritingUsesTheSessionsSeparatorAndCodePage) {
     ReadDataFile(session, goldenFile("sheet_comma.mdt"));
     EXPECT_TRUE(WriteDataFile(session, folder / "f.mdt"));
     EXPECT_EQ(fileBytes(folder / "f.mdt"), golden("sheet_comma.mdt"));
+}
+
+TEST_F(DataDocuments, ASheetSavedWithEmptyCellsOpensWithThemOnAYes) {
+    frmNotePad& sheet = newSheet();
+    sheet.Grid1.SetText(1, 2, "");
+    ASSERT_TRUE(WriteDataFile(session, folder / "f.mdt"));
+    const std::string saved = fileBytes(folder / "f.mdt");
+    messages.answers = {Answer::Yes};
+    ReadDataFile(session, folder / "f.mdt");
+    ASSERT_EQ(windows(), 2u);
+    EXPECT_EQ(ActiveDataWindow(session).Grid1.Text(1, 2), "");
+    ASSERT_EQ(messages.shown.size(), 1u);
+    const auto line = std::count(saved.begin(), saved.end(), '\n');
+    EXPECT_EQ(
+        messages.shown[0],
+        (Message{.Text = fmt::format("Line {}: \"\" is not a number. File: {}\r\nOpen the sheet with its "
+                                     "empty fields as empty cells?",
+                                     line, folder / "f.mdt"),
+                 .Icon = MessageIcon::Exclamation,
+                 .Buttons = MessageButtons::YesNo}));
+    ASSERT_TRUE(WriteDataFile(session, folder / "again.mdt"));
+    EXPECT_EQ(fileBytes(folder / "again.mdt"), saved);
+}
+
+TEST_F(DataDocuments, ASheetWithEmptyFieldsStaysClosedOnANo) {
+    newSheet().Grid1.SetText(1, 2, "");
+    ASSERT_TRUE(WriteDataFile(session, folder / "f.mdt"));
+    messages.answers = {Answer::No};
+    ReadDataFile(session, folder / "f.mdt");
+    EXPECT_EQ(windows(), 1u);
+    EXPECT_EQ(messages.shown.size(), 1u);
+}
+
+TEST_F(DataDocuments, AFaultBehindAnEmptyFieldIsNoQuestion) {
+    const std::string bytes = with(with(golden("sheet.mdt"), "N/A", ""), "1234.568", "x");
+    ReadDataFile(session, file("f.mdt", bytes));
+    expectFaultMessage("Line 19: \"\" is not a number. File: " + folder / "f.mdt");
 }
 
 TEST_F(DataDocuments, AFreeSlotIsUsedAgain) {

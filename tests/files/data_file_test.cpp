@@ -91,6 +91,34 @@ TEST(DataFile, ACellThatIsNoNumberGivesAnEmptyFieldAndThatFileFailsOnReading) {
     EXPECT_EQ(FaultOfData(bytes), "Line 17: \"\" is not a number. File: f");
 }
 
+TEST(DataFile, EmptyFieldsReadAsEmptyCellsWhereTheyAreTaken) {
+    const Grid sheet =
+        SheetOf({{"Record Name", "A", "B"}, {"R", "", " "}, {"S", "N/A", "x"}, {"T", "1", ""}});
+    const std::string bytes = ComposeDataFile(sheet, "", PointText());
+    for (const std::string& whole :
+         {bytes, bytes.substr(0, bytes.size() - 2)}) { // with a last line end, without
+        DocumentTables tables;
+        ParseDataFile(whole, PointText(), tables, EmptyFields::Taken);
+        const auto& values = tables.DataValues;
+        for (const auto& [row, column] : {std::pair(1, 1), std::pair(1, 2), std::pair(2, 2), std::pair(3, 2)})
+            EXPECT_TRUE(IsEmptyValue(values(row, column))) << row << "," << column;
+        EXPECT_EQ(values(2, 1), NaValue);
+        EXPECT_EQ(values(3, 1), 1.0f);
+    }
+}
+
+TEST(DataFile, WhatIsNoNumberIsAFaultWhereEmptyFieldsAreTakenToo) {
+    DocumentTables tables;
+    const std::string bytes = with(golden("sheet.mdt"), "N/A", "n/a");
+    EXPECT_EQ(faultOf([&] { ParseDataFile(bytes, PointText(), tables, EmptyFields::Taken); }),
+              "Line 19: \"n/a\" is not a number. File: f");
+    EXPECT_EQ(faultOf([&] {
+                  ParseDataFile(with(golden("sheet.mdt"), ";0.000\r\n", "\r\n"), PointText(), tables,
+                                EmptyFields::Taken);
+              }),
+              "Line 20: 1 fields stand where 2 are needed. File: f");
+}
+
 TEST(DataFile, AValueReadsBackWithThreeDecimals) {
     const Grid sheet = SheetOf({{"Record Name", "A"}, {"R", "1234.5678"}});
     EXPECT_EQ(Parsed(ComposeDataFile(sheet, "", PointText())).DataValues(1, 1), 1234.568f);

@@ -3,6 +3,7 @@
 #include "files/files_session.h"
 #include "files/older_bytes.h"
 #include "session/children.h"
+#include "view/frmDiagram.h"
 
 #include <cmath>
 #include <filesystem>
@@ -12,9 +13,7 @@ namespace dorvan::test {
 
 class DiagramDocuments : public FilesSession {
 protected:
-    RecordingWindow& window(std::size_t slot = 1) {
-        return dynamic_cast<RecordingWindow&>(*session.DiagramWindows.at(slot));
-    }
+    frmDiagram& window(std::int16_t slot = 1) { return DiagramWindow(session, slot); }
     DiagramDocument& document(std::size_t slot = 1) { return session.DiagramDocuments.at(slot); }
     bool free(std::size_t slot = 1) { return session.DiagramStates.at(slot).Deleted; }
 };
@@ -26,10 +25,11 @@ TEST_F(DiagramDocuments, ReadingOpensACleanWindow) {
     EXPECT_EQ(session.ActiveWindow, &window());
     EXPECT_EQ(window().Tag, "1");
     EXPECT_EQ(window().Caption, "[DIAGRAM]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"Pots; bowls; jugs"}));
+    EXPECT_EQ(window().BottomText.Text, "Pots; bowls; jugs");
+    EXPECT_EQ(window().Siatka.Text(1, 1), "Third one");
     EXPECT_FALSE(session.DiagramStates[1].Dirty);
     EXPECT_EQ(window().Width, static_cast<int>(0.95 * screen.widthTwips));
-    EXPECT_EQ(log, (std::vector<std::string>{"classify 1"}));
+    EXPECT_TRUE(log.empty());
 }
 
 TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
@@ -45,7 +45,7 @@ TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
     EXPECT_EQ(document().RecordNames(1), "Third one");
     EXPECT_EQ(document().VariableNames(2), "Width");
     EXPECT_EQ(document().RecordHasNA.Cells(), (std::vector<bool>{false, true, false}));
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    EXPECT_EQ(document().Classes.Cells(), (std::vector<std::int16_t>{5, 5, 1, 5, 5, 2, 1, 2, 5}));
     EXPECT_TRUE(session.DataHasNA);
 }
 
@@ -81,14 +81,14 @@ TEST_F(DiagramDocuments, AnOlderFileOpensAfterARemarkAndCountsAsChanged) {
                                           .Icon = MessageIcon::Exclamation,
                                           .Title = "Dorvan"}));
     EXPECT_EQ(window().Caption, "[DIAGRAM]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"Old, pots"}));
+    EXPECT_EQ(window().BottomText.Text, "Old, pots");
     EXPECT_TRUE(session.DiagramStates[1].Dirty);
     EXPECT_EQ(document().DiagType, 3);
     EXPECT_EQ(document().DistType, 1);
     EXPECT_EQ(document().Par_P, 7);
     EXPECT_EQ(document().Par_R, 8);
     EXPECT_FALSE(document().NoData);
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    EXPECT_EQ(document().Classes.Cells(), (std::vector<std::int16_t>{5, 1, 4, 1, 5, 1, 4, 1, 5}));
     EXPECT_EQ(session.PendingRecCount, 3);
     EXPECT_EQ(session.PendingVarCount, 2);
     EXPECT_EQ(session.SectionLimits.Cells(), (std::vector<float>{0.5f, 1.5f, 2.5f, 3.5f}));
@@ -213,7 +213,7 @@ TEST_F(DiagramDocuments, OpenLetsEventsRunAndUpdatesTheRecentFilesBeforeItReads)
                                          {{"dgr file (*.dgr)", "*.dgr"}, {"all (*.*)", "*.*"}},
                                          "",
                                          "program-folder"}}));
-    EXPECT_EQ(log, (std::vector<std::string>{"events", "recent " + path + " 0", "classify 1"}));
+    EXPECT_EQ(log, (std::vector<std::string>{"events", "recent " + path + " 0"}));
 }
 
 TEST_F(DiagramDocuments, OpenCancelledDoesNothing) {
@@ -234,7 +234,8 @@ TEST_F(DiagramDocuments, WhatIsReadIsWrittenAgain) {
     const auto again = [this](const std::string& name) {
         ReadDiagramFile(session, goldenFile(name));
         const auto slot = static_cast<std::size_t>(session.NewWindowIndex);
-        EXPECT_TRUE(WriteDiagramFile(session, folder / "f.dgr", document(slot), window(slot).presented[0]));
+        EXPECT_TRUE(
+            WriteDiagramFile(session, folder / "f.dgr", document(slot), window(slot).BottomText.Text));
         EXPECT_EQ(fileBytes(folder / "f.dgr"), golden(name));
     };
     again("diagram.dgr");

@@ -116,8 +116,17 @@ struct TestPlatform {
     ManualClock clock;
     MemorySettings settings;
     RecordingHelp help;
-    Platform platform{messages, files,  forms, children, signals, events,
-                      keyboard, screen, clock, settings, help};
+    Platform platform{.messages = messages,
+                      .files = files,
+                      .forms = forms,
+                      .children = children,
+                      .signals = signals,
+                      .events = events,
+                      .keyboard = keyboard,
+                      .screen = screen,
+                      .clock = clock,
+                      .settings = settings,
+                      .help = help};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;
