@@ -7,9 +7,11 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QKeySequence>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -51,6 +53,7 @@ MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& d
         BuildMenu(*this, *menu, item.Items);
     }
     BuildToolbars();
+    BuildStatusBar();
     dispatch_.AddMirror(this, [this] { Mirror(); });
     Mirror();
 }
@@ -113,6 +116,15 @@ void MainWindowFace::BuildToolbars() {
     }
 }
 
+void MainWindowFace::BuildStatusBar() {
+    status_ = new QLabel(statusBar());
+    status_->setObjectName("StatusText");
+    status_->setAccessibleName("Status");
+    status_->setTextFormat(Qt::PlainText);
+    statusBar()->setObjectName("StatusBar");
+    statusBar()->addWidget(status_, 1);
+}
+
 void MainWindowFace::MirrorToolbars() {
     for (const auto& [name, bar] : toolbars_)
         if (const bool shown = session_.mainWindow.ToolbarShown(name); bar->isHidden() == shown)
@@ -144,6 +156,8 @@ void MainWindowFace::Mirror() {
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }
     MirrorToolbars();
+    if (const QString text = ToQt(session_.mainWindow.StatusText); status_->text() != text)
+        status_->setText(text);
 }
 
 void MainWindowFace::PopUp(const std::string& menu, QPoint global) {

@@ -68,6 +68,9 @@ Order RunSimpleGenetic(Session& session, const FloatTable& distances) {
     return std::move(found.BestOrder);
 }
 
+constexpr const char* OrderOfTheSheet = "The order of the sheet was kept: no generation beat the first; try "
+                                        "another seed or coefficient";
+
 Order RunRavelin(Session& session, const FloatTable& distances) {
     Watch<frmWorkUM> watch(session);
     const RavelinHooks hooks{.yield = [&watch](RavelinProgress& progress) { return watch.Yield(progress); },
@@ -77,7 +80,9 @@ Order RunRavelin(Session& session, const FloatTable& distances) {
                                      session.platform.messages.show({.Text = "Error - Min invalid value"});
                                  },
                              .decimalSeparator = session.DecimalSeparator};
-    return RavelinOrder(distances, session.ordering, session.random, hooks).BestOrder;
+    FoundOrder found = RavelinOrder(distances, session.ordering, session.random, hooks);
+    session.mainWindow.StatusText = found.BetterWasSeen ? OrderOfTheSheet : "";
+    return std::move(found.BestOrder);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "session/document_grid.h"
 #include "view/classes.h"
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -157,6 +158,17 @@ void frmDiagram::Insert() {
     RowOrder(target) = SelectedRow;
     ApplyRowOrder();
     LandOn(target);
+}
+
+void frmDiagram::TakeOrder(const Array1<std::int16_t>& order) {
+    if (IsBusy()) return;
+    const WaitCursor cursor(session_.platform);
+    const std::int16_t selected = SelectedRow;
+    RowOrder = order;
+    ApplyRowOrder();
+    if (RowSelected != 1) return;
+    const auto& places = RowOrder.Cells();
+    LandOn(static_cast<std::int16_t>(std::ranges::find(places, selected) - places.begin() + 1));
 }
 
 void frmDiagram::ApplyRowOrder() {

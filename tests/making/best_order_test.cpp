@@ -1,6 +1,6 @@
 #include "making/best_order.h"
 
-#include "best_order/plain_two_sum.h"
+#include "making/plain_two_sum.h"
 #include "distance/measures.h"
 #include "making/order_quality.h"
 #include "making/side_by_side_work.h"

@@ -1,6 +1,6 @@
 #include "making/arrangement.h"
 
-#include "best_order/plain_two_sum.h"
+#include "making/plain_two_sum.h"
 #include "making/order_quality.h"
 #include "making/starting_orders.h"
 #include "support/expect_failure.h"

@@ -1,6 +1,6 @@
 #include "making/robinson_order.h"
 
-#include "best_order/plain_two_sum.h"
+#include "making/plain_two_sum.h"
 #include "making/order_quality.h"
 
 #include <gtest/gtest.h>
