@@ -4,6 +4,7 @@
 #include "making/frmBestOrder.h"
 #include "making/paint_pace.h"
 #include "numbers/number_text.h"
+#include "session/busy.h"
 #include "view/frmDiagram.h"
 
 #include <fmt/format.h>
@@ -95,10 +96,7 @@ Order SearchBehindWindow(Session& session, const DiagramDocument& document, std:
 }
 
 void PutInBestOrder(Session& session, std::int16_t slot) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session)) return;
     auto& window = DiagramWindow(session, slot);
     double before = 0;
     try {
