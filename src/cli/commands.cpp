@@ -9,6 +9,7 @@
 #include "program/open_document.h"
 #include "program/program.h"
 #include "session/frmMDI.h"
+#include "session/status_bar.h"
 #include "sheet/frmNotePad.h"
 #include "view/document_order.h"
 #include "view/frmDiagram.h"
@@ -153,7 +154,7 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
             run.TellSeed();
         run.mainWindow.ButtonClick("toolMain", "MakeDiagram");
         if (run.kind() != DocumentKind::Diagram) throw run.refusal("no diagram was made");
-        if (const auto& told = run.session.mainWindow.StatusText; !told.empty())
+        if (const auto& told = StatusText(run.session); !told.empty())
             fmt::print(stderr, "dorvan-cli: {}\n", told);
         if (choices.order == "best") PutInBestOrder(run);
         Save(run, out);

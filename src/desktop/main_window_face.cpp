@@ -3,6 +3,7 @@
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 #include "session/menus.h"
+#include "session/status_bar.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -156,8 +157,7 @@ void MainWindowFace::Mirror() {
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }
     MirrorToolbars();
-    if (const QString text = ToQt(session_.mainWindow.StatusText); status_->text() != text)
-        status_->setText(text);
+    if (const QString text = ToQt(StatusText(session_)); status_->text() != text) status_->setText(text);
 }
 
 void MainWindowFace::PopUp(const std::string& menu, QPoint global) {

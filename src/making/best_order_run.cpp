@@ -5,6 +5,7 @@
 #include "making/paint_pace.h"
 #include "numbers/number_text.h"
 #include "session/busy.h"
+#include "session/status_bar.h"
 #include "view/frmDiagram.h"
 
 #include <fmt/format.h>
@@ -109,7 +110,7 @@ void PutInBestOrder(Session& session, std::int16_t slot) {
     const Order order = SearchBehindWindow(session, window.Document(), Seed, SecondsUnseen);
     if (session.DiagramStates.at(std::size_t(slot)).Deleted) return; // closed meanwhile
     window.TakeOrder(order);
-    session.mainWindow.StatusText =
+    StatusText(session) =
         Told(before, TwoSumOfOrder(DistancesOf(window.Document())), session.DecimalSeparator);
 }
 

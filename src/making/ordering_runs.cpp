@@ -7,6 +7,7 @@
 #include "making/genetic_ordering.h"
 #include "making/paint_pace.h"
 #include "making/ravelin_ordering.h"
+#include "session/status_bar.h"
 
 #include <utility>
 
@@ -81,7 +82,7 @@ Order RunRavelin(Session& session, const FloatTable& distances) {
                                  },
                              .decimalSeparator = session.DecimalSeparator};
     FoundOrder found = RavelinOrder(distances, session.ordering, session.random, hooks);
-    session.mainWindow.StatusText = found.BetterWasSeen ? OrderOfTheSheet : "";
+    StatusText(session) = found.BetterWasSeen ? OrderOfTheSheet : "";
     return std::move(found.BestOrder);
 }
 

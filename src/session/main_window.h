@@ -20,7 +20,6 @@ public:
 
     std::string Caption;
     std::string TypeOfForm;
-    std::string StatusText; // of the status bar: what this program adds of its own tells its outcome there
 
     void EnableMenu(std::string_view item, bool enabled);
     bool MenuEnabled(std::string_view item) const;

@@ -6,6 +6,7 @@
 #include "program/program.h"
 #include "session/children.h"
 #include "session/frmMDI.h"
+#include "session/status_bar.h"
 #include "view/diagram_session.h"
 
 #include <gtest/gtest.h>
@@ -72,7 +73,7 @@ TEST_F(BestOrderCommand, TellsTheCriterionBeforeAndAfter) {
     session.DecimalSeparator = ',';
     // 2 (1/6 + 1/10 + 4/5) / 9 before, 2 (1/6 + 1/5 + 4/10) / 9 after
     Run();
-    EXPECT_EQ(session.mainWindow.StatusText, "Best order: 2-SUM / n² = 0,2370 before, 0,1704 after");
+    EXPECT_EQ(StatusText(session), "Best order: 2-SUM / n² = 0,2370 before, 0,1704 after");
 }
 
 TEST_F(BestOrderCommand, LeavesTheDiagramAsItIsWhenRepeated) {
@@ -84,7 +85,7 @@ TEST_F(BestOrderCommand, LeavesTheDiagramAsItIsWhenRepeated) {
     Run();
     EXPECT_EQ(window.Document().RecordNames, once.RecordNames);
     EXPECT_EQ(window.Document().Matrix, once.Matrix);
-    EXPECT_EQ(session.mainWindow.StatusText,
+    EXPECT_EQ(StatusText(session),
               "No better order was found: 2-SUM / n² = " + CriterionText(TwoSumOfOrder(once.Matrix), '.'));
 }
 
@@ -173,7 +174,7 @@ TEST_F(BestOrderCommand, LeavesADiagramThatWasClosedMeanwhile) {
     };
     Run();
     EXPECT_TRUE(session.DiagramStates.at(1).Deleted);
-    EXPECT_EQ(session.mainWindow.StatusText, "");
+    EXPECT_EQ(StatusText(session), "");
 }
 
 } // namespace
