@@ -22,10 +22,10 @@ constexpr int FirstChain = 1000; // its number, behind those of the starts
 constexpr int KicksOfRound = 16;
 constexpr int KicksToRefresh = 64;
 
-int StartsFor(int n) { return std::clamp(n / 15, 8, 16); }
+int StartsFor(int n) { return std::clamp(n / 18, 8, 16); }
 
 // So many kicks in a row without gain end the search. Small tables can afford more, and large ones need more.
-int PatienceFor(int n) { return std::clamp(72000 / n, std::min(n * n / 64, 4 * n), 2000 + 4 * n); }
+int PatienceFor(int n) { return std::clamp(60000 / n, std::min(n * n / 64, 4 * n), 2000 + 4 * n); }
 
 // Progress and Cancel, asked from all threads and told on the caller's.
 class Watch {

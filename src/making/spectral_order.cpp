@@ -10,7 +10,7 @@ namespace dorvan {
 
 namespace {
 
-constexpr int Steps = 48;
+constexpr int Steps = 32;
 
 using Row = Eigen::Map<const Eigen::VectorXd>;
 
