@@ -3,6 +3,7 @@
 #include "distance/frmCustomized.h"
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/measure_lists.h"
+#include "making/frmBestOrder.h"
 #include "making/frmGenetic.h"
 #include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"
@@ -51,7 +52,7 @@ void Fill(frmPrzedzal& form, const Choices& choices) {
     if (choices.type == "greyscale") form.Option1_Click();
     if (choices.type == "dots") form.Option2_Click();
     if (choices.type == "classic") form.Option3_Click();
-    if (choices.order == "none") form.Option6_Click();
+    if (choices.order == "none" || choices.order == "best") form.Option6_Click();
     if (choices.order == "simple") form.Option7_Click();
     if (choices.order == "genetic") form.Option8_Click();
     if (choices.order == "ravelin") form.Option9_Click();
@@ -76,9 +77,20 @@ void Fill(frmGeneticUM& form, const Choices& choices) {
     form.Command1_Click();
 }
 
+std::string BarLine(const Bar& track, const Bar& filled, const std::string& text) {
+    const int length = static_cast<int>(filled.Width / track.Width * BarLength);
+    return fmt::format("[{:=<{}}{:<{}}] {}", "", length, "", BarLength - length, text);
+}
+
+std::string ProgressLine(const frmBestOrder& form) {
+    return BarLine(form.Procent, form.Procent1,
+                   fmt::format("{} {}", form.Label1.Caption, form.lblCriterion.Caption));
+}
+
 std::string ProgressLine(const frmWork& form) {
-    return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
-                       form.lblFunkcja.Caption);
+    return BarLine(form.Procent, form.Procent1,
+                   fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
+                               form.lblFunkcja.Caption));
 }
 
 std::string ProgressLine(const frmWorkUM& form) {
@@ -149,10 +161,8 @@ void CliPlatform::update(Form& form) {
     if (!isatty(STDERR_FILENO) || now - shownAt_ < 0.1) return;
     shownAt_ = now;
     std::string line;
-    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) {
-        const int filled = static_cast<int>(genetic->Procent1.Width / genetic->Procent.Width * BarLength);
-        line = fmt::format("[{:=<{}}{:<{}}] {}", "", filled, "", BarLength - filled, ProgressLine(*genetic));
-    }
+    if (const auto* best = dynamic_cast<const frmBestOrder*>(&form)) line = ProgressLine(*best);
+    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) line = ProgressLine(*genetic);
     if (const auto* ravelin = dynamic_cast<const frmWorkUM*>(&form)) line = ProgressLine(*ravelin);
     fmt::print(stderr, "\r{}\x1b[K", line);
 }

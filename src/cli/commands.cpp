@@ -5,10 +5,13 @@
 #include "distance/frmMacierz.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
+#include "making/best_order_run.h"
 #include "program/open_document.h"
 #include "program/program.h"
 #include "session/frmMDI.h"
+#include "session/status_bar.h"
 #include "sheet/frmNotePad.h"
+#include "view/document_order.h"
 #include "view/frmDiagram.h"
 
 #include <fmt/format.h>
@@ -33,8 +36,19 @@ struct Run {
         ports.answersYes = surroundings.yes;
         Compose(session);
         const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
-        mainWindow.Form_Load(surroundings.seed.value_or(clock), ".");
+        seed = surroundings.seed.value_or(clock);
+        seedIsTold = surroundings.seed.has_value();
+        mainWindow.Form_Load(seed, ".");
         if (surroundings.codePage) session.codePage = CodePage(*surroundings.codePage);
+    }
+
+    std::uint64_t seed = 0;
+    bool seedIsTold = false;
+
+    // A search that is to come can be repeated with what it says.
+    void TellSeed() {
+        if (!seedIsTold) fmt::print(stderr, "dorvan-cli: --seed {}\n", seed);
+        seedIsTold = true;
     }
 
     std::string_view kind() const {
@@ -121,13 +135,38 @@ int RunMatrix(const std::string& sheet, const std::string& out, const Choices& c
     });
 }
 
+namespace {
+
+// The records of the diagram of the active window, in their best order: distances, names and data alike.
+void PutInBestOrder(Run& run) {
+    auto& window = DiagramWindow(run.session, run.session.ActiveWindow->Index);
+    ReorderDocument(window.Document(), SearchBehindWindow(run.session, window.Document(), run.seed, 0));
+}
+
+} // namespace
+
 int RunDiagram(const std::string& input, const std::string& out, const Choices& choices,
                const Surroundings& surroundings) {
     return Reported(input, [&] {
         Run run(choices, surroundings);
         Open(run, input, {DocumentKind::Data, DocumentKind::Matrix});
+        if (choices.order == "genetic" || choices.order == "ravelin" || choices.order == "best")
+            run.TellSeed();
         run.mainWindow.ButtonClick("toolMain", "MakeDiagram");
         if (run.kind() != DocumentKind::Diagram) throw run.refusal("no diagram was made");
+        if (const auto& told = StatusText(run.session); !told.empty())
+            fmt::print(stderr, "dorvan-cli: {}\n", told);
+        if (choices.order == "best") PutInBestOrder(run);
+        Save(run, out);
+    });
+}
+
+int RunOrder(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+    return Reported(diagram, [&] {
+        Run run({}, surroundings);
+        Open(run, diagram, {DocumentKind::Diagram});
+        run.TellSeed();
+        PutInBestOrder(run);
         Save(run, out);
     });
 }

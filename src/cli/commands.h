@@ -13,6 +13,7 @@ int RunMatrix(const std::string& sheet, const std::string& out, const Choices& c
               const Surroundings& surroundings);
 int RunDiagram(const std::string& input, const std::string& out, const Choices& choices,
                const Surroundings& surroundings);
+int RunOrder(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings);
 int RunInfo(const std::string& file, const Surroundings& surroundings);
 int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,

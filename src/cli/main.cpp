@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <charconv>
 #include <clocale>
 #include <cstdio>
 
@@ -14,6 +15,10 @@ using namespace dorvan::cli;
 namespace {
 
 constexpr int WrongUsage = 2;
+
+bool IsOnly(const std::string& text, const char* characters) {
+    return !text.empty() && text.find_first_not_of(characters) == std::string::npos;
+}
 
 // A reason for refusal, or nothing, as CLI11 wants it.
 const auto IsMeasure = CLI::Validator(
@@ -26,6 +31,28 @@ const auto IsKnownCodePage = CLI::Validator(
                                                                              : "no such code page: " + text;
     },
     "PAGE");
+
+// Whole numbers from 0 to 2^64 - 1 in plain digits, and nothing else.
+const auto IsSeed = CLI::Validator(
+    [](std::string& text) {
+        std::uint64_t seed = 0;
+        const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), seed);
+        return fault == std::errc() && end == text.data() + text.size() ? std::string()
+                                                                        : "no seed from 0 to 2^64-1: " + text;
+    },
+    "SEED");
+
+// What the fields of a dialog take: digits, and in some a point.
+const auto IsWhole = CLI::Validator(
+    [](std::string& text) {
+        return IsOnly(text, "0123456789") ? std::string() : "not a whole number from 0 on: " + text;
+    },
+    "NUMBER");
+const auto IsNotNegative = CLI::Validator(
+    [](std::string& text) {
+        return IsOnly(text, "0123456789.") ? std::string() : "not a number from 0 on: " + text;
+    },
+    "NUMBER");
 
 struct Arguments {
     std::string input;
@@ -54,8 +81,10 @@ void AddMeasure(CLI::App& command, Arguments& arguments) {
                     "jaccard, "
                     "yule, or its number 1 to 10 (euclidean)")
         ->check(IsMeasure);
-    command.add_option("-p", arguments.choices.parameterP, "exponent of the customized measure (2)");
-    command.add_option("-r", arguments.choices.parameterR, "root of the customized measure (2)");
+    command.add_option("-p", arguments.choices.parameterP, "exponent of the customized measure (2)")
+        ->check(IsWhole);
+    command.add_option("-r", arguments.choices.parameterR, "root of the customized measure (2)")
+        ->check(IsWhole);
 }
 
 void AddGenetic(CLI::App& command, Arguments& arguments) {
@@ -88,7 +117,8 @@ void AddRavelin(CLI::App& command, Arguments& arguments) {
         {"--critical-generation-number", "Text10", "generations in a row without gain that end the run (10)"},
         {"--matrix-conversion-coefficient", "Text11",
          "what distances are multiplied by before rounding to 0..255 (1.0)"}};
-    for (const auto& parameter : parameters)
+    for (const auto& parameter : parameters) {
+        const bool fraction = std::string_view(parameter.field) == "Text11";
         command
             .add_option_function<std::string>(
                 parameter.option,
@@ -96,7 +126,17 @@ void AddRavelin(CLI::App& command, Arguments& arguments) {
                     arguments.choices.ravelin[parameter.field] = text;
                 },
                 parameter.help)
+            ->check(fraction ? IsNotNegative : IsWhole)
             ->group("Ravelin genetic algorithm");
+    }
+}
+
+void AddSeed(CLI::App& command, Arguments& arguments) {
+    command
+        .add_option(
+            "--seed", arguments.surroundings.seed,
+            "seed of the random numbers, 0 to 2^64-1 (from the clock, and then told on standard error)")
+        ->check(IsSeed);
 }
 
 void AddMatrix(CLI::App& app, Arguments& arguments) {
@@ -119,25 +159,44 @@ void AddDiagram(CLI::App& app, Arguments& arguments) {
     command->add_option("INPUT", arguments.input, "data sheet (.mdt) or matrix (.mtx)")->required();
     command->add_option("OUT", arguments.output, "diagram to write (.dgr)")->required();
     AddMeasure(*command, arguments);
-    command->add_option("--order", arguments.choices.order, "none, simple, genetic or ravelin (none)")
-        ->check(CLI::IsMember({"none", "simple", "genetic", "ravelin"}));
+    command->add_option("--order", arguments.choices.order, "none, simple, genetic, ravelin or best (none)")
+        ->check(CLI::IsMember({"none", "simple", "genetic", "ravelin", "best"}));
     command->add_option("--type", arguments.choices.type, "greyscale, dots or classic (dots)")
         ->check(CLI::IsMember({"greyscale", "dots", "classic"}));
-    command->add_option("--seed", arguments.surroundings.seed, "seed of the random numbers (from the clock)");
+    AddSeed(*command, arguments);
     AddGenetic(*command, arguments);
     AddRavelin(*command, arguments);
     AddYes(*command, arguments);
     AddCodePage(*command, arguments);
     command->footer(
-        "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table "
-        "that\n"
-        "stands in its best order already, the Ravelin search may find no end by itself.\n\n"
+        "Ctrl+C once ends a search early: the best order so far is used and the file written. The order\n"
+        "\"best\" needs no parameter and ends by itself. The Ravelin search rounds distances times the "
+        "matrix\n"
+        "conversion coefficient to 0..255: where all lie above 255 / coefficient, or all round to one "
+        "number,\n"
+        "it finds no end by itself. Take a coefficient that brings the largest distance to about 255: some "
+        "200\n"
+        "for distances up to 1, 0.2 for distances up to 1000.\n\n"
         "Examples:\n"
         "  dorvan-cli diagram USArrests.mdt USArrests.dgr --order simple\n"
         "  dorvan-cli diagram Munsingen.mdt graves.dgr --measure jaccard --order ravelin --seed 1 "
         "--matrix-conversion-coefficient 100\n"
+        "  dorvan-cli diagram Munsingen.mdt graves.dgr --measure jaccard --order best\n"
         "  dorvan-cli diagram airquality.mdt air.dgr --measure henzel --type greyscale\n"
         "  dorvan-cli diagram iris.mtx iris.dgr --order genetic --generations 100 --variants 10");
+}
+
+void AddOrder(CLI::App& app, Arguments& arguments) {
+    auto* command = app.add_subcommand(
+        "order", "Put the records of a finished diagram in order: names, distances and data");
+    command->add_option("INPUT", arguments.input, "diagram (.dgr)")->required();
+    command->add_option("OUT", arguments.output, "diagram to write (.dgr)")->required();
+    command->add_option("--order", arguments.choices.order, "best (best)")->check(CLI::IsMember({"best"}));
+    AddSeed(*command, arguments);
+    AddCodePage(*command, arguments);
+    command->footer(
+        "Ctrl+C once ends the search early: the best order so far is used and the file written.\n\n"
+        "Example:\n  dorvan-cli order USArrests.dgr ordered.dgr --seed 1");
 }
 
 void AddConvert(CLI::App& app, Arguments& arguments) {
@@ -156,7 +215,8 @@ void AddInfo(CLI::App& app, Arguments& arguments) {
     command->add_option("FILE", arguments.input, "document (.mdt, .mtx or .dgr)")->required();
     AddYes(*command, arguments);
     AddCodePage(*command, arguments);
-    command->footer("Example:\n  dorvan-cli info USArrests.dgr");
+    command->footer("The figures of an order are of the distances in the file, which have three decimals.\n\n"
+                    "Example:\n  dorvan-cli info USArrests.dgr");
 }
 
 const auto IsPicture = CLI::Validator(
@@ -185,6 +245,7 @@ int Run(const CLI::App& app, const Arguments& arguments) {
     const auto& [input, output, choices, picture, surroundings] = arguments;
     if (app.got_subcommand("matrix")) return RunMatrix(input, output, choices, surroundings);
     if (app.got_subcommand("diagram")) return RunDiagram(input, output, choices, surroundings);
+    if (app.got_subcommand("order")) return RunOrder(input, output, surroundings);
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
     if (app.got_subcommand("info")) return RunInfo(input, surroundings);
     return RunPicture(input, output, picture, surroundings);
@@ -200,6 +261,7 @@ int main(int argc, char** argv) {
     app.require_subcommand(1);
     AddMatrix(app, arguments);
     AddDiagram(app, arguments);
+    AddOrder(app, arguments);
     AddConvert(app, arguments);
     AddInfo(app, arguments);
     AddPicture(app, arguments);

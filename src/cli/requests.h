@@ -13,7 +13,7 @@ struct Choices {
     std::string measure;    // a name such as "henzel", or a number 1 to 10
     std::string parameterP; // text of the customized measure's dialog
     std::string parameterR;
-    std::string order;                          // none, simple, genetic, ravelin
+    std::string order;                          // none, simple, genetic, ravelin, best
     std::string type;                           // greyscale, dots, classic
     std::string generations;                    // an item of the dialog's list
     std::string variants;                       // likewise
