@@ -1,5 +1,6 @@
 #pragma once
 
+#include "making/ordering_method.h"
 #include "session/documents.h"
 #include "session/session.h"
 

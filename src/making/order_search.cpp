@@ -100,7 +100,7 @@ private:
 
     // Lengths of stretches, 2 to n, each doubling as likely as the next.
     int DrawLength(int n) {
-        const double length = 2 * std::pow(double(n + 1) / 2, double(random_.draw()));
+        const double length = 2 * std::pow(double(n + 1) / 2, double(random_.Draw()));
         return std::clamp(static_cast<int>(length), 2, n);
     }
 

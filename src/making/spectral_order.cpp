@@ -48,7 +48,7 @@ Eigen::VectorXd SecondEigenvector(const Attractions& attractions) {
     Eigen::VectorXd beside = Eigen::VectorXd::Zero(steps);
     RandomSource random(1);
     Eigen::VectorXd x(n);
-    for (double& value : x) value = double(random.draw());
+    for (double& value : x) value = double(random.Draw());
     MakeOrthogonal(x, basis, 0);
     int made = 0;
     for (double length = x.norm(); made < steps && length > 0;) {

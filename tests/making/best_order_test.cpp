@@ -1,8 +1,9 @@
+#include "distance/distance.h"
 #include "making/best_order.h"
 
-#include "making/plain_two_sum.h"
 #include "distance/measures.h"
 #include "making/order_quality.h"
+#include "making/plain_two_sum.h"
 #include "making/side_by_side_work.h"
 #include "making/starting_orders.h"
 #include "support/expect_failure.h"
@@ -60,7 +61,7 @@ TEST(BestOrder, StandsHostileTables) {
             FloatTable oblique(n, n); // the directions differ, the diagonal holds anything
             for (float& cell : oblique.Cells()) cell = any(0, 0);
             EXPECT_TRUE(plain::IsPermutation(Best(oblique), n));
-            const FloatTable negative = plain::Table(n, [&](int, int) { return 20 * random.draw() - 10; });
+            const FloatTable negative = plain::Table(n, [&](int, int) { return 20 * random.Draw() - 10; });
             EXPECT_TRUE(plain::IsPermutation(Best(negative), n));
         }
     for (const float value : values)
@@ -153,7 +154,7 @@ TEST(BestOrder, FindsThePerfectOrderOfEveryGradient) {
         const float scale = std::pow(10.0F, float(table % 7) - 3);
         std::vector<float> places;
         for (int i = 0; i < n; ++i)
-            places.push_back(scale * (table % 2 == 0 ? random.draw() : std::floor(9 * random.draw())));
+            places.push_back(scale * (table % 2 == 0 ? random.Draw() : std::floor(9 * random.Draw())));
         const FloatTable line = plain::Table(n, [&](int i, int j) {
             return std::fabs(places[std::size_t(i - 1)] - places[std::size_t(j - 1)]);
         });

@@ -64,7 +64,7 @@ inline FloatTable Table(int n, const std::function<float(int, int)>& distance) {
 
 inline FloatTable Noise(int n, std::uint64_t seed, float largest = 1) {
     RandomSource random(seed);
-    return Table(n, [&](int, int) { return largest * random.draw(); });
+    return Table(n, [&](int, int) { return largest * random.Draw(); });
 }
 
 inline FloatTable WholeNumbers(int n, std::uint64_t seed, int largest) {
@@ -78,7 +78,7 @@ inline FloatTable Points(int n, std::uint64_t seed, int groups = 1) {
     std::vector<std::pair<double, double>> points;
     for (int i = 0; i < n; ++i) {
         const double middle = 7.0 * (i % groups);
-        points.emplace_back(middle + double(random.draw()), 3 * double(random.draw()));
+        points.emplace_back(middle + double(random.Draw()), 3 * double(random.Draw()));
     }
     return Table(n, [&](int i, int j) {
         const auto& [x, y] = points[std::size_t(i - 1)];
