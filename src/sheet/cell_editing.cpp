@@ -8,6 +8,9 @@
 #include "platform/keys.h"
 #include "session/busy.h"
 #include "sheet/expression.h"
+#include "sheet/sheet_values.h"
+
+#include <utility>
 
 namespace dorvan {
 
@@ -34,7 +37,7 @@ Message TooLarge() {
 }
 
 Message Unexpected(const RuntimeFailure& failure) {
-    return {.Text = "Unexpected error #" + SignedText(failure.number()) +
+    return {.Text = "Unexpected error #" + SignedText(failure.Number()) +
                     " in processing that number.  Try again.",
             .Icon = MessageIcon::Exclamation,
             .Title = RefusalTitle};
@@ -186,8 +189,7 @@ void frmNotePad::LeaveField() {
 
 void frmNotePad::CommitCell(int key) {
     const auto keepAlive = OwnReference();
-    if (session_.SuppressCommit) {
-        session_.SuppressCommit = false;
+    if (std::exchange(session_.Of<SheetValues>().SuppressCommit, false)) {
         EditCell.Text.clear();
         EditCell.SelStart = 0;
         return;
