@@ -45,7 +45,11 @@ void FormFace::RunModal() {
     dispatch_.AddMirror(&loop, [this, &loop] {
         if (!form_.Visible) loop.quit();
     });
-    dispatch_.Run([this] { form_.Form_Show(); });
+    // A dialog has the size that its contents ask: the resize of its showing is the only one.
+    dispatch_.Run([this] {
+        form_.Form_Show();
+        form_.Form_Resize();
+    });
     if (!form_.Visible) return;
     show();
     dispatch_.Mirror();

@@ -53,7 +53,7 @@ std::string WhyNoNumber(const RuntimeFailure& failure, std::string_view field) {
     std::replace_if(
         shown.begin(), shown.end(), [](char sign) { return static_cast<unsigned char>(sign) < ' '; }, '?');
     return fmt::format("\"{}{}\" {}", shown, cut ? "..." : "",
-                       failure.failure() == Failure::Overflow ? "is out of range" : "is not a number");
+                       failure.Kind() == Failure::Overflow ? "is out of range" : "is not a number");
 }
 
 } // namespace dorvan

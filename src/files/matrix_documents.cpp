@@ -60,11 +60,10 @@ void ReadOldMatrixFile(Session& session, const std::string& path) {
         description = ParseOldMatrixFile(LoadDocument(path, session.codePage), FileTextOf(session), document);
     };
     if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
-    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path)},
-                                   [&](frmMacierz& window) {
-                                       window.Document() = std::move(document);
-                                       window.Present(description);
-                                   });
+    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path)}, [&](frmMacierz& window) {
+        window.Document() = std::move(document);
+        window.Present(description);
+    });
 }
 
 void WriteMatrixFile(Session& session, const std::string& path, const DistanceMatrix& document,

@@ -44,21 +44,18 @@ bool Reads(const std::string& cell, char decimalSeparator) {
 }
 
 // The sheet with every value cell a number or "N/A".
-Grid ReadableSheet(const Grid& sheet, char decimalSeparator) {
-    Grid copy = sheet;
-    for (int row = 1; row < copy.Rows(); ++row)
-        for (int column = DocumentGrid::FirstValueColumn; column < copy.Columns(); ++column) {
-            const std::string& cell = copy.Text(row, column);
-            if (Reads(cell, decimalSeparator)) continue;
-            const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;
-            copy.SetText(row, column, FormatPattern(value, "###0.000", decimalSeparator));
-        }
-    return copy;
+SheetTable ReadableSheet(SheetTable sheet, char decimalSeparator) {
+    for (std::string& cell : sheet.Cells.Cells()) {
+        if (Reads(cell, decimalSeparator)) continue;
+        const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;
+        cell = FormatPattern(value, "###0.000", decimalSeparator);
+    }
+    return sheet;
 }
 
 Copied CopyOf(const Session& session, const frmNotePad& window) {
     return {"mdt", window.NamedFile(),
-            ComposeDataFile(ReadableSheet(window.Grid1, session.DecimalSeparator), window.OpisText.Text,
+            ComposeDataFile(ReadableSheet(window.Table(), session.DecimalSeparator), window.OpisText.Text,
                             FileTextOf(session))};
 }
 

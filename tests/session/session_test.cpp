@@ -18,7 +18,7 @@ TEST(StartSession, SeedsTheRandomSource) {
     TestSession test;
     StartSession(test.session, 77, "");
     RandomSource expected(77);
-    EXPECT_EQ(test.session.random.draw(), expected.draw());
+    EXPECT_EQ(test.session.random.Draw(), expected.Draw());
 }
 
 TEST(StartSession, ShowsTheMainToolbarAloneAndChecksItsMenuItem) {
@@ -69,13 +69,13 @@ TEST(StartSession, LeavesTheOtherValuesAtZero) {
     EXPECT_EQ(session.NewWindowIndex, 0);
     EXPECT_EQ(session.DiagramBusy, 0);
     EXPECT_FALSE(session.DiagramFromMatrix);
-    EXPECT_FALSE(session.DataHasNA);
+    EXPECT_FALSE(session.tables.DataHasNA);
     EXPECT_EQ(session.SectionLimits.Count(), 0);
-    EXPECT_EQ(session.RecordNames.Count(), 0);
-    EXPECT_EQ(session.VariableNames.Count(), 0);
-    EXPECT_EQ(session.RecordHasNA.Count(), 0);
-    EXPECT_EQ(session.DataValues.Rows(), 0);
-    EXPECT_EQ(session.DistanceValues.Rows(), 0);
+    EXPECT_EQ(session.tables.RecordNames.Count(), 0);
+    EXPECT_EQ(session.tables.VariableNames.Count(), 0);
+    EXPECT_EQ(session.tables.RecordHasNA.Count(), 0);
+    EXPECT_EQ(session.tables.DataValues.Rows(), 0);
+    EXPECT_EQ(session.tables.DistanceValues.Rows(), 0);
 }
 
 TEST(StartSession, BuildsARegistryWhoseSlotOneIsFree) {
@@ -142,7 +142,7 @@ TEST(ParseSheetNumber, RefusesWhatIsNoNumber) {
         ParseSheetNumber("stone", '.');
         FAIL();
     } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::TypeMismatch);
+        EXPECT_EQ(failure.Kind(), Failure::TypeMismatch);
     }
 }
 
@@ -151,6 +151,23 @@ TEST(NaValue, IsOneExactFloat) {
     EXPECT_EQ(static_cast<float>(static_cast<double>(NaValue)), NaValue);
     EXPECT_EQ(ParseSheetNumber("-9999999", '.'), NaValue);
     EXPECT_EQ(NaText, "N/A");
+}
+
+struct OneRoom {
+    int Value = 3;
+};
+struct OtherRoom {
+    int Value = 4;
+};
+
+TEST(SessionOf, MakesTheValuesOfARoomOnceForEachSession) {
+    TestSession test;
+    TestSession other;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 3);
+    test.session.Of<OneRoom>().Value = 5;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 5);
+    EXPECT_EQ(test.session.Of<OtherRoom>().Value, 4);
+    EXPECT_EQ(other.session.Of<OneRoom>().Value, 3);
 }
 
 } // namespace

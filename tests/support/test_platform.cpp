@@ -42,6 +42,7 @@ void ScriptedForms::showModal(Form& form) {
     scripts.pop_front();
     form.Visible = true;
     form.Form_Show();
+    form.Form_Resize();
     script(form);
     if (form.Visible) {
         ADD_FAILURE() << "the script leaves " << form.Name << " open";
@@ -71,6 +72,23 @@ int ScriptedEvents::run() {
     ++runs;
     if (onRun) onRun(runs);
     return windows;
+}
+
+PixelImage BlankRasterizer::pixelsOf(const Drawing& drawing) {
+    if (empty) return {};
+    const int width = static_cast<int>((drawing.Width + 14) / 15);
+    const int height = static_cast<int>((drawing.Height + 14) / 15);
+    return {width, height, std::vector<std::uint32_t>(std::size_t(width) * std::size_t(height), 0xFFFFFF)};
+}
+
+void RecordingClipboard::clear() {
+    if (fails) throw std::runtime_error("the clipboard is another program's");
+    log.push_back("clear");
+}
+
+void RecordingClipboard::put(const Drawing& drawing) {
+    log.push_back("put");
+    held = drawing;
 }
 
 void RecordingKeyboard::send(const std::string& keys) {

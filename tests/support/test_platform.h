@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "session/session.h"
+#include "support/drawings.h"
 
 #include <deque>
 #include <functional>
@@ -106,6 +107,22 @@ public:
     void show(const std::string& file, int command) override;
 };
 
+// A white picture of one pixel for 15 twips, or none.
+class BlankRasterizer : public Rasterizer {
+public:
+    bool empty = false;
+    PixelImage pixelsOf(const Drawing& drawing) override;
+};
+
+class RecordingClipboard : public PictureClipboard {
+public:
+    std::vector<std::string> log; // "clear", "put"
+    Drawing held;
+    bool fails = false;
+    void clear() override;
+    void put(const Drawing& drawing) override;
+};
+
 struct TestPlatform {
     ScriptedMessages messages;
     ScriptedFiles files;
@@ -118,6 +135,9 @@ struct TestPlatform {
     ManualClock clock;
     MemorySettings settings;
     RecordingHelp help;
+    FixedMeasure fonts;
+    BlankRasterizer raster;
+    RecordingClipboard clipboard;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -128,7 +148,10 @@ struct TestPlatform {
                       .screen = screen,
                       .clock = clock,
                       .settings = settings,
-                      .help = help};
+                      .help = help,
+                      .fonts = fonts,
+                      .raster = raster,
+                      .clipboard = clipboard};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;

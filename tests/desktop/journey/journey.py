@@ -4,6 +4,7 @@ two ends of a run that nobody asked for. Usage: journey.py PROGRAM SAMPLES GOLDE
 import pathlib
 import shutil
 import signal
+import subprocess
 import sys
 import tempfile
 import time
@@ -180,8 +181,42 @@ def a_termination():
         (documents / rescued()[0]).unlink()
 
 
+def kind_of_image(path):
+    return subprocess.run(["identify", "-format", "%m %wx%h %z", str(path)], capture_output=True, text=True).stdout
+
+
+def pictures_of_a_diagram():
+    """Histogram, linear graph and bitmap; what is saved opens in another program."""
+    dorvan = Program(program_path, str(folder / "towns.dgr"))
+    try:
+        dorvan.expect_cell("Diagram", 0, 1, "Name")
+        dorvan.push("Histogram")
+        dorvan.wait_for_window("Histogram")
+        dorvan.push("Check")
+        screenshot("histogram.png")
+        dorvan.push("OK")
+        dorvan.wait_for_no_window("Histogram")
+        dorvan.push("Linear")
+        dorvan.wait_for_window("Linear graph")
+        screenshot("linear.png")
+        dorvan.push("OK")
+        dorvan.wait_for_no_window("Linear graph")
+        dorvan.push("Export bitmap graphic")
+        screenshot("bitmap.png")
+        for name, kind in (("towns.bmp", "BMP3"), ("towns.tif", "TIFF"), ("towns.png", "PNG")):
+            dorvan.push("SaveAs")
+            dorvan.choose_file("Dorvan - Save bitmap As", str(folder / name))
+            wait_for(f"image {name}", (folder / name).exists)
+            time.sleep(0.3)
+            if kind_of_image(folder / name) != f"{kind} 527x400 8":
+                raise Failed(f"{name} is {kind_of_image(folder / name)!r}")
+    finally:
+        dorvan.kill()
+
+
 try:
     one_analysis()
+    pictures_of_a_diagram()
     a_run_time_failure()
     a_termination()
 except Failed as failure:

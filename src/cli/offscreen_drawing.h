@@ -1,5 +1,6 @@
 #pragma once
 
+#include "painting/rasterizer.h"
 #include "painting/text_measure.h"
 #include "painting/toolkit.h"
 
@@ -7,8 +8,9 @@
 
 namespace dorvan::cli {
 
-// Starts the toolkit, which needs no screen, at the first text: most subcommands never do.
-class DrawnText : public TextMeasure {
+// The ports of drawings. The toolkit, which needs no screen, starts at their first use: most subcommands
+// never start it.
+class OffscreenDrawing : public TextMeasure, public Rasterizer {
 public:
     void StartToolkit() {
         if (!toolkit_) toolkit_.emplace();
@@ -17,10 +19,15 @@ public:
         StartToolkit();
         return measure_.extentOf(text, font);
     }
+    PixelImage pixelsOf(const Drawing& drawing) override {
+        StartToolkit();
+        return rasterizer_.pixelsOf(drawing);
+    }
 
 private:
     std::optional<painting::Toolkit> toolkit_;
     painting::QtTextMeasure measure_;
+    painting::QtRasterizer rasterizer_;
 };
 
 } // namespace dorvan::cli

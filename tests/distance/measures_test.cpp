@@ -1,4 +1,4 @@
-#include "distance/measure_lists.h"
+#include "distance/distance.h"
 #include "distance/measures.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
@@ -37,6 +37,29 @@ TEST(MeasureLists, EachMeasureStandsAtItsPlaceWithItsText) {
     EXPECT_EQ(MeasuresOfKind(2).size(), 4u);
 }
 
+TEST(Measures, StandInOneTableWithNameAndWhatTheyKnow) {
+    const char* const names[] = {"henzel",     "czekanowski", "euclidean",      "manhattan", "chebychev",
+                                 "customized", "dfdd",        "lance-williams", "jaccard",   "yule"};
+    ASSERT_EQ(Measures().size(), 10u);
+    for (std::int16_t code = 1; code <= 10; ++code) {
+        const MeasureRow& row = Measures()[std::size_t(code - 1)];
+        EXPECT_EQ(std::int16_t(row.Code), code);
+        EXPECT_STREQ(row.Name, names[code - 1]);
+        EXPECT_EQ(row.KnowsMissingValues, code <= 2) << code;
+        EXPECT_EQ(FindMeasure(code), &row);
+        EXPECT_EQ(FindMeasure(row.Name), &row);
+        EXPECT_EQ(FindMeasure(std::to_string(code)), &row);
+        EXPECT_NE(row.FastDistances, nullptr) << code;
+    }
+    for (const auto* name : {"", "Henzel", "0", "11", "01", "henzel "}) EXPECT_EQ(FindMeasure(name), nullptr);
+    for (const int code : {-1, 0, 11, 32767}) EXPECT_EQ(FindMeasure(std::int16_t(code)), nullptr);
+}
+
+TEST(KnowsMissingValues, IsFalseFromTheThirdMeasureOn) {
+    for (const int code : {-32768, -1, 0, 1, 2}) EXPECT_TRUE(KnowsMissingValues(std::int16_t(code))) << code;
+    for (const int code : {3, 10, 11, 32767}) EXPECT_FALSE(KnowsMissingValues(std::int16_t(code))) << code;
+}
+
 TEST(MeasureLists, FailOutside) {
     EXPECT_FAILURE(Failure::InvalidProcedureCall, PlaceOfMeasure(0));
     EXPECT_FAILURE(Failure::InvalidProcedureCall, PlaceOfMeasure(11));
@@ -48,12 +71,12 @@ TEST(MeasureLists, FailOutside) {
 
 TEST(CurrentMeasure, IsWhatTheSessionHasInForce) {
     test::TestSession test;
-    EXPECT_EQ(CurrentMeasure(test.session).Type, 1);
+    EXPECT_EQ(CurrentMeasure(test.session).Type, DistanceType::Henzel);
     test.session.CurrentDistType = 6;
     test.session.Par_P = 4;
     test.session.Par_R = 5;
     const Measure measure = CurrentMeasure(test.session);
-    EXPECT_EQ(measure.Type, 6);
+    EXPECT_EQ(measure.Type, DistanceType::Customized);
     EXPECT_EQ(measure.Par_P, 4);
     EXPECT_EQ(measure.Par_R, 5);
 }

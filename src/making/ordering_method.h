@@ -1,14 +1,12 @@
 #pragma once
 
-#include "session/documents.h"
+#include "session/session.h"
 
 #include <cstdint>
 #include <functional>
 #include <map>
 
 namespace dorvan {
-
-struct Session;
 
 // order(p) is the record, by its place before the ordering, that goes to place p.
 using Order = Array1<std::int16_t>;
