@@ -41,7 +41,7 @@ std::optional<std::string_view> SectionReader::Value(std::string_view key) {
 }
 
 std::string SectionReader::Text(std::string_view key) {
-    return text_.Codes.toUtf8(Value(key).value_or(std::string_view()));
+    return text_.Codes.ToUtf8(Value(key).value_or(std::string_view()));
 }
 
 HeaderCount SectionReader::Count(std::string_view key) {
@@ -52,7 +52,7 @@ HeaderCount SectionReader::Count(std::string_view key) {
         count.Value = StrictInt16(*value, text_.DecimalSeparator);
     } catch (const RuntimeFailure& failure) {
         throw FileFault::AtLine(count.Line,
-                                fmt::format("{} {}", key, WhyNoNumber(failure, text_.Codes.toUtf8(*value))));
+                                fmt::format("{} {}", key, WhyNoNumber(failure, text_.Codes.ToUtf8(*value))));
     }
     return count;
 }
@@ -77,7 +77,7 @@ void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters,
     labels.Cells().reserve(std::min<std::size_t>(std::size_t(count.Value), lines_.Remaining()));
     for (std::int32_t i = 1; i <= count.Value; ++i) {
         const std::string_view label = NextTrimmed(); // a byte is a character of the code page
-        labels.Append(text_.Codes.toUtf8(TrimSpaces(label.substr(0, mostCharacters))));
+        labels.Append(text_.Codes.ToUtf8(TrimSpaces(label.substr(0, mostCharacters))));
     }
 }
 
@@ -95,7 +95,7 @@ float SectionReader::Number(std::string_view field) const {
     try {
         return ParseSheetNumber(field, text_.DecimalSeparator);
     } catch (const RuntimeFailure& failure) {
-        throw FileFault::AtLine(lines_.LineNumber(), WhyNoNumber(failure, text_.Codes.toUtf8(field)));
+        throw FileFault::AtLine(lines_.LineNumber(), WhyNoNumber(failure, text_.Codes.ToUtf8(field)));
     }
 }
 

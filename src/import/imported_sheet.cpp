@@ -9,9 +9,9 @@ namespace dorvan {
 void HandOver(Session& session, TableOfRecords table) {
     session.PendingRecCount = NarrowToInt16(table.RecordNames.Count());
     session.PendingVarCount = NarrowToInt16(table.VariableNames.Count());
-    session.RecordNames = std::move(table.RecordNames);
-    session.VariableNames = std::move(table.VariableNames);
-    session.DataValues = std::move(table.Values);
+    session.tables.RecordNames = std::move(table.RecordNames);
+    session.tables.VariableNames = std::move(table.VariableNames);
+    session.tables.DataValues = std::move(table.Values);
 }
 
 } // namespace dorvan

@@ -56,10 +56,10 @@ int ColumnWidth(const FloatTable& distances, char decimalSeparator) {
 }
 
 void FillDocument(const Session& session, DistanceMatrix& document) {
-    document.Size = NarrowToInt16(session.RecordNames.Count());
-    document.Names = session.RecordNames;
+    document.Size = NarrowToInt16(session.tables.RecordNames.Count());
+    document.Names = session.tables.RecordNames;
     document.Cells = Array2<std::string>(document.Size, document.Size);
-    std::transform(session.DistanceValues.Cells().begin(), session.DistanceValues.Cells().end(),
+    std::transform(session.tables.DistanceValues.Cells().begin(), session.tables.DistanceValues.Cells().end(),
                    document.Cells.Cells().begin(),
                    [&](float distance) { return PlainText(distance, session.DecimalSeparator); });
 }
@@ -75,14 +75,14 @@ void ImportMatrixFile(Session& session) {
                               .Precision = dialog.ImpMatrixPrecision},
                              dialog.Codes());
     if (!matrix) return;
-    session.RecordNames = std::move(matrix->RecordNames);
-    session.DistanceValues = std::move(matrix->Distances);
+    session.tables.RecordNames = std::move(matrix->RecordNames);
+    session.tables.DistanceValues = std::move(matrix->Distances);
     const std::string description(TrimSpaces("Matrix from: " + dialog.ImpMatrixPath));
     OpenDocumentWindow<frmMacierz>(
         session, {.Caption = "[MATRIX]: Imported matrix"}, [&](frmMacierz& window) {
             FillDocument(session, window.Document());
-            window.PresentDistances(session.DistanceValues, description,
-                                    ColumnWidth(session.DistanceValues, session.DecimalSeparator));
+            window.PresentDistances(session.tables.DistanceValues, description,
+                                    ColumnWidth(session.tables.DistanceValues, session.DecimalSeparator));
         });
 }
 

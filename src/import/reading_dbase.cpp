@@ -46,7 +46,7 @@ public:
                 row[k] = ParseSheetNumber(value, decimalSeparator);
             } catch (const RuntimeFailure& failure) {
                 throw FileFault::AtRecord(record, selection_.Variables[k],
-                                          WhyNoNumber(failure, codes.Page.toUtf8(value)));
+                                          WhyNoNumber(failure, codes.Page.ToUtf8(value)));
             }
         }
         Result.Table.RecordNames(record) = TrimSpaces(ValueOf(table_, recordName_));

@@ -86,11 +86,11 @@ std::string FromUtf16(std::string_view bytes, bool bigEndian) {
 
 std::string Decoded(std::string bytes, const TextCodes& codes) {
     const std::string_view view = bytes;
-    if (codes.Forced) return codes.Page.toUtf8(view);
+    if (codes.Forced) return codes.Page.ToUtf8(view);
     if (view.starts_with(LittleEndianMark)) return FromUtf16(view.substr(2), false);
     if (view.starts_with(BigEndianMark)) return FromUtf16(view.substr(2), true);
     if (view.starts_with(Utf8Mark)) return WithoutUtf8Mark(std::move(bytes));
-    return EndOfUtf8(view) == view.size() ? std::move(bytes) : codes.Page.toUtf8(view);
+    return EndOfUtf8(view) == view.size() ? std::move(bytes) : codes.Page.ToUtf8(view);
 }
 
 } // namespace
@@ -107,7 +107,7 @@ std::vector<std::string> TextsJudgedTogether(std::vector<std::string> texts, con
         return EndOfUtf8(text) == text.size();
     });
     if (!utf8)
-        for (auto& text : texts) text = codes.Page.toUtf8(text);
+        for (auto& text : texts) text = codes.Page.ToUtf8(text);
     return texts;
 }
 

@@ -68,14 +68,14 @@ void frmDeleteVar::EmptyOnlyVariable() {
 // The names reach the header before the values are read, of which one may end the run.
 void frmDeleteVar::Delete(std::int32_t variable) {
     frmNotePad& sheet = ActiveDataWindow(session_);
-    auto& names = session_.VariableNames.Cells();
+    auto& names = session_.tables.VariableNames.Cells();
     names.erase(names.begin() + (variable - 1));
     WriteVariableNames(session_);
-    session_.DataValues = ValuesOf(sheet, session_.DecimalSeparator);
+    session_.tables.DataValues = ValuesOf(sheet, session_.DecimalSeparator);
     DocumentGrid::SetSize(sheet.Grid1, sheet.RecordCount(), sheet.VariableCount() - 1);
     for (int record = 1; record <= sheet.RecordCount(); ++record) {
-        float* values = session_.DataValues.Row(record);
-        std::copy(values + variable, values + session_.DataValues.Columns(), values + variable - 1);
+        float* values = session_.tables.DataValues.Row(record);
+        std::copy(values + variable, values + session_.tables.DataValues.Columns(), values + variable - 1);
         for (int kept = 1; kept <= sheet.VariableCount(); ++kept)
             sheet.Grid1.SetText(record, ValueColumn(kept),
                                 PlainText(values[kept - 1], session_.DecimalSeparator));

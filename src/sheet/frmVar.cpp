@@ -20,7 +20,7 @@ void frmVar::Text1_KeyPress(int& keyAscii) {
 
 void frmVar::Command3_Click() {
     if (List1.ListIndex < 0) return;
-    session_.VariableNames(List1.ListIndex + 1) = Text1.Text;
+    session_.tables.VariableNames(List1.ListIndex + 1) = Text1.Text;
     ShowVariableNames(session_, List1, List1.ListIndex);
     List1_Click();
     MarkSheetChanged(session_);

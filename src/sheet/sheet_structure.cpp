@@ -9,21 +9,21 @@ using namespace DocumentGrid;
 
 void TakeVariableNames(Session& session) {
     const frmNotePad& sheet = ActiveDataWindow(session);
-    session.VariableNames = Names(sheet.VariableCount());
+    session.tables.VariableNames = Names(sheet.VariableCount());
     for (int variable = 1; variable <= sheet.VariableCount(); ++variable)
-        session.VariableNames(variable) = TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
+        session.tables.VariableNames(variable) = TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
 }
 
 void ShowVariableNames(const Session& session, ListBox& list, int selected) {
-    list.List = session.VariableNames.Cells();
+    list.List = session.tables.VariableNames.Cells();
     list.ListIndex = list.List.empty() ? -1 : selected;
 }
 
 void WriteVariableNames(Session& session) {
     Grid& grid = ActiveDataWindow(session).Grid1;
-    for (int variable = 1; variable <= session.VariableNames.Count(); ++variable)
+    for (int variable = 1; variable <= session.tables.VariableNames.Count(); ++variable)
         grid.SetText(HeaderRow, ValueColumn(variable),
-                     std::string(TrimSpaces(session.VariableNames(variable))));
+                     std::string(TrimSpaces(session.tables.VariableNames(variable))));
 }
 
 void MarkSheetChanged(Session& session) {

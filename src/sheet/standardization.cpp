@@ -1,3 +1,4 @@
+#include "sheet/sheet_values.h"
 #include "sheet/standardization.h"
 
 #include "numbers/number_text.h"
@@ -24,8 +25,8 @@ constexpr int FewestRecords = 2;
 bool LoadCell(Session& session, Grid& grid, int record, int variable) {
     const int column = ValueColumn(variable);
     const std::string text = ReplaceAll(grid.Text(record, column), ",", ".");
-    session.DataValues(record, variable) = RoundToFloat(LeadingNumber(TrimSpaces(text)));
-    if (session.PendingError) {
+    session.tables.DataValues(record, variable) = RoundToFloat(LeadingNumber(TrimSpaces(text)));
+    if (session.Of<SheetValues>().PendingError) {
         session.platform.messages.show(
             {.Text = fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable)),
              .Icon = MessageIcon::Critical});
@@ -36,11 +37,11 @@ bool LoadCell(Session& session, Grid& grid, int record, int variable) {
 }
 
 bool LoadValues(Session& session, frmNotePad& sheet) {
-    session.RecordNames = Names(sheet.RecordCount());
-    session.DataValues = FloatTable(sheet.RecordCount(), sheet.VariableCount());
+    session.tables.RecordNames = Names(sheet.RecordCount());
+    session.tables.DataValues = FloatTable(sheet.RecordCount(), sheet.VariableCount());
     TakeVariableNames(session);
     for (int record = 1; record <= sheet.RecordCount(); ++record)
-        session.RecordNames(record) = TrimSpaces(sheet.Grid1.Text(record, NameColumn));
+        session.tables.RecordNames(record) = TrimSpaces(sheet.Grid1.Text(record, NameColumn));
     for (int record = 1; record <= sheet.RecordCount(); ++record)
         for (int variable = 1; variable <= sheet.VariableCount(); ++variable)
             if (!LoadCell(session, sheet.Grid1, record, variable)) return false;
@@ -54,16 +55,16 @@ void TellConstant(Session& session) {
 
 void Standardize(Session& session, std::int16_t method) {
     if (method == frmStandard::ByDeviation)
-        StandardizeByDeviation(session.DataValues);
+        StandardizeByDeviation(session.tables.DataValues);
     else
-        StandardizeToRange(session.DataValues, [&session] { TellConstant(session); });
+        StandardizeToRange(session.tables.DataValues, [&session] { TellConstant(session); });
 }
 
 // No value is missing in the new sheet, the one that stands for missing ones neither.
 void ShowAllAsNumbers(const Session& session, Grid& grid) {
-    for (int record = 1; record <= session.DataValues.Rows(); ++record)
-        for (int variable = 1; variable <= session.DataValues.Columns(); ++variable)
-            if (session.DataValues(record, variable) == NaValue)
+    for (int record = 1; record <= session.tables.DataValues.Rows(); ++record)
+        for (int variable = 1; variable <= session.tables.DataValues.Columns(); ++variable)
+            if (session.tables.DataValues(record, variable) == NaValue)
                 grid.SetText(record, ValueColumn(variable),
                              FormatPattern(NaValue, "###0.000", session.DecimalSeparator));
 }
@@ -80,7 +81,7 @@ bool AskForMethod(Session& session, std::int16_t& method) {
 void Standardization(Session& session) {
     if (RefusedWhileBusy(session)) return;
     frmNotePad& sheet = ActiveDataWindow(session);
-    session.PendingError = false;
+    session.Of<SheetValues>().PendingError = false;
     if (sheet.RecordCount() < FewestRecords) {
         session.platform.messages.show(
             {.Text = "The number of records is less than 2. How make standarization?",

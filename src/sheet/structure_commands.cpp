@@ -1,3 +1,4 @@
+#include "sheet/sheet_values.h"
 #include "sheet/structure_commands.h"
 
 #include "numbers/text.h"
@@ -102,7 +103,7 @@ void DeleteRecord(Session& session) {
     if (row < 1) session.platform.signals.beep();
     if (sheet.RecordCount() >= 1 && row > 0) {
         if (AsksToDelete(session, row)) {
-            session.SuppressCommit = true;
+            session.Of<SheetValues>().SuppressCommit = true;
             RemoveRecord(sheet, row);
             grid.SetCurrent(grid.Row(), std::min(FirstValueColumn, grid.Columns() - 1));
             MarkSheetChanged(session);

@@ -193,7 +193,7 @@ TEST(DistancesBetweenRows, CustomizedDecidesNearTiesAsThePlainDefinitionDoes) {
 TEST(DistancesBetweenRows, IsSymmetricWithAZeroDiagonalForEveryMeasure) {
     const FloatTable values = RandomSheet(70, 20, 37u, Score);
     for (std::int16_t type = 0; type <= 11; ++type) {
-        const FloatTable distances = DistancesBetweenRows(values, 70, 20, {type, 2, 2});
+        const FloatTable distances = DistancesBetweenRows(values, 70, 20, {DistanceType(type), 2, 2});
         for (std::int32_t i = 1; i <= 70; ++i) {
             EXPECT_EQ(std::bit_cast<std::uint32_t>(distances(i, i)), 0u);
             for (std::int32_t j = 1; j < i; ++j) ASSERT_EQ(distances(i, j), distances(j, i));
@@ -211,7 +211,7 @@ TEST(DistancesBetweenRows, TheDiagonalIsZeroWhereTheMeasureWouldFailForARecordAg
 }
 
 TEST(DistancesBetweenRows, AMeasureOutsideOneToTenGivesZeros) {
-    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {11}), FloatTable(5, 5));
+    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {DistanceType(11)}), FloatTable(5, 5));
 }
 
 // The pair (1, 40) comes before (2, 3), although it lies in a later block of lanes.
@@ -228,10 +228,10 @@ TEST(DistancesBetweenRows, ThrowsTheFailureOfTheFirstPairInTheOrderOfThePairs) {
 
 TEST(DistancesBetweenRows, FailsOutsideTheTable) {
     const FloatTable values(3, 2);
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 4, 2, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, 3, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, -1, 2, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, -1, {3}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 4, 2, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, 3, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, -1, 2, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, -1, {DistanceType(3)}));
 }
 
 TEST(ComputeDistanceMatrix, ReplacesTheDistancesByThoseOfTheMeasureInForce) {
@@ -245,7 +245,7 @@ TEST(ComputeDistanceMatrix, ReplacesTheDistancesByThoseOfTheMeasureInForce) {
         if (type == DistanceType::LanceAndWilliams || type == DistanceType::Jaccard) continue;
         EXPECT_TRUE(ComputeDistanceMatrix(test.session, 33, 10));
         EXPECT_EQ(test.session.tables.DistanceValues,
-                  test::plainDistances(test.session.tables.DataValues, 33, 10, {type, 3, 2}));
+                  test::plainDistances(test.session.tables.DataValues, 33, 10, {DistanceType(type), 3, 2}));
     }
 }
 

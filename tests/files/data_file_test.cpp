@@ -95,7 +95,7 @@ TEST(DataFile, ACellThatIsNoNumberGivesAnEmptyFieldAndThatFileFailsOnReading) {
 }
 
 TEST(DataFile, EmptyFieldsReadAsEmptyCellsWhereTheyAreTaken) {
-    const Grid sheet =
+    const SheetTable sheet =
         SheetOf({{"Record Name", "A", "B"}, {"R", "", " "}, {"S", "N/A", "x"}, {"T", "1", ""}});
     const std::string bytes = ComposeDataFile(sheet, "", PointText());
     for (const std::string& whole :

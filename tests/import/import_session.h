@@ -48,16 +48,16 @@ protected:
         EXPECT_TRUE(session.DataStates[1].Deleted);
         EXPECT_EQ(session.MatrixStates.size(), 2u);
         EXPECT_TRUE(session.MatrixStates[1].Deleted);
-        EXPECT_EQ(session.RecordNames, Names(1, "kept"));
-        EXPECT_EQ(session.VariableNames, Names(1, "kept"));
-        EXPECT_EQ(session.DataValues, FloatTable(1, 1, 7));
-        EXPECT_EQ(session.DistanceValues, FloatTable(1, 1, 7));
+        EXPECT_EQ(session.tables.RecordNames, Names(1, "kept"));
+        EXPECT_EQ(session.tables.VariableNames, Names(1, "kept"));
+        EXPECT_EQ(session.tables.DataValues, FloatTable(1, 1, 7));
+        EXPECT_EQ(session.tables.DistanceValues, FloatTable(1, 1, 7));
     }
     void fillWorkingArrays() {
-        session.RecordNames = Names(1, "kept");
-        session.VariableNames = Names(1, "kept");
-        session.DataValues = FloatTable(1, 1, 7);
-        session.DistanceValues = FloatTable(1, 1, 7);
+        session.tables.RecordNames = Names(1, "kept");
+        session.tables.VariableNames = Names(1, "kept");
+        session.tables.DataValues = FloatTable(1, 1, 7);
+        session.tables.DistanceValues = FloatTable(1, 1, 7);
     }
 };
 

@@ -174,13 +174,13 @@ TEST_F(ImportingText, NamesAreNeitherTrimmedNorCut) {
 
 TEST_F(ImportingText, BytesOfTheCodePageAndUtf8ReadAlike) {
     session.codePage = CodePage(1250);
-    import(file("page.csv", CodePage(1250).fromUtf8(Towns)));
+    import(file("page.csv", CodePage(1250).FromUtf8(Towns)));
     import(file("utf8.csv", Towns));
     import(file("forced.csv", Towns), [](frmImportText& dialog) { dialog.CodePageForced = true;
 });
 EXPECT_EQ(sheet(1).Grid1.Text(1, 1), "Łódź");
 EXPECT_EQ(sheet(2).Grid1.Text(1, 1), "Łódź");
-EXPECT_EQ(sheet(3).Grid1.Text(1, 1), CodePage(1250).toUtf8("Łódź"));
+EXPECT_EQ(sheet(3).Grid1.Text(1, 1), CodePage(1250).ToUtf8("Łódź"));
 }
 
 TEST_F(ImportingText, AtMostAHundredVariables) {

@@ -143,10 +143,10 @@ TEST(ReadDBaseRecords, TheNamesOfRecordsAreJudgedTogether) {
     EXPECT_EQ(Read(utf8.bytes(), {{"A"}, "N"}, 2, polish).Records.Table.RecordNames.Cells(),
               (Texts{"Łódź", "Kutno"}));
     EXPECT_EQ(Read(utf8.bytes(), {{"A"}, "N"}, 2, {CodePage(1250), true}).Records.Table.RecordNames(1),
-              CodePage(1250).toUtf8("Łódź"));
+              CodePage(1250).ToUtf8("Łódź"));
     utf8.record({"3", "\xA3\xF3"});
     EXPECT_EQ(Read(utf8.bytes(), {{"A"}, "N"}, 3, polish).Records.Table.RecordNames.Cells(),
-              (Texts{CodePage(1250).toUtf8("Łódź"), "Kutno", "Łó"}));
+              (Texts{CodePage(1250).ToUtf8("Łódź"), "Kutno", "Łó"}));
 }
 
 TEST(ReadDBaseRecords, ACountBelowOneCannotBeSized) {

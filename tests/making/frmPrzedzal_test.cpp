@@ -369,7 +369,7 @@ TEST_F(DiagramOptions, EnteredChoicesSelectMeasureTypeAndOrder) {
                 dialog.Visible = true;
                 dialog.Enter({.Measure = {.Measure = measure}, .DiagType = type, .OrderMethod = order});
                 dialog.Enter({});
-                session.orderingMethods.clear();
+                session.Of<OrderingMethods>().clear();
                 dialog.Command3_Click();
                 EXPECT_EQ(session.CurrentDistType, measure);
                 EXPECT_EQ(session.CurrentDiagType, type);

@@ -86,7 +86,7 @@ protected:
         session.DialogOutcome = 0;
     }
 
-    std::vector<int> Stored() const {
+    std::vector<int> Stored() {
         const auto& o = session.Of<OrderingOptions>();
         return {o.SequenceChange,           o.FragmentTransfer,      o.SomeSingleTransfers,
                 o.SingleTransfer,           o.SomeRemoteConversions, o.RemoteConversion,
@@ -154,13 +154,13 @@ TEST_F(RavelinDialog, EnteredChoicesArriveInTheirOwnValues) {
         ++number;
         dialog.Enter({{parameter, std::to_string(number)}});
         dialog.Command1_Click();
-        EXPECT_EQ(session.ordering.*value, number);
+        EXPECT_EQ(session.Of<OrderingOptions>().*value, number);
     }
-    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 1.0F);
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 1.0F);
     dialog.Enter({{RavelinParameter::MatrixConversionCoefficient, "2.5"}});
     dialog.Command1_Click();
-    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 2.5F);
-    EXPECT_EQ(session.ordering.SequenceChange, 601) << "what was not said stays";
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 2.5F);
+    EXPECT_EQ(session.Of<OrderingOptions>().SequenceChange, 601) << "what was not said stays";
 }
 
 TEST_F(RavelinDialog, DefaultsAddUpTo371) {

@@ -736,7 +736,7 @@ TEST_F(MakingDiagram, AgreesWithThePlainMakingForTheMeasuresOfNumbers) {
                         values(i, v) = StrictFloat(rows[std::size_t(i - 1)][std::size_t(v)], '.');
                 }
                 const auto plain = test::PlainDiagram(values, names, session.tables.VariableNames,
-                                                      {.Type = static_cast<std::int16_t>(type)}, ordered);
+                                                      {.Type = static_cast<DistanceType>(type)}, ordered);
                 const auto& document = Document(slot);
                 ASSERT_EQ(document.Matrix, plain.Matrix) << n << " records, measure " << type;
                 ASSERT_EQ(document.Data, plain.Data);

@@ -412,7 +412,7 @@ TEST(About, OnlyBeepsWhileADiagramIsMade) {
     EXPECT_TRUE(test.forms.log.empty());
 }
 
-TEST(RecentFiles, AreOpenedWithoutATestForADiagramInTheMaking) {
+TEST(RecentFileItems, AreOpenedWithoutATestForADiagramInTheMaking) {
     MainWindowTest test;
     test.session.DiagramBusy = 1;
     EXPECT_EQ(test.Click("mnuRecentFile(2)"), "OpenRecentFile(2, )");

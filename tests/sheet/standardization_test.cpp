@@ -1,3 +1,4 @@
+#include "sheet/sheet_values.h"
 #include "sheet/standardization.h"
 
 #include "sheet/frmStandard.h"
@@ -159,19 +160,19 @@ TEST_F(StandardizationTest, ANumberOutOfRangeEndsTheRun) {
 
 TEST_F(StandardizationTest, ASingleRecordIsRefused) {
     SheetOf({{"1"}});
-    session.PendingError = true;
+    session.Of<SheetValues>().PendingError = true;
     Standardization(session);
     EXPECT_EQ(messages.shown, std::vector<Message>{(Message{
                                   .Text = "The number of records is less than 2. How make standarization?",
                                   .Icon = MessageIcon::Critical})});
     EXPECT_TRUE(signals.cursors.empty());
-    EXPECT_FALSE(session.PendingError);
+    EXPECT_FALSE(session.Of<SheetValues>().PendingError);
 }
 
 TEST_F(StandardizationTest, APendingErrorStopsAtTheCell) {
     auto& source = SheetOf({{"1", ""}, {"3", ""}});
     forms.scripts.push_back([this](Form& form) {
-        session.PendingError = true;
+        session.Of<SheetValues>().PendingError = true;
         dynamic_cast<frmStandard&>(form).Command2_Click();
     });
     Standardization(session);

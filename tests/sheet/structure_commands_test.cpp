@@ -1,3 +1,4 @@
+#include "sheet/sheet_values.h"
 #include "sheet/structure_commands.h"
 
 #include "platform/keys.h"
@@ -232,7 +233,7 @@ TEST_F(StructureCommands, ADeletedRecordLeavesTheOthersRenumberedWithTheirNames)
     EXPECT_EQ(sheet.Grid1.Column(), 2);
     EXPECT_EQ(sheet.ActiveControl, &sheet.Grid1);
     EXPECT_TRUE(Dirty(sheet));
-    EXPECT_TRUE(session.SuppressCommit);
+    EXPECT_TRUE(session.Of<SheetValues>().SuppressCommit);
 }
 
 TEST_F(StructureCommands, NoLeavesTheRecordAndGivesTheGridTheFocus) {
@@ -244,7 +245,7 @@ TEST_F(StructureCommands, NoLeavesTheRecordAndGivesTheGridTheFocus) {
     EXPECT_EQ(sheet.Grid1.Column(), 1);
     EXPECT_EQ(sheet.ActiveControl, &sheet.Grid1);
     EXPECT_FALSE(Dirty(sheet));
-    EXPECT_FALSE(session.SuppressCommit);
+    EXPECT_FALSE(session.Of<SheetValues>().SuppressCommit);
 }
 
 TEST_F(StructureCommands, TheOnlyRecordIsEmptiedAndKeepsItsNumber) {
@@ -291,7 +292,7 @@ TEST_F(StructureCommands, AnEditThatIsOpenAtTheQuestionIsDroppedWithTheRecord) {
     sheet.EditCell_LostFocus();
     EXPECT_EQ(sheet.RecordCount(), 2);
     EXPECT_EQ(Row(sheet, 2), (Texts{" 2", "Record 3", "0.000"}));
-    EXPECT_FALSE(session.SuppressCommit);
+    EXPECT_FALSE(session.Of<SheetValues>().SuppressCommit);
     EXPECT_EQ(sheet.EditCell.Text, "");
     EXPECT_FALSE(sheet.Editing);
     EXPECT_FALSE(sheet.EditPanel.Visible);
@@ -331,7 +332,7 @@ TEST_F(StructureCommands, WithoutAnOpenEditTheNextCommitIsTheOneThatIsDropped) {
     int enter = key::Enter;
     sheet.EditCell_KeyDown(enter);
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "12") << "as it was typed: its commit was dropped";
-    EXPECT_FALSE(session.SuppressCommit);
+    EXPECT_FALSE(session.Of<SheetValues>().SuppressCommit);
 }
 
 TEST_F(StructureCommands, AllOfThemAreRefusedWhileADiagramIsBeingMade) {

@@ -91,7 +91,7 @@ TEST_F(VariableDialogs, AnAcceptedNameReachesTheHeaderAtOk) {
     });
     EXPECT_EQ(Row(sheet, 0), (Texts{"A", "Width", "C"})) << "spaces at the ends are cut";
     EXPECT_EQ(sheet.Grid1.Row(), 0);
-    EXPECT_EQ(session.VariableNames.Cells(), (Texts{"A", "  Width ", "C"}));
+    EXPECT_EQ(session.tables.VariableNames.Cells(), (Texts{"A", "  Width ", "C"}));
 }
 
 TEST_F(VariableDialogs, EnterInTheFieldAcceptsToo) {
@@ -159,9 +159,9 @@ TEST_F(VariableDialogs, TheOthersMoveUpAndShowThePlainTextOfTheirValues) {
     EXPECT_EQ(Row(sheet, 1), (Texts{"11.5", "13.5"}));
     EXPECT_EQ(Row(sheet, 2), (Texts{"21.5", "23.5"}));
     EXPECT_EQ(sheet.Grid1.Text(1, 1), "Record 1");
-    EXPECT_EQ(session.VariableNames.Cells(), (Texts{"A", "C"}));
-    EXPECT_EQ(session.DataValues.Rows(), 2);
-    EXPECT_EQ(session.DataValues(2, 2), 23.5f);
+    EXPECT_EQ(session.tables.VariableNames.Cells(), (Texts{"A", "C"}));
+    EXPECT_EQ(session.tables.DataValues.Rows(), 2);
+    EXPECT_EQ(session.tables.DataValues(2, 2), 23.5f);
     EXPECT_TRUE(Dirty());
 }
 
