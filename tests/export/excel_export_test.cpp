@@ -42,7 +42,7 @@ protected:
         files.paths.push_back(target);
         act();
         EXPECT_EQ(files.requests.back(), request);
-        return recordsOf(fileBytes(target));
+        return excelRecordsOf(fileBytes(target));
     }
 
     // What comes behind the formats and the settings that all documents share.
