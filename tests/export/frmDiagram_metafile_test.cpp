@@ -30,7 +30,7 @@ TEST_F(MetafileTest, WritesHeaderAndDrawing) {
     const std::string bytes = fileBytes(folder / "Towns.wmf");
     EXPECT_EQ(bytes.substr(0, 22), PlaceableHeader(BoxOfDiagram(3)));
     EXPECT_EQ(bytes.substr(22), DrawDiagram(window.Document(), '.', session.codePage));
-    recordsOf(std::string_view(bytes).substr(22));
+    metafileRecordsOf(std::string_view(bytes).substr(22));
     EXPECT_EQ(files.requests, (std::vector<FileRequest>{{.Title = "Dorvan - Save metafile (WMF)",
                                                          .Filters = {{"WMF (*.wmf)", "*.wmf"}},
                                                          .Extension = "*.wmf",

@@ -36,7 +36,7 @@ inline int wordAt(std::string_view bytes, std::size_t place) {
 
 // The records without the end. Expects a header with right sizes, an end record and nothing behind it, and
 // objects that are created before they are selected or deleted, in the lowest free place.
-inline std::vector<MetafileRecord> recordsOf(std::string_view metafile) {
+inline std::vector<MetafileRecord> metafileRecordsOf(std::string_view metafile) {
     std::vector<MetafileRecord> records;
     EXPECT_EQ(wordAt(metafile, 0), 1);
     EXPECT_EQ(wordAt(metafile, 2), 9);

@@ -35,7 +35,7 @@ DiagramDocument diagramOf(int count, std::int16_t cellClass = 5) {
 }
 
 std::vector<MetafileRecord> drawn(const DiagramDocument& diagram) {
-    return recordsOf(DrawDiagram(diagram, '.', CodePage(1250)));
+    return metafileRecordsOf(DrawDiagram(diagram, '.', CodePage(1250)));
 }
 
 struct Placed {
@@ -86,7 +86,7 @@ TEST(MetafileDevice, RecordsAnObjectWhenItIsFirstSelected) {
     device.SelectObject(font);
     device.SelectObject(font);
     device.DeleteObject(unused);
-    const auto records = recordsOf(device.Close());
+    const auto records = metafileRecordsOf(device.Close());
     ASSERT_EQ(records.size(), 3U);
     EXPECT_EQ(records[0].Function, CreateFont);
     EXPECT_EQ(records[1], (MetafileRecord{Select, std::string("\0\0", 2)}));
@@ -102,7 +102,7 @@ TEST(MetafileDevice, TakesAFreedPlaceAgain) {
     device.DeleteObject(first);
     device.SelectObject(device.CreateSolidBrush(0x123456));
     const std::string bytes = device.Close();
-    const auto records = recordsOf(bytes);
+    const auto records = metafileRecordsOf(bytes);
     EXPECT_EQ(wordAt(bytes, 10), 2);
     EXPECT_EQ(records.back().Word(0), 0);
     EXPECT_EQ(records[records.size() - 2].Parameters, std::string("\0\0\x56\x34\x12\0\0\0", 8));
@@ -111,7 +111,7 @@ TEST(MetafileDevice, TakesAFreedPlaceAgain) {
 TEST(MetafileDevice, FontIsADescriptionOf50Bytes) {
     MetafileDevice device;
     device.SelectObject(device.CreateFont({.Height = -60, .Face = "Courier New"}));
-    const auto font = recordsOf(device.Close()).at(0);
+    const auto font = metafileRecordsOf(device.Close()).at(0);
     std::string expected("\xC4\xFF\0\0\0\0\0\0\x90\x01\0\0\0\x01\0\0\x02\0Courier New", 29);
     expected.resize(50, '\0');
     EXPECT_EQ(font.Parameters, expected);
@@ -121,7 +121,7 @@ TEST(MetafileDevice, TextIsPaddedToWords) {
     MetafileDevice device;
     device.TextOut(3, 4, "abc");
     device.TextOut(5, 6, "ab");
-    const auto records = recordsOf(device.Close());
+    const auto records = metafileRecordsOf(device.Close());
     EXPECT_EQ(records[0].Parameters, std::string("\x03\0abc\0\x04\0\x03\0", 10));
     EXPECT_EQ(records[1].Parameters, std::string("\x02\0ab\x06\0\x05\0", 8));
 }

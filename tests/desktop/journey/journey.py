@@ -201,9 +201,9 @@ def pictures_of_a_diagram():
         screenshot("linear.png")
         dorvan.push("OK")
         dorvan.wait_for_no_window("Linear graph")
-        dorvan.push("Bitmap")
+        dorvan.push("Export bitmap graphic")
         screenshot("bitmap.png")
-        for name, kind in (("towns.bmp", "BMP"), ("towns.tif", "TIFF"), ("towns.png", "PNG")):
+        for name, kind in (("towns.bmp", "BMP3"), ("towns.tif", "TIFF"), ("towns.png", "PNG")):
             dorvan.push("SaveAs")
             dorvan.choose_file("Dorvan - Save bitmap As", str(folder / name))
             wait_for(f"image {name}", (folder / name).exists)
