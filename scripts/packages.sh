@@ -4,7 +4,7 @@
 BUILD_PACKAGES="g++ cmake ninja-build ccache libfmt-dev libcli11-dev libfreeimage-dev libeigen3-dev qt6-base-dev qt6-svg-dev libqt6svg6 libgl1-mesa-dev
     qt6-qpa-plugins fonts-liberation cmark-gfm"
 TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev locales xvfb xauth openbox xdotool dbus dbus-daemon
-    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick desktop-file-utils appstream lintian man-db"
+    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick desktop-file-utils poppler-utils appstream lintian man-db"
 
 say() { printf '== %s\n' "$*"; }
 

@@ -86,6 +86,9 @@ public:
     // text). Says nothing and leaves `Dirty`; the result tells whether the file was written.
     bool SaveDiagramNew(const std::string& path);
 
+    void ExportDiagramToExcel();
+    void PrintDiagram();
+
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Deactivate() override;

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "session/session.h"
+#include "support/scripted_printer.h"
 #include "support/drawings.h"
 
 #include <deque>
@@ -138,6 +139,7 @@ struct TestPlatform {
     FixedMeasure fonts;
     BlankRasterizer raster;
     RecordingClipboard clipboard;
+    ScriptedPrinter printer;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -151,7 +153,8 @@ struct TestPlatform {
                       .help = help,
                       .fonts = fonts,
                       .raster = raster,
-                      .clipboard = clipboard};
+                      .clipboard = clipboard,
+                      .printer = printer};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;
