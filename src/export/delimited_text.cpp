@@ -39,7 +39,7 @@ std::string SheetAsText(const Grid& sheet, char separator, bool names, const Cod
         }
         text += LineEnd;
     }
-    return codes.fromUtf8(text);
+    return codes.FromUtf8(text);
 }
 
 std::string MatrixAsText(const DistanceMatrix& matrix, char separator, const CodePage& codes) {
@@ -52,7 +52,7 @@ std::string MatrixAsText(const DistanceMatrix& matrix, char separator, const Cod
         }
         text += LineEnd;
     }
-    return codes.fromUtf8(text);
+    return codes.FromUtf8(text);
 }
 
 } // namespace dorvan
