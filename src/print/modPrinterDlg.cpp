@@ -12,8 +12,8 @@ namespace {
 constexpr std::size_t LongestDeviceName = 32; // characters, in the dialog's record
 
 constexpr PrinterValue AllValues[] = {
-    PrinterValue::Copies,  PrinterValue::Orientation, PrinterValue::PaperSize, PrinterValue::PaperSource,
-    PrinterValue::Quality, PrinterValue::Duplex,      PrinterValue::ColourMode,    PrinterValue::Scale};
+    PrinterValue::Copies,  PrinterValue::Orientation, PrinterValue::PaperSize,  PrinterValue::PaperSource,
+    PrinterValue::Quality, PrinterValue::Duplex,      PrinterValue::ColourMode, PrinterValue::Scale};
 
 template <class Step> void Tried(const Step& step) {
     try {

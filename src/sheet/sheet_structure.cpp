@@ -11,7 +11,8 @@ void TakeVariableNames(Session& session) {
     const frmNotePad& sheet = ActiveDataWindow(session);
     session.tables.VariableNames = Names(sheet.VariableCount());
     for (int variable = 1; variable <= sheet.VariableCount(); ++variable)
-        session.tables.VariableNames(variable) = TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
+        session.tables.VariableNames(variable) =
+            TrimSpaces(sheet.Grid1.Text(HeaderRow, ValueColumn(variable)));
 }
 
 void ShowVariableNames(const Session& session, ListBox& list, int selected) {

@@ -1,5 +1,5 @@
-#include "sheet/sheet_values.h"
 #include "sheet/standardization.h"
+#include "sheet/sheet_values.h"
 
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"

@@ -1,5 +1,5 @@
-#include "sheet/sheet_values.h"
 #include "sheet/structure_commands.h"
+#include "sheet/sheet_values.h"
 
 #include "numbers/text.h"
 #include "session/busy.h"

@@ -211,7 +211,8 @@ TEST(DistancesBetweenRows, TheDiagonalIsZeroWhereTheMeasureWouldFailForARecordAg
 }
 
 TEST(DistancesBetweenRows, AMeasureOutsideOneToTenGivesZeros) {
-    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {DistanceType(11)}), FloatTable(5, 5));
+    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {DistanceType(11)}),
+              FloatTable(5, 5));
 }
 
 // The pair (1, 40) comes before (2, 3), although it lies in a later block of lanes.

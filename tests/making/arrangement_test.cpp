@@ -1,7 +1,7 @@
 #include "making/arrangement.h"
 
-#include "making/plain_two_sum.h"
 #include "making/order_quality.h"
+#include "making/plain_two_sum.h"
 #include "making/starting_orders.h"
 #include "support/expect_failure.h"
 

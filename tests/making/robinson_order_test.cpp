@@ -1,7 +1,7 @@
 #include "making/robinson_order.h"
 
-#include "making/plain_two_sum.h"
 #include "making/order_quality.h"
+#include "making/plain_two_sum.h"
 
 #include <gtest/gtest.h>
 

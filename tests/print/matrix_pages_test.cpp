@@ -157,7 +157,7 @@ TEST_F(MatrixPrinting, SideOfABoxIsRoundedToAWholeNumber) {
     EXPECT_EQ(sideOf(10, 162.5), 195);
     EXPECT_EQ(sideOf(10, 161.25), 194);    // 193.5
     EXPECT_EQ(sideOf(10, 162.08334), 195); // 194.500008
-    EXPECT_EQ(sideOf(10, 163.75), 196); // 196.5
+    EXPECT_EQ(sideOf(10, 163.75), 196);    // 196.5
 }
 
 TEST_F(MatrixPrinting, TwentyColumnsStillFitOnePageWhateverTheRows) {

@@ -2,8 +2,8 @@
 
 #include "platform/platform.h"
 #include "session/session.h"
-#include "support/scripted_printer.h"
 #include "support/drawings.h"
+#include "support/scripted_printer.h"
 
 #include <deque>
 #include <functional>
