@@ -186,6 +186,11 @@ TEST_F(Results, PrintedPagesOfAMatrix) {
     expectDone({"print", matrixOf(50), out("p.pdf"), "--font", "Courier New"});
     EXPECT_GT(pagesOf(out("p.pdf")), 1);
     EXPECT_EQ(wordsOf(out("p.pdf"), "0.000"), 50u);
+    // The last text in order, "9.000", sets the width of a column: values of more digits touch.
+    const std::string texts = textsOf(out("p.pdf"));
+    const std::size_t last = texts.find("49.00048.00047.000");
+    EXPECT_NE(last, std::string::npos);
+    EXPECT_EQ(texts.find("49.000", last + 1), std::string::npos);
     EXPECT_EQ(wordsOf(out("p.pdf"), "Record"), 50u);
     EXPECT_NE(textsOf(out("p.pdf")).find("A line of 50"), std::string::npos);
 }
