@@ -1,4 +1,4 @@
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "files/data_file.h"
 #include "making/attractions.h"
 #include "making/best_order.h"

@@ -22,7 +22,8 @@ install_missing() {
     say "Installing ${#missing[@]} missing packages: ${missing[*]}"
     local options=(-qq -y --no-install-recommends -o DPkg::Lock::Timeout=300) log
     log=$(mktemp)
-    if ! { as_root apt-get -qq -o DPkg::Lock::Timeout=300 update &&
+    if ! { as_root env DEBIAN_FRONTEND=noninteractive dpkg --configure -a && # what an interrupted installation left
+        as_root apt-get -qq -o DPkg::Lock::Timeout=300 update &&
         as_root env DEBIAN_FRONTEND=noninteractive apt-get install "${options[@]}" "${missing[@]}"; } >"$log" 2>&1; then
         cat "$log" >&2
         echo "The packages could not be installed; see the lines above." >&2
