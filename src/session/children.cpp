@@ -53,6 +53,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     const std::shared_ptr<ChildWindow> keepAlive = *asked;
     if (!window.Form_QueryUnload()) return false;
     if (Place(session, window) == session.Children.end()) return true; // closed while the question stood
+    if (session.onClosing) session.onClosing(window);
     if (session.ActiveWindow == &window) {
         window.Form_Deactivate();
         session.ActiveWindow = nullptr;

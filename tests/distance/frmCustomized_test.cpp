@@ -97,10 +97,33 @@ TEST_F(frmCustomizedTest, OKStoresTheParametersAndHidesTheDialog) {
 }
 
 TEST_F(frmCustomizedTest, TheFieldsKeepTheirTextsForTheNextShowing) {
-    Accept("3", "4");
-    auto& again = session.forms.Load<frmCustomized>(session);
-    EXPECT_EQ(again.Text1.Text, "3");
-    EXPECT_EQ(again.Text2.Text, "4");
+    int showing = 0;
+    const auto show = [&](const std::string& p, const std::string& r, const auto& leave) {
+        forms.scripts.push_back([&, p, r](Form& form) {
+            ++showing;
+            EXPECT_EQ(dialog.Text1.Text, p);
+            EXPECT_EQ(dialog.Text2.Text, r);
+            EXPECT_EQ(&form, &dialog);
+            leave();
+        });
+        platform.forms.showModal(session.forms.Load<frmCustomized>(session));
+    };
+    show("2", "2", [&] { Accept("3", "4"); });
+    show("3", "4", [&] {
+        dialog.Text1.Text = "17";
+        dialog.Command2_Click();
+    });
+    show("17", "4", [&] { dialog.Command2_Click(); }); // what a Cancel left is kept as well
+    EXPECT_EQ(showing, 3);
+    EXPECT_EQ(session.Par_P, 3);
+}
+
+TEST_F(frmCustomizedTest, AParameterBelowZeroIsTaken) {
+    Accept("-3", "-32768");
+    EXPECT_EQ(session.Par_P, -3);
+    EXPECT_EQ(session.Par_R, -32768);
+    EXPECT_EQ(session.DialogOutcome, 1);
+    EXPECT_TRUE(messages.shown.empty());
 }
 
 TEST_F(frmCustomizedTest, AnInvalidPIsRefusedAndTheDialogStays) {

@@ -49,6 +49,8 @@ constexpr const char* NotBuiltYet[] = {
     "frmDiagram.Histogram",
     "frmDiagram.Linear",
     "frmDiagram.Matrix",
+    // Registered by who keeps the journal, which a run without a screen has not
+    "ReopenClosedDocument",
 };
 
 TEST(Compose, EveryOperationThatACommandNamesIsRegisteredOrKnownToBeMissing) {
