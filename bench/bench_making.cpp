@@ -25,25 +25,12 @@ namespace {
 
 constexpr std::int32_t Records = 250;
 
-struct UnpaintedDiagram : ChildWindow {
-    explicit UnpaintedDiagram(Session& owner) : ChildWindow("frmDiagram"), session(owner) {}
-    Session& session;
-    void Form_Activate() override {}
-    void Form_Deactivate() override {}
-    void Form_Unload() override { session.DiagramStates.at(std::size_t(Index)).Deleted = true; }
-    void Present(const std::string&) override {}
-};
-
 // A session with one sheet of numbers from 0 to 10 with two decimals, whose options dialog is answered with
 // an order (1 none, 2 simple) and the Euclidean distance.
 struct SheetSession : bench::SilentSession {
     bool ordered;
 
     SheetSession(std::int32_t variables, bool withOrder) : ordered(withOrder) {
-        session.windowMakers["DATA"] = [](Session& owner) { return std::make_shared<frmNotePad>(owner); };
-        session.windowMakers["DIAGRAM"] = [](Session& owner) {
-            return std::make_shared<UnpaintedDiagram>(owner);
-        };
         answerDialog = [this](Form& form) {
             auto& dialog = dynamic_cast<frmPrzedzal&>(form);
             ordered ? dialog.Option7_Click() : dialog.Option6_Click();
@@ -55,7 +42,8 @@ struct SheetSession : bench::SilentSession {
     void OpenSheet(std::int32_t variables) {
         std::mt19937 random(250);
         session.NewWindowIndex = FindFreeDataSlot(session);
-        auto& sheet = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
+        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
+        auto& sheet = DataWindow(session, session.NewWindowIndex);
         sheet.LayOut(Records, variables);
         for (int r = 1; r <= Records; ++r) {
             sheet.Grid1.SetText(r, 1, "record " + std::to_string(r));

@@ -1,6 +1,6 @@
 #include "bench/silent_platform.h"
 #include "distance/measures.h"
-#include "genetic/plain_orderings.h"
+#include "making/plain_orderings.h"
 #include "making/genetic_ordering.h"
 #include "making/ordering_runs.h"
 #include "making/ravelin_ordering.h"

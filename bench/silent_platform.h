@@ -59,7 +59,17 @@ struct SilentPorts : MessageBoxes,
 
 // A started session over silent ports.
 struct SilentSession : SilentPorts {
-    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+    Platform platform{.messages = *this,
+                      .files = *this,
+                      .forms = *this,
+                      .children = *this,
+                      .signals = *this,
+                      .events = *this,
+                      .keyboard = *this,
+                      .screen = *this,
+                      .clock = *this,
+                      .settings = *this,
+                      .help = *this};
     Session session{platform};
 
     SilentSession() {

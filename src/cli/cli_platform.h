@@ -33,7 +33,17 @@ public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
 
-    Platform platform{*this, *this, *this, *this, *this, *this, *this, *this, *this, *this, *this};
+    Platform platform{.messages = *this,
+                      .files = *this,
+                      .forms = *this,
+                      .children = *this,
+                      .signals = *this,
+                      .events = *this,
+                      .keyboard = *this,
+                      .screen = *this,
+                      .clock = *this,
+                      .settings = *this,
+                      .help = *this};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return {}; }

@@ -11,10 +11,7 @@ namespace {
 
 constexpr int PictureSide = 72; // pixels
 
-} // namespace
-
-void LayOutAbout(FormFace& face) {
-    auto& form = dynamic_cast<frmAbout&>(face.Shown());
+void LayOut(FormFace& face, frmAbout& form) {
     auto* picture = new QLabel(&face);
     picture->setPixmap(ProgramIcon().pixmap(PictureSide, PictureSide));
     picture->setAlignment(Qt::AlignHCenter);
@@ -31,5 +28,9 @@ void LayOutAbout(FormFace& face) {
     }
     face.AddButtons({{&form.cmdOK, [&form] { form.cmdOK_Click(); }}});
 }
+
+const FaceOfForm<frmAbout> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

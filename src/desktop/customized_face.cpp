@@ -3,16 +3,17 @@
 
 namespace dorvan {
 
-void LayOutCustomized(FormFace& face) {
-    auto& form = dynamic_cast<frmCustomized&>(face.Shown());
+namespace {
+
+void LayOut(FormFace& face, frmCustomized& form) {
     face.AddNote("d (x,y) = ( Σ | x - y |<sup>p</sup> )<sup>1/r</sup>");
     auto* rows = face.AddRows();
-    face.AddField(rows, "p = ", form.Text1,
+    face.AddField(rows, form.Label1, form.Text1,
                   {.change = {},
                    .keyPress = [&form](int& keyAscii) { form.Text1_KeyPress(keyAscii); },
                    .keyDown = {},
                    .lostFocus = {}});
-    face.AddField(rows, "r = ", form.Text2,
+    face.AddField(rows, form.Label2, form.Text2,
                   {.change = {},
                    .keyPress = [&form](int& keyAscii) { form.Text2_KeyPress(keyAscii); },
                    .keyDown = {},
@@ -20,5 +21,9 @@ void LayOutCustomized(FormFace& face) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }},
                      {&form.Command2, [&form] { form.Command2_Click(); }}});
 }
+
+const FaceOfForm<frmCustomized> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

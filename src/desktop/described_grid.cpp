@@ -13,7 +13,7 @@ constexpr int Margin = 4;
 
 } // namespace
 
-GridWidget& LayOutDescribedGrid(ChildFace& face, Grid& grid, const QString& gridName, TextBox& description,
+GridWidget& LayOutDescribedGrid(ChildFace& face, GridWindow& window, const QString& gridName,
                                 FieldEvents events) {
     auto* column = new QVBoxLayout(face.widget());
     column->setContentsMargins(0, 0, 0, 0);
@@ -22,17 +22,17 @@ GridWidget& LayOutDescribedGrid(ChildFace& face, Grid& grid, const QString& grid
     panel->setObjectName("BottomPanel"); // at the top, in spite of its name
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins(Margin, Margin, Margin, Margin);
-    auto* label = new QLabel("Description:", panel);
-    label->setObjectName("Label1");
+    auto* label = new QLabel(panel);
+    face.Binder().Text(label, window.Label1);
     auto* field = new QLineEdit(panel);
     label->setBuddy(field);
-    face.Binder().Field(field, description, "Description", std::move(events));
+    face.Binder().Field(field, window.BottomText, "Description", std::move(events));
     row->addWidget(label);
     row->addWidget(field, 1);
     column->addWidget(panel);
-    auto& shown = face.ShowGrid(grid, gridName);
+    auto& shown = face.ShowGrid(window.Siatka, gridName);
     column->addWidget(&shown, 1);
-    if (!face.Window()->ActiveControl) face.Window()->SetFocus(grid);
+    if (!window.ActiveControl) window.SetFocus(window.Siatka);
     return shown;
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "desktop/child_faces.h"
+#include "session/grid_window.h"
 
 namespace dorvan {
 
 // The content of a matrix or diagram window: a line with the description above a grid.
-GridWidget& LayOutDescribedGrid(ChildFace& face, Grid& grid, const QString& gridName, TextBox& description,
+GridWidget& LayOutDescribedGrid(ChildFace& face, GridWindow& window, const QString& gridName,
                                 FieldEvents events);
 
 } // namespace dorvan

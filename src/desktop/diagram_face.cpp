@@ -4,10 +4,11 @@
 
 namespace dorvan {
 
-void LayOutDiagram(ChildFace& face, const ChildContext&) {
-    auto& window = dynamic_cast<frmDiagram&>(*face.Window());
+namespace {
+
+void LayOut(ChildFace& face, frmDiagram& window, const ChildContext&) {
     auto& grid =
-        LayOutDescribedGrid(face, window.Siatka, "Diagram", window.BottomText,
+        LayOutDescribedGrid(face, window, "Diagram",
                             {.change = [&window] { window.BottomText_Change(); },
                              .keyPress = [&window](int& keyAscii) { window.BottomText_KeyPress(keyAscii); },
                              .keyDown = {},
@@ -15,5 +16,9 @@ void LayOutDiagram(ChildFace& face, const ChildContext&) {
     grid.SetPictures(TilePictures());
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
+
+const FaceOfChild<frmDiagram> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

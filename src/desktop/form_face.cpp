@@ -63,10 +63,10 @@ QFormLayout* FormFace::AddRows() {
     return rows;
 }
 
-QLineEdit* FormFace::AddField(QFormLayout* rows, const QString& label, TextBox& control, FieldEvents events) {
+QLineEdit* FormFace::AddField(QFormLayout* rows, const Label& label, TextBox& control, FieldEvents events) {
     auto* field = new QLineEdit(this);
-    rows->addRow(label, field);
-    bindings_->Field(field, control, label, std::move(events));
+    AddRow(rows, label, field);
+    bindings_->Field(field, control, ToQt(label.Caption), std::move(events));
     return field;
 }
 

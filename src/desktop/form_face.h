@@ -30,8 +30,8 @@ public:
     // The helpers of who lays the dialog out.
     QVBoxLayout& Column() { return *column_; }
     QFormLayout* AddRows();
-    QLineEdit* AddField(QFormLayout* rows, const QString& label, TextBox& control, FieldEvents events);
-    // A line of rows, with the form's own label before the widget.
+    // Lines of rows, with the form's own label before the field or widget.
+    QLineEdit* AddField(QFormLayout* rows, const Label& label, TextBox& control, FieldEvents events);
     void AddRow(QFormLayout* rows, const Label& label, QWidget* widget);
     QLabel* AddLabel(const Control& control);
     QLabel* AddNote(const QString& text);
@@ -52,8 +52,5 @@ private:
     Bindings* bindings_;
     QVBoxLayout* column_;
 };
-
-// The face of a form, laid out by its name. Fails with InvalidProcedureCall for an unknown one.
-std::unique_ptr<FormFace> MakeFormFace(Form& form, EventDispatch& dispatch, QWidget* parent);
 
 } // namespace dorvan

@@ -6,8 +6,9 @@
 
 namespace dorvan {
 
-void LayOutGenetic(FormFace& face) {
-    auto& form = dynamic_cast<frmGenetic&>(face.Shown());
+namespace {
+
+void LayOut(FormFace& face, frmGenetic& form) {
     auto* rows = face.AddRows();
     for (auto [label, list] :
          {std::pair{&form.Label1, &form.cboGen}, std::pair{&form.Label2, &form.cboVar}}) {
@@ -19,5 +20,9 @@ void LayOutGenetic(FormFace& face) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }},
                      {&form.Command2, [&form] { form.Command2_Click(); }}});
 }
+
+const FaceOfForm<frmGenetic> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

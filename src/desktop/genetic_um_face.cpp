@@ -11,10 +11,7 @@ namespace {
 
 constexpr int FieldWidth = 90; // pixels
 
-} // namespace
-
-void LayOutGeneticUM(FormFace& face) {
-    auto& form = dynamic_cast<frmGeneticUM&>(face.Shown());
+void LayOut(FormFace& face, frmGeneticUM& form) {
     auto* frame = new QGroupBox(ToQt(form.Frame1.Caption), &face);
     face.Binder().Plain(frame, form.Frame1, frame->title());
     auto* rows = new QFormLayout(frame);
@@ -34,5 +31,9 @@ void LayOutGeneticUM(FormFace& face) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }},
                      {&form.Command2, [&form] { form.Command2_Click(); }}});
 }
+
+const FaceOfForm<frmGeneticUM> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

@@ -3,13 +3,18 @@
 
 namespace dorvan {
 
-void LayOutMatrix(ChildFace& face, const ChildContext&) {
-    auto& window = dynamic_cast<frmMacierz&>(*face.Window());
-    LayOutDescribedGrid(face, window.Siatka, "Matrix", window.BottomText,
+namespace {
+
+void LayOut(ChildFace& face, frmMacierz& window, const ChildContext&) {
+    LayOutDescribedGrid(face, window, "Matrix",
                         {.change = [&window] { window.BottomText_Change(); },
                          .keyPress = [&window](int& keyAscii) { window.BottomText_KeyPress(keyAscii); },
                          .keyDown = {},
                          .lostFocus = {}});
 }
+
+const FaceOfChild<frmMacierz> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

@@ -58,10 +58,7 @@ void AddEditPanel(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLay
     row->addWidget(editPanel);
 }
 
-} // namespace
-
-void LayOutNotePad(ChildFace& face, const ChildContext& context) {
-    auto& window = dynamic_cast<frmNotePad&>(*face.Window());
+void LayOut(ChildFace& face, frmNotePad& window, const ChildContext& context) {
     auto& binder = face.Binder();
     auto* column = new QVBoxLayout(face.widget());
     column->setContentsMargins(0, 0, 0, 0);
@@ -86,5 +83,9 @@ void LayOutNotePad(ChildFace& face, const ChildContext& context) {
     column->addWidget(&grid, 1);
     if (!window.ActiveControl) window.SetFocus(window.Grid1);
 }
+
+const FaceOfChild<frmNotePad> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

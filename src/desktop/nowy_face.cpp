@@ -3,15 +3,16 @@
 
 namespace dorvan {
 
-void LayOutNowy(FormFace& face) {
-    auto& form = dynamic_cast<frmNowy&>(face.Shown());
+namespace {
+
+void LayOut(FormFace& face, frmNowy& form) {
     auto* rows = face.AddRows();
-    face.AddField(rows, "Number of records:", form.txtRecords,
+    face.AddField(rows, form.Label1, form.txtRecords,
                   {.change = {},
                    .keyPress = [&form](int& keyAscii) { form.txtRecords_KeyPress(keyAscii); },
                    .keyDown = {},
                    .lostFocus = {}});
-    face.AddField(rows, "Number of variables:", form.txtLiczba,
+    face.AddField(rows, form.Label2, form.txtLiczba,
                   {.change = {},
                    .keyPress = [&form](int& keyAscii) { form.txtLiczba_KeyPress(keyAscii); },
                    .keyDown = {},
@@ -19,5 +20,9 @@ void LayOutNowy(FormFace& face) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }},
                      {&form.Command2, [&form] { form.Command2_Click(); }}});
 }
+
+const FaceOfForm<frmNowy> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

@@ -31,11 +31,11 @@ void LayOutDistance(FormFace& face, frmPrzedzal& form) {
     auto* frame = AddFrame(face, form.Frame1);
     auto* rows = new QFormLayout(frame);
     auto* kinds = new QComboBox(frame);
-    rows->addRow("&Data:", kinds);
+    face.AddRow(rows, form.lblData, kinds);
     face.Binder().Combo(kinds, form.cboData, "Data", [&form] { form.cboData_Click(); });
     auto* measures = new QComboBox(frame);
     measures->setMinimumContentsLength(28);
-    rows->addRow("D&istance:", measures);
+    face.AddRow(rows, form.lblDistance, measures);
     face.Binder().Combo(measures, form.Combo1, "Distance");
 }
 
@@ -95,10 +95,7 @@ void LayOutLimits(FormFace& face, frmPrzedzal& form) {
     for (int section = 0; section < 5; ++section) scale->setColumnMinimumWidth(2 * section + 1, 18);
 }
 
-} // namespace
-
-void LayOutPrzedzal(FormFace& face) {
-    auto& form = dynamic_cast<frmPrzedzal&>(face.Shown());
+void LayOut(FormFace& face, frmPrzedzal& form) {
     LayOutDistance(face, form);
     LayOutOptions(face, form.Frame2,
                   {{&form.Option1, [&form] { form.Option1_Click(); }},
@@ -115,5 +112,9 @@ void LayOutPrzedzal(FormFace& face) {
     face.AddButtons({{&form.Command3, [&form] { form.Command3_Click(); }},
                      {&form.Command2, [&form] { form.Command2_Click(); }}});
 }
+
+const FaceOfForm<frmPrzedzal> registered(LayOut);
+
+} // namespace
 
 } // namespace dorvan

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/child_faces.h"
-#include "desktop/form_face.h"
+#include "desktop/form_faces.h"
 #include "platform/platform.h"
 
 #include <QElapsedTimer>
@@ -156,8 +156,17 @@ struct QtPlatform {
     QtClock clock;
     QtSettings settings;
     QtHelp help;
-    Platform platform{messages, files,  forms, children, signals, events,
-                      keyboard, screen, clock, settings, help};
+    Platform platform{.messages = messages,
+                      .files = files,
+                      .forms = forms,
+                      .children = children,
+                      .signals = signals,
+                      .events = events,
+                      .keyboard = keyboard,
+                      .screen = screen,
+                      .clock = clock,
+                      .settings = settings,
+                      .help = help};
 };
 
 } // namespace dorvan

@@ -21,10 +21,7 @@ QLabel* AddFigure(FormFace& face, const Label& label) {
     return shown;
 }
 
-} // namespace
-
-void LayOutWork(FormFace& face) {
-    auto& form = dynamic_cast<frmWork&>(face.Shown());
+void LayOut(FormFace& face, frmWork& form) {
     auto* percent = AddFigure(face, form.InfoString);
     percent->setAlignment(Qt::AlignHCenter);
     face.Column().addWidget(percent);
@@ -39,8 +36,7 @@ void LayOutWork(FormFace& face) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
 }
 
-void LayOutWorkUM(FormFace& face) {
-    auto& form = dynamic_cast<frmWorkUM&>(face.Shown());
+void LayOut(FormFace& face, frmWorkUM& form) {
     auto* rows = face.AddRows();
     const auto addPair = [&](const Label& caption, const Label& first, const Label& second) {
         auto* line = new QWidget(&face);
@@ -58,5 +54,10 @@ void LayOutWorkUM(FormFace& face) {
     face.AddRow(rows, form.Label6, AddFigure(face, form.InfoTime));
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
 }
+
+const FaceOfForm<frmWork> registeredWork(LayOut);
+const FaceOfForm<frmWorkUM> registeredWorkUM(LayOut);
+
+} // namespace
 
 } // namespace dorvan

@@ -2,16 +2,11 @@
 
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
-#include "numbers/text.h"
-#include "platform/keys.h"
+#include "platform/number_field.h"
 
 namespace dorvan {
 
 namespace {
-
-constexpr std::size_t MostDigits = 3;
-
-bool IsDigit(int keyAscii) { return keyAscii >= '0' && keyAscii <= '9'; }
 
 // Stores the number; false when the text is none, or 0.
 bool StoreParameter(const TextBox& field, char decimalSeparator, std::int16_t& parameter) {
@@ -25,30 +20,10 @@ bool StoreParameter(const TextBox& field, char decimalSeparator, std::int16_t& p
 
 } // namespace
 
-frmCustomized::frmCustomized(Session& session)
-    : Form("frmCustomized", "Customized distance"), session_(session) {}
-
-void frmCustomized::Text1_KeyPress(int& keyAscii) { FilterKey(Text1, keyAscii); }
-void frmCustomized::Text2_KeyPress(int& keyAscii) { FilterKey(Text2, keyAscii); }
+frmCustomized::frmCustomized(Session& session) : Dialog("frmCustomized", "Customized distance", session) {}
 
 void frmCustomized::FilterKey(const TextBox& field, int& keyAscii) {
-    if (keyAscii == key::Enter) {
-        keyAscii = key::None;
-        LeaveField();
-    } else if (IsDigit(keyAscii)) {
-        if (CharacterCount(field.Text) >= MostDigits) keyAscii = key::None;
-    } else if (keyAscii != key::Backspace) {
-        keyAscii = key::None;
-    }
-}
-
-// On to the next control; a field that gets the focus so has its text selected.
-void frmCustomized::LeaveField() {
-    Keyboard& keyboard = session_.platform.keyboard;
-    keyboard.send("{TAB}");
-    if (!dynamic_cast<const TextBox*>(ActiveControl)) return;
-    keyboard.send("{HOME}");
-    keyboard.send("+{END}");
+    FilterThreeDigitsKey(session_.platform.keyboard, *this, field, keyAscii);
 }
 
 void frmCustomized::Command1_Click() {
@@ -61,13 +36,7 @@ void frmCustomized::Command1_Click() {
         session_.platform.messages.show({.Text = "Invalid value of parametr R"});
         return;
     }
-    session_.DialogOutcome = 1;
-    Hide();
-}
-
-void frmCustomized::Command2_Click() {
-    session_.DialogOutcome = -99;
-    Hide();
+    Close(DialogResult::Accepted);
 }
 
 } // namespace dorvan

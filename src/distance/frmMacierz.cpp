@@ -4,7 +4,9 @@
 #include "numbers/rounding.h"
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
+#include "session/busy.h"
 #include "session/children.h"
+#include "session/document_grid.h"
 #include "session/registry.h"
 #include "session/window_switches.h"
 
@@ -13,6 +15,8 @@
 #include <algorithm>
 
 namespace dorvan {
+
+using namespace DocumentGrid;
 
 namespace {
 
@@ -26,13 +30,13 @@ float HighestOf(const FloatTable& distances) {
     return highest;
 }
 
-// By how much the default width grows for numbers whose highest has a text of so many characters.
-double WidthFactor(std::size_t length) {
-    static constexpr double factors[] = {1.3, 1.5, 1.75, 2, 2.3, 2.5, 2.75};
-    return factors[std::clamp<std::size_t>(length, 4, 10) - 4];
-}
-
 } // namespace
+
+int MatrixColumnWidth(std::size_t textLength) {
+    static constexpr double factors[] = {1.3, 1.5, 1.75, 2, 2.3, 2.5, 2.75};
+    const double factor = factors[std::clamp<std::size_t>(textLength, 4, 10) - 4];
+    return RoundToInt32(Grid::DefaultColumnWidth * factor);
+}
 
 frmMacierz::frmMacierz(Session& session) : GridWindow("frmMacierz", session) {}
 
@@ -48,47 +52,52 @@ void frmMacierz::Present(const std::string& description) {
 }
 
 void frmMacierz::PresentDistances(const FloatTable& distances, const std::string& description) {
+    const std::string highest = PlainText(HighestOf(distances), session_.DecimalSeparator);
+    PresentDistances(distances, description, MatrixColumnWidth(CharacterCount(highest)));
+}
+
+void frmMacierz::PresentDistances(const FloatTable& distances, const std::string& description,
+                                  int columnWidth) {
     if (BottomText.Text != description) {
         BottomText.Text = description;
         BottomText_Change();
     }
-    Siatka.SetSize(Document().Size + 1, Document().Size + 2);
+    DocumentGrid::SetSize(Siatka, Document().Size, Document().Size);
     Siatka.Clear();
-    LayOutColumns(HighestOf(distances));
+    LayOutColumns(columnWidth);
     FillGrid(distances);
 }
 
 // The header of the last column keeps its alignment; the loop over them ends one short.
-void frmMacierz::LayOutColumns(float highest) {
-    const std::size_t length = CharacterCount(PlainText(highest, session_.DecimalSeparator));
-    const int width = RoundToInt32(Grid::DefaultColumnWidth * WidthFactor(length));
+void frmMacierz::LayOutColumns(int valueColumnWidth) {
     for (int column = 0; column < Siatka.Columns() - 1; ++column)
         Siatka.SetHeaderAlignment(column, Alignment::Centre);
-    Siatka.SetColumnWidth(1, Grid::DefaultColumnWidth * NameWidthFactor);
-    for (int column = 2; column < Siatka.Columns(); ++column) {
+    Siatka.SetColumnWidth(NameColumn, Grid::DefaultColumnWidth * NameWidthFactor);
+    for (int record = 1; record <= Document().Size; ++record) {
+        const int column = ValueColumn(record);
         Siatka.SetColumnAlignment(column, Alignment::Right);
-        Siatka.SetColumnWidth(column, width);
-        Siatka.SetText(0, column, fmt::format("{}", column - 1));
+        Siatka.SetColumnWidth(column, valueColumnWidth);
+        Siatka.SetText(HeaderRow, column, fmt::format("{}", record));
     }
 }
 
 void frmMacierz::FillGrid(const FloatTable& distances) {
     const DistanceMatrix& document = Document();
     for (int row = 1; row <= document.Size; ++row) {
-        Siatka.SetText(row, 0, fmt::format("{}", row));
-        Siatka.SetText(row, 1, document.Names(row));
+        Siatka.SetText(row, NumberColumn, fmt::format("{}", row));
+        Siatka.SetText(row, NameColumn, document.Names(row));
         for (int column = 1; column <= document.Size; ++column)
-            Siatka.SetText(row, column + 1,
+            Siatka.SetText(row, ValueColumn(column),
                            FormatPattern(distances(row, column), "###0.000", session_.DecimalSeparator));
     }
-    if (document.Size >= 1) Siatka.SetCurrent(1, 1);
+    if (document.Size >= 1) Siatka.SetCurrent(1, NameColumn);
 }
 
 void frmMacierz::BottomText_Change() { session_.MatrixStates.at(std::size_t(Index)).Dirty = true; }
 
 // The key takes effect all the same.
 void frmMacierz::BottomText_KeyPress(int&) {
-    if (session_.DiagramBusy == 1) session_.platform.signals.beep();
+    if (IsBusy(session_)) session_.platform.signals.beep();
 }
 
 void frmMacierz::Form_Activate() {
@@ -114,7 +123,7 @@ void frmMacierz::Form_Unload() {
 }
 
 // It is the active window that is kept from getting too small, which need not be this one.
-void frmMacierz::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 3200, .Width = 5000}); }
+void frmMacierz::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 3200, .Width = 5000}); }
 
 frmMacierz& MatrixWindow(Session& session, std::int16_t slot) {
     return WindowInSlot<frmMacierz>(session.MatrixWindows, slot);

@@ -2,7 +2,9 @@
 
 #include "session/grid_window.h"
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace dorvan {
 
@@ -10,16 +12,20 @@ namespace dorvan {
 // shows its cells through "###0.000" and is read-only.
 class frmMacierz : public GridWindow {
 public:
+    static constexpr std::string_view Kind = DocumentKind::Matrix;
+
     explicit frmMacierz(Session& session);
 
     DistanceMatrix& Document();
 
     // Builds the grid from the document and shows the description.
-    void Present(const std::string& description) override;
+    void Present(const std::string& description);
 
     // The same with the numbers (Size by Size) that the document's cells are the text of: the screen then
-    // shows digits that the text has no room for.
+    // shows digits that the text has no room for. The value columns are wide enough for the highest number,
+    // or as wide as told, in twips.
     void PresentDistances(const FloatTable& distances, const std::string& description);
+    void PresentDistances(const FloatTable& distances, const std::string& description, int columnWidth);
 
     void BottomText_Change(); // after any change of the text
     void BottomText_KeyPress(int& keyAscii);
@@ -35,9 +41,12 @@ public:
     void Form_Resize() override;
 
 private:
-    void LayOutColumns(float highest);
+    void LayOutColumns(int valueColumnWidth);
     void FillGrid(const FloatTable& distances);
 };
+
+// The width of value columns, in twips, for numbers whose longest text has so many characters.
+int MatrixColumnWidth(std::size_t textLength);
 
 frmMacierz& MatrixWindow(Session& session, std::int16_t slot);
 

@@ -6,8 +6,7 @@
 
 namespace dorvan {
 
-frmOpcjeMacierzy::frmOpcjeMacierzy(Session& session)
-    : Form("frmOpcjeMacierzy", "Matrix"), session_(session) {}
+frmOpcjeMacierzy::frmOpcjeMacierzy(Session& session) : Dialog("frmOpcjeMacierzy", "Matrix", session) {}
 
 void frmOpcjeMacierzy::Form_Load() {
     cboData.List = DataKinds();
@@ -20,19 +19,10 @@ void frmOpcjeMacierzy::cboData_Click() {
     Combo1.ListIndex = 0;
 }
 
-void frmOpcjeMacierzy::Command1_Click() {
-    session_.DialogOutcome = -99;
-    Hide();
-}
-
 void frmOpcjeMacierzy::Command2_Click() {
     session_.CurrentDistType = MeasureCode(cboData.ListIndex, Combo1.ListIndex);
-    if (session_.CurrentDistType == DistanceType::Customized) {
-        session_.platform.forms.showModal(session_.forms.Load<frmCustomized>(session_));
-        if (session_.DialogOutcome == -99) return;
-    }
-    session_.DialogOutcome = 1;
-    Hide();
+    if (session_.CurrentDistType == DistanceType::Customized && !Accepted<frmCustomized>(session_)) return;
+    Close(DialogResult::Accepted);
     if (session_.ActiveWindow) session_.platform.children.update(*session_.ActiveWindow);
 }
 

@@ -15,9 +15,10 @@ std::string Trimmed(const std::string& text) { return std::string(TrimSpaces(tex
 
 void LoadNames(Session& session, const Grid& grid) {
     for (std::int32_t record = 1; record <= session.RecordNames.Count(); ++record)
-        session.RecordNames(record) = Trimmed(grid.Text(record, 1));
+        session.RecordNames(record) = Trimmed(grid.Text(record, DocumentGrid::NameColumn));
     for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable)
-        session.VariableNames(variable) = Trimmed(grid.Text(0, variable + 1));
+        session.VariableNames(variable) =
+            Trimmed(grid.Text(DocumentGrid::HeaderRow, DocumentGrid::ValueColumn(variable)));
 }
 
 // Stores one value. Only the text "N/A" marks the record: a number equal to the marker does not.
@@ -37,7 +38,7 @@ void ShowDataError(Session& session, std::int32_t record, std::int32_t variable)
 // False at a data error.
 bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
     for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable) {
-        const int column = variable + 1;
+        const int column = DocumentGrid::ValueColumn(variable);
         grid.SetCurrent(record, column);
         LoadCell(session, grid.Text(record, column), record, variable);
         if (session.PendingError) {
@@ -61,7 +62,7 @@ bool LoadWorkingData(Session& session) {
     const std::int32_t n = window.RecordCount();
     const std::int32_t m = window.VariableCount();
     window.SetFocus(grid);
-    if (n >= 1 && m >= 1) grid.SetCurrent(1, 2);
+    if (n >= 1 && m >= 1) grid.SetCurrent(1, DocumentGrid::FirstValueColumn);
     session.RecordNames = Names(n);
     session.DataValues = FloatTable(n, m);
     session.RecordHasNA = Flags(n);

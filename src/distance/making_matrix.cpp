@@ -6,8 +6,8 @@
 #include "distance/measures.h"
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
-#include "session/children.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 
 namespace dorvan {
@@ -27,14 +27,9 @@ bool RecordCountFits(Session& session, int count) {
     return !refusal;
 }
 
-bool AskForMeasure(Session& session) {
-    session.platform.forms.showModal(session.forms.Load<frmOpcjeMacierzy>(session));
-    return session.DialogOutcome != -99;
-}
-
 // The record of a slot, from the working arrays.
-void FillDocument(const Session& session, DistanceMatrix& document) {
-    const std::int16_t n = document.Size;
+void FillDocument(const Session& session, std::int16_t n, DistanceMatrix& document) {
+    document.Size = n;
     document.Names = session.RecordNames;
     document.Cells = Array2<std::string>(n, n);
     for (std::int32_t row = 1; row <= n; ++row)
@@ -45,29 +40,20 @@ void FillDocument(const Session& session, DistanceMatrix& document) {
 
 void OpenMadeMatrix(Session& session, std::int16_t n, const std::string& description) {
     const WaitCursor waiting(session.platform);
-    const std::int16_t slot = FindFreeMatrixSlot(session);
-    session.NewWindowIndex = slot;
-    session.MatrixDocuments.at(std::size_t(slot)).Size = n;
-    auto& window = dynamic_cast<frmMacierz&>(CreateChildWindow(session, DocumentKind::Matrix));
-    window.Caption = UntitledCaption(DocumentKind::Matrix, slot);
-    FillDocument(session, window.Document());
-    window.PresentDistances(session.DistanceValues, description);
-    session.MatrixStates.at(std::size_t(slot)).Dirty = true;
-    PlaceNewWindow(session, window);
-    ShowChild(session, window);
+    OpenDocumentWindow<frmMacierz>(session, {}, [&](frmMacierz& window) {
+        FillDocument(session, n, window.Document());
+        window.PresentDistances(session.DistanceValues, description);
+    });
 }
 
 } // namespace
 
 void MakeMatrix(Session& session) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session)) return;
     const frmNotePad& sheet = ActiveDataWindow(session);
     const int n = sheet.RecordCount();
     const int m = sheet.VariableCount();
-    if (!RecordCountFits(session, n) || !AskForMeasure(session)) return;
+    if (!RecordCountFits(session, n) || !Accepted<frmOpcjeMacierzy>(session)) return;
     session.PendingError = false;
     const std::string description = sheet.OpisText.Text;
     if (!LoadWorkingData(session)) return;

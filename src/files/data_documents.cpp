@@ -7,7 +7,8 @@
 #include "files/file_fault.h"
 #include "files/reading.h"
 #include "numbers/text.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 
 #include <fmt/format.h>
@@ -18,21 +19,20 @@ namespace dorvan {
 
 namespace {
 
-void NameAfterFile(frmNotePad& window, const std::string& path) {
-    window.Caption = fmt::format("[DATA]: {}", LowerCase(path));
-    window.FilePath = path;
-}
+std::string CaptionOf(const std::string& path) { return fmt::format("[DATA]: {}", LowerCase(path)); }
 
 void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
     session.PendingRecCount = static_cast<std::int16_t>(session.RecordNames.Count());
     session.PendingVarCount = static_cast<std::int16_t>(session.VariableNames.Count());
-    const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
-    CreateChildWindow(session, DocumentKind::Data);
-    frmNotePad& window = DataWindow(session, slot);
-    NameAfterFile(window, path);
-    window.Present(description);
-    session.DataStates.at(std::size_t(slot)).Dirty = false;
-    ShowOpened(session, window);
+    session.NewWindowIndex = FindFreeDataSlot(session);
+    OpensWithoutFault(session, path, DocumentKind::Data, [&] {
+        OpenDocumentWindow<frmNotePad>(
+            session, {.Caption = CaptionOf(path), .Dirty = false, .Slot = session.NewWindowIndex},
+            [&](frmNotePad& window) {
+                window.FilePath = path;
+                window.Present(description);
+            });
+    });
 }
 
 // A sheet that reads only with its empty fields taken, as a save of emptied cells leaves them.
@@ -129,7 +129,8 @@ void SaveData(Session& session) {
                                  : window.NamedFile();
     if (path.empty()) return;
     WriteDataFile(session, path);
-    NameAfterFile(window, path);
+    window.Caption = CaptionOf(path);
+    window.FilePath = path;
 }
 
 void SaveDataAs(Session& session) {

@@ -7,7 +7,10 @@
 #include "files/file_dialogs.h"
 #include "files/file_fault.h"
 #include "files/reading.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
+#include "view/classes.h"
+#include "view/frmDiagram.h"
 
 #include <fmt/format.h>
 
@@ -36,16 +39,16 @@ DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) 
     return document;
 }
 
-// The document comes first: a window sizes its row order by it as it loads.
 void OpenDiagramWindow(Session& session, const std::string& path, const DiagramHeader& header, bool dirty) {
     const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
-    session.DiagramDocuments.at(std::size_t(slot)) = DocumentOf(session, header);
-    session.commands.Call("ClassifyDiagram", {.Index = slot, .Path = {}});
-    ChildWindow& window = CreateChildWindow(session, DocumentKind::Diagram);
-    window.Caption = fmt::format("[DIAGRAM]: {}", path);
-    window.Present(header.Description);
-    session.DiagramStates.at(std::size_t(slot)).Dirty = dirty;
-    ShowOpened(session, window);
+    OpensWithoutFault(session, path, DocumentKind::Diagram, [&] {
+        DiagramDocument& document = session.DiagramDocuments.at(std::size_t(slot));
+        document = DocumentOf(session, header);
+        ClassifyDiagram(document);
+        OpenDocumentWindow<frmDiagram>(
+            session, {.Caption = fmt::format("[DIAGRAM]: {}", path), .Dirty = dirty, .Slot = slot},
+            [&](frmDiagram& window) { window.Present(header.Description); });
+    });
 }
 
 // Both triangles from one computation of each pair, the lower-numbered record first.

@@ -1,11 +1,13 @@
 #include "files/matrix_documents.h"
 
+#include "distance/frmMacierz.h"
 #include "files/disk.h"
 #include "files/document_bytes.h"
 #include "files/file_dialogs.h"
 #include "files/matrix_file.h"
 #include "files/reading.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 
 #include <fmt/format.h>
 
@@ -15,19 +17,7 @@ namespace dorvan {
 
 namespace {
 
-DistanceMatrix& TakeSlot(Session& session) {
-    session.NewWindowIndex = FindFreeMatrixSlot(session);
-    return session.MatrixDocuments.at(std::size_t(session.NewWindowIndex));
-}
-
-// The window of the slot in `NewWindowIndex`, whose document is filled.
-void OpenMatrixWindow(Session& session, const std::string& path, const std::string& description, bool dirty) {
-    ChildWindow& window = CreateChildWindow(session, DocumentKind::Matrix);
-    window.Caption = fmt::format("[MATRIX]: {}", path);
-    window.Present(description);
-    session.MatrixStates.at(std::size_t(window.Index)).Dirty = dirty;
-    ShowOpened(session, window);
-}
+std::string CaptionOf(const std::string& path) { return fmt::format("[MATRIX]: {}", path); }
 
 } // namespace
 
@@ -43,6 +33,7 @@ void OpenMatrixFile(Session& session) {
 void ReadMatrixFile(Session& session, const std::string& path) {
     std::string description;
     bool current = true;
+    std::int16_t slot = 0;
     const auto read = [&] {
         const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentMatrixFile(bytes);
@@ -50,12 +41,19 @@ void ReadMatrixFile(Session& session, const std::string& path) {
         const FileText text = FileTextOf(session);
         MatrixFileReader reader(bytes, text);
         description = reader.Description();
-        reader.ReadInto(TakeSlot(session));
+        slot = FindFreeMatrixSlot(session);
+        reader.ReadInto(session.MatrixDocuments.at(std::size_t(slot)));
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
-    if (current) return OpenMatrixWindow(session, path, description, false);
-    TellOlderVersion(session);
-    ReadOldMatrixFile(session, path);
+    if (!current) {
+        TellOlderVersion(session);
+        return ReadOldMatrixFile(session, path);
+    }
+    session.NewWindowIndex = slot;
+    OpensWithoutFault(session, path, DocumentKind::Matrix, [&] {
+        OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path), .Dirty = false, .Slot = slot},
+                                       [&](frmMacierz& window) { window.Present(description); });
+    });
 }
 
 void ReadOldMatrixFile(Session& session, const std::string& path) {
@@ -65,8 +63,14 @@ void ReadOldMatrixFile(Session& session, const std::string& path) {
         description = ParseOldMatrixFile(LoadDocument(path, session.codePage), FileTextOf(session), document);
     };
     if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
-    TakeSlot(session) = std::move(document);
-    OpenMatrixWindow(session, path, description, true);
+    session.NewWindowIndex = FindFreeMatrixSlot(session);
+    OpensWithoutFault(session, path, DocumentKind::Matrix, [&] {
+        OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path), .Slot = session.NewWindowIndex},
+                                       [&](frmMacierz& window) {
+                                           window.Document() = std::move(document);
+                                           window.Present(description);
+                                       });
+    });
 }
 
 void WriteMatrixFile(Session& session, const std::string& path, const DistanceMatrix& document,

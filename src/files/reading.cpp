@@ -2,6 +2,7 @@
 
 #include "files/file_fault.h"
 #include "session/children.h"
+#include "session/registry.h"
 
 #include <fmt/format.h>
 
@@ -9,6 +10,15 @@
 #include <optional>
 
 namespace dorvan {
+
+namespace {
+
+Message TooLarge(const std::string& path) {
+    return {.Text = fmt::format("The memory does not hold the file. File: {}", path),
+            .Icon = MessageIcon::Critical};
+}
+
+} // namespace
 
 bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
                        const std::function<void()>& read) {
@@ -22,11 +32,21 @@ bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
         message.Text = fault.Describe(path);
         message.Icon = fault.HasOwnText() ? MessageIcon::Exclamation : MessageIcon::Critical;
     } catch (const std::bad_alloc&) {
-        message.Text = fmt::format("The memory does not hold the file. File: {}", path);
-        message.Icon = MessageIcon::Critical;
+        message = TooLarge(path);
     }
     session.platform.messages.show(message);
     return false;
+}
+
+void OpensWithoutFault(Session& session, const std::string& path, std::string_view kind,
+                       const std::function<void()>& open) {
+    try {
+        return open();
+    } catch (const std::bad_alloc&) {
+        AbandonSlot(session, kind, session.NewWindowIndex);
+    }
+    if (!session.ActiveWindow && !session.Children.empty()) ActivateChild(session, *session.Children.back());
+    session.platform.messages.show(TooLarge(path));
 }
 
 void TellOlderVersion(Session& session) {
@@ -35,19 +55,8 @@ void TellOlderVersion(Session& session) {
          .Icon = MessageIcon::Exclamation});
 }
 
-bool RefusedWhileBusy(Session& session) {
-    if (session.DiagramBusy != 1) return false;
-    session.platform.signals.beep();
-    return true;
-}
-
 void UpdateRecentFiles(Session& session, const std::string& path) {
     session.commands.Call("UpdateRecentFiles", {.Index = 0, .Path = path});
-}
-
-void ShowOpened(Session& session, ChildWindow& window) {
-    PlaceNewWindow(session, window);
-    ShowChild(session, window);
 }
 
 } // namespace dorvan

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 // What the openers of the three kinds share.
 namespace dorvan {
@@ -15,16 +16,15 @@ enum class Wait { No, Yes };
 bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
                        const std::function<void()>& read);
 
+// Does `open`, which takes a slot and makes a window in it, told by `NewWindowIndex`. Where the memory does
+// not suffice one message says so, the slot is free again, and all else stays as it was.
+void OpensWithoutFault(Session& session, const std::string& path, std::string_view kind,
+                       const std::function<void()>& open);
+
 // Said before a file of an older format is read.
 void TellOlderVersion(Session& session);
 
-// True after a beep: commands are refused while a diagram is being made.
-bool RefusedWhileBusy(Session& session);
-
 // Puts a path that was opened through a dialog on the list of recent files.
 void UpdateRecentFiles(Session& session, const std::string& path);
-
-// Gives a filled window its size and shows it.
-void ShowOpened(Session& session, ChildWindow& window);
 
 } // namespace dorvan

@@ -10,8 +10,7 @@ std::int16_t Selected(const ComboBox& list) { return StrictInt16(list.Text(), '.
 
 } // namespace
 
-frmGenetic::frmGenetic(Session& session)
-    : Form("frmGenetic", "Simple genetic algorithm"), session_(session) {}
+frmGenetic::frmGenetic(Session& session) : Dialog("frmGenetic", "Simple genetic algorithm", session) {}
 
 void frmGenetic::Form_Load() {
     cboGen.List = {"2000", "1500", "1000", "750", "500", "250", "100"};
@@ -23,13 +22,7 @@ void frmGenetic::Form_Load() {
 void frmGenetic::Command1_Click() {
     session_.ordering.GeneticGenerations = Selected(cboGen);
     session_.ordering.GeneticVariants = Selected(cboVar);
-    session_.DialogOutcome = 1;
-    Hide();
-}
-
-void frmGenetic::Command2_Click() {
-    session_.DialogOutcome = -99;
-    Hide();
+    Close(DialogResult::Accepted);
 }
 
 } // namespace dorvan

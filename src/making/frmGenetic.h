@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 namespace dorvan {
 
 // The dialog of the simple genetic ordering: the size of the run.
-class frmGenetic : public Form {
+class frmGenetic : public Dialog {
 public:
     explicit frmGenetic(Session& session);
 
@@ -23,11 +22,8 @@ public:
 
     void Form_Load() override;
     void Command1_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
-
-private:
-    Session& session_;
 };
 
 } // namespace dorvan

@@ -2,11 +2,11 @@
 
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
-#include "platform/keys.h"
+#include "platform/number_field.h"
 
 namespace dorvan {
 
-frmGeneticUM::frmGeneticUM(Session& session) : Form("frmGeneticUM", "Ravelin"), session_(session) {}
+frmGeneticUM::frmGeneticUM(Session& session) : Dialog("frmGeneticUM", "Ravelin", session) {}
 
 std::array<frmGeneticUM::Row, frmGeneticUM::RowCount> frmGeneticUM::Rows() {
     return {{{&Label1, &Text1, &OrderingOptions::SequenceChange},
@@ -23,11 +23,7 @@ std::array<frmGeneticUM::Row, frmGeneticUM::RowCount> frmGeneticUM::Rows() {
 }
 
 void frmGeneticUM::Text_KeyPress(const TextBox& field, int& keyAscii) {
-    const bool digit = keyAscii >= '0' && keyAscii <= '9';
-    const bool pointOfCoefficient = keyAscii == '.' && &field == &Text11;
-    if (digit || pointOfCoefficient || keyAscii == key::Backspace) return;
-    if (keyAscii == key::Enter) session_.platform.keyboard.send("{TAB}");
-    keyAscii = key::None;
+    FilterNumberKey(session_.platform.keyboard, keyAscii, &field == &Text11 ? "." : "");
 }
 
 // A text that does not convert leaves its value unchanged.
@@ -51,14 +47,8 @@ void frmGeneticUM::Command1_Click() {
         session_.platform.messages.show({.Text = "Parametr error!"});
         return;
     }
-    session_.DialogOutcome = 1;
     session_.ordering.WorkCancelled = false;
-    Hide();
-}
-
-void frmGeneticUM::Command2_Click() {
-    session_.DialogOutcome = -99;
-    Hide();
+    Close(DialogResult::Accepted);
 }
 
 } // namespace dorvan

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 #include <array>
 #include <cstddef>
@@ -11,7 +10,7 @@ namespace dorvan {
 
 // The dialog of the Ravelin ordering: the weights of its eight operators, its two critical numbers and the
 // coefficient by which distances become bytes.
-class frmGeneticUM : public Form {
+class frmGeneticUM : public Dialog {
 public:
     explicit frmGeneticUM(Session& session);
 
@@ -55,13 +54,11 @@ public:
     void Text_KeyPress(const TextBox& field, int& keyAscii);
 
     void Command1_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
 
 private:
     bool Store(const Row& row);
-
-    Session& session_;
 };
 
 } // namespace dorvan

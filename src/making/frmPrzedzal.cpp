@@ -5,16 +5,13 @@
 #include "distance/measures.h"
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
-#include "platform/keys.h"
+#include "platform/number_field.h"
 
 #include <algorithm>
 
 namespace dorvan {
 
 namespace {
-
-constexpr std::int16_t Accepted = 1;
-constexpr std::int16_t Cancelled = -99;
 
 // With fewer records the automatic limits are not offered.
 constexpr std::int32_t FewestRecordsForAutomatic = 6;
@@ -23,7 +20,7 @@ constexpr const char* DefaultLimits[] = {"15", "30", "45", "60"};
 
 } // namespace
 
-frmPrzedzal::frmPrzedzal(Session& session) : Form("frmPrzedzal", "Czekanowski"), session_(session) {}
+frmPrzedzal::frmPrzedzal(Session& session) : Dialog("frmPrzedzal", "Czekanowski", session) {}
 
 void frmPrzedzal::Form_Load() {
     if (session_.CurrentDiagType == 1) Option1_Click();
@@ -81,12 +78,7 @@ void frmPrzedzal::Store(const Options& options, std::int16_t& value) {
 }
 
 // No comma, whatever the locale.
-void frmPrzedzal::FilterKey(int& keyAscii) {
-    const bool digit = keyAscii >= '0' && keyAscii <= '9';
-    if (digit || keyAscii == '+' || keyAscii == '-' || keyAscii == '.' || keyAscii == key::Backspace) return;
-    if (keyAscii == key::Enter) session_.platform.keyboard.send("{TAB}");
-    keyAscii = key::None;
-}
+void frmPrzedzal::FilterKey(int& keyAscii) { FilterNumberKey(session_.platform.keyboard, keyAscii, "+-."); }
 
 void frmPrzedzal::Command3_Click() {
     session_.SectionLimits = Array1<float>(4);
@@ -96,8 +88,7 @@ void frmPrzedzal::Command3_Click() {
     else if (!TypedLimitsAccepted())
         return;
     if (!FurtherDialogsAccepted()) return;
-    session_.DialogOutcome = Accepted;
-    Hide();
+    Close(DialogResult::Accepted);
     if (session_.ActiveWindow) session_.platform.children.update(*session_.ActiveWindow);
 }
 
@@ -138,14 +129,12 @@ bool frmPrzedzal::ParseLimits() {
 }
 
 bool frmPrzedzal::FurtherDialogsAccepted() {
-    if (!session_.DiagramFromMatrix && session_.CurrentDistType == DistanceType::Customized) {
-        session_.platform.forms.showModal(session_.forms.Load<frmCustomized>(session_));
-        if (session_.DialogOutcome == Cancelled) return false;
-    }
+    if (!session_.DiagramFromMatrix && session_.CurrentDistType == DistanceType::Customized)
+        if (!Accepted<frmCustomized>(session_)) return false;
     const auto method = session_.orderingMethods.find(session_.CurrentOrderMethod);
     if (method != session_.orderingMethods.end()) {
         method->second.askOptions(session_);
-        if (session_.DialogOutcome == Cancelled) return false;
+        if (session_.DialogOutcome == DialogResult::Cancelled) return false;
     }
     return true;
 }
@@ -155,13 +144,6 @@ bool frmPrzedzal::Refuse(const std::string& text, MessageIcon icon) {
     return false;
 }
 
-void frmPrzedzal::Command2_Click() {
-    session_.DialogOutcome = Cancelled;
-    Hide();
-}
-
-void ShowDiagramOptions(Session& session) {
-    session.platform.forms.showModal(session.forms.Load<frmPrzedzal>(session));
-}
+bool ShowDiagramOptions(Session& session) { return Accepted<frmPrzedzal>(session); }
 
 } // namespace dorvan

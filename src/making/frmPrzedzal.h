@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
-#include "session/session.h"
+#include "session/dialog.h"
 
 #include <vector>
 
@@ -9,12 +8,14 @@ namespace dorvan {
 
 // The dialog of a diagram's options: data kind and measure (not for a matrix), diagram type, order and
 // section limits. Leaves its choices in the session.
-class frmPrzedzal : public Form {
+class frmPrzedzal : public Dialog {
 public:
     explicit frmPrzedzal(Session& session);
 
     Frame Frame1{"Frame1", "Data and distance type:"};
+    Label lblData{"lblData", "&Data:"};
     ComboBox cboData{"cboData"};
+    Label lblDistance{"lblDistance", "D&istance:"};
     ComboBox Combo1{"Combo1"};
 
     Frame Frame2{"Frame2", "Diagram type:"};
@@ -67,7 +68,7 @@ public:
     void Text4_KeyPress(int& keyAscii) { FilterKey(keyAscii); }
 
     void Command3_Click();
-    void Command2_Click();
+    void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }
 
 private:
@@ -88,11 +89,9 @@ private:
     bool ParseLimits();
     bool FurtherDialogsAccepted();
     bool Refuse(const std::string& text, MessageIcon icon);
-
-    Session& session_;
 };
 
-// Shows the dialog modally; `DialogOutcome` is 1 when it was accepted, -99 when it was cancelled.
-void ShowDiagramOptions(Session& session);
+// Shows the dialog modally; false when it was cancelled.
+bool ShowDiagramOptions(Session& session);
 
 } // namespace dorvan

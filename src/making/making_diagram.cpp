@@ -8,10 +8,11 @@
 #include "making/section_limits.h"
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
-#include "session/children.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "view/classes.h"
+#include "view/frmDiagram.h"
 
 #include <fmt/format.h>
 
@@ -85,8 +86,7 @@ bool CountAccepted(Session& session, std::int32_t n) {
 }
 
 bool OptionsAccepted(Session& session) {
-    ShowDiagramOptions(session);
-    if (session.DialogOutcome == -99) return false;
+    if (!ShowDiagramOptions(session)) return false;
     session.platform.events.run();
     return true;
 }
@@ -229,23 +229,16 @@ std::string DescriptionOf(Session& session, const Source& source) {
 void OpenDiagram(Session& session, const Source& source) {
     const WaitCursor wait(session.platform);
     const std::string description = DescriptionOf(session, source);
-    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
+    const std::int16_t slot = FindFreeDiagramSlot(session);
     FillDocument(session, source, session.DiagramDocuments.at(std::size_t(slot)));
-    auto& window = CreateChildWindow(session, DocumentKind::Diagram);
-    window.Caption = UntitledCaption(DocumentKind::Diagram, slot);
-    window.Present(description);
-    session.DiagramStates.at(std::size_t(slot)).Dirty = true;
-    if (window.Mode == WindowMode::Normal) PlaceNewWindow(session, window);
-    ShowChild(session, window);
+    OpenDocumentWindow<frmDiagram>(session, {.Slot = slot},
+                                   [&](frmDiagram& window) { window.Present(description); });
 }
 
 } // namespace
 
 void MakeDiagram(Session& session) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session)) return;
     Source source = ActiveSource(session);
     if (!CountAccepted(session, source.n)) return;
     session.DiagramRecordCount = source.n;

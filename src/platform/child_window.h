@@ -32,10 +32,6 @@ public:
     virtual bool Form_QueryUnload() { return true; }
     virtual void Form_Unload() = 0;
     virtual void Form_Resize() {}
-
-    // Shows the document of the window's slot (a matrix or diagram record, or for a sheet the working arrays)
-    // with its description.
-    virtual void Present(const std::string& description) = 0;
 };
 
 } // namespace dorvan

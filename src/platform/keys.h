@@ -18,6 +18,8 @@ inline constexpr int Right = 39;
 inline constexpr int Down = 40;
 inline constexpr int F2 = 113;
 
+inline constexpr bool IsDigit(int keyAscii) { return keyAscii >= '0' && keyAscii <= '9'; }
+
 } // namespace dorvan::key
 
 // Mouse buttons as the windows' handlers know them.

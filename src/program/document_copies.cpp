@@ -8,6 +8,7 @@
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
+#include "session/document_grid.h"
 #include "session/registry.h"
 #include "sheet/expression.h"
 #include "sheet/frmNotePad.h"
@@ -19,8 +20,6 @@
 namespace dorvan {
 
 namespace {
-
-constexpr int FirstValueColumn = 2;
 
 bool Reads(const std::string& cell, char decimalSeparator) {
     if (TrimSpaces(cell) == NaText) return true;
@@ -36,7 +35,7 @@ bool Reads(const std::string& cell, char decimalSeparator) {
 Grid ReadableSheet(const Grid& sheet, char decimalSeparator) {
     Grid copy = sheet;
     for (int row = 1; row < copy.Rows(); ++row)
-        for (int column = FirstValueColumn; column < copy.Columns(); ++column) {
+        for (int column = DocumentGrid::FirstValueColumn; column < copy.Columns(); ++column) {
             const std::string& cell = copy.Text(row, column);
             if (Reads(cell, decimalSeparator)) continue;
             const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;

@@ -44,11 +44,6 @@ std::string StateOf(const ChildWindow& window) {
     return fmt::format("{}|{}|{}|{}", revision, FileStamp(path), window.Caption, description);
 }
 
-std::vector<WindowState>& StatesOf(Session& session, std::string_view kind) {
-    if (kind == DocumentKind::Data) return session.DataStates;
-    return kind == DocumentKind::Matrix ? session.MatrixStates : session.DiagramStates;
-}
-
 void NameAsItWas(ChildWindow& window, const LeftDocument& document) {
     const std::string kind = window.TypeOfForm;
     auto* sheet = dynamic_cast<frmNotePad*>(&window);
@@ -133,7 +128,7 @@ bool Reopen(Session& session, const LeftDocument& document) {
     if (session.Children.size() == before || !session.ActiveWindow) return false;
     ChildWindow& window = *session.ActiveWindow;
     NameAsItWas(window, document);
-    StatesOf(session, window.TypeOfForm).at(std::size_t(window.Index)).Dirty = true;
+    StateOfSlot(session, window.TypeOfForm, window.Index).Dirty = true;
     session.platform.children.update(window);
     return true;
 }

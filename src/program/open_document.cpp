@@ -5,6 +5,7 @@
 #include "files/matrix_documents.h"
 #include "files/reading.h"
 #include "numbers/text.h"
+#include "session/busy.h"
 
 namespace dorvan {
 

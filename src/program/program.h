@@ -4,7 +4,7 @@
 
 namespace dorvan {
 
-// The composition root: fills the command table and the window makers of the session, so that the main window
+// The composition root: fills the command table of the session, so that the main window
 // reaches every operation. The desktop, the command line and the tests share it.
 void Compose(Session& session);
 

@@ -300,7 +300,6 @@ constexpr CommandRow InnerRows[] = {
     {.Calls = {.Any = "SaveAs"}},
     {.Calls = {.Any = "LoadRecentFiles"}},
     {.Calls = {.Any = "UpdateRecentFiles"}},
-    {.Calls = {.Any = "ClassifyDiagram"}},
 };
 
 } // namespace

@@ -8,7 +8,7 @@
 //      .Calls = {.Diagram = "frmDiagram.BestOrder"}},
 //
 // Its item is on while a window of a kind is active for which it calls an operation that is registered (see
-// program/program.cpp); nothing else switches it, unless a window calls MainWindow::EnableMenu. It may have a
+// src/program); nothing else switches it, unless a window calls MainWindow::EnableMenu. It may have a
 // shortcut, a check mark (MainWindow::CheckMenu), or be a submenu with rows of its own.
 namespace dorvan {
 

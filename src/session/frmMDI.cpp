@@ -1,6 +1,7 @@
 #include "session/frmMDI.h"
 
 #include "numbers/text.h"
+#include "session/busy.h"
 #include "session/children.h"
 #include "session/frmAbout.h"
 #include "session/registry.h"
@@ -105,7 +106,7 @@ void frmMDI::MenuOpens(const std::string& menu) {
 
 void frmMDI::ButtonClick(const std::string& toolbar, const std::string& key) {
     if (!ButtonEnabled(toolbar, key)) return;
-    if (toolbar == "toolData" && BeepsWhileBusy()) return;
+    if (toolbar == "toolData" && RefusedWhileBusy(session_)) return;
     const auto& row = session_.commands.Button(toolbar, key);
     const std::int16_t slot = session_.ActiveWindow ? session_.ActiveWindow->Index : std::int16_t(0);
     Run(row);
@@ -127,15 +128,9 @@ void frmMDI::TellSourceOfDiagram() {
     if (ActiveKind() == DocumentKind::Matrix) session_.DiagramFromMatrix = true;
 }
 
-bool frmMDI::BeepsWhileBusy() {
-    if (session_.DiagramBusy != 1) return false;
-    session_.platform.signals.beep();
-    return true;
-}
-
 // A bitmap window has only its own close control.
 void frmMDI::Close() {
-    if (BeepsWhileBusy() || !session_.ActiveWindow || ActiveKind() == DocumentKind::Bitmap) return;
+    if (RefusedWhileBusy(session_) || !session_.ActiveWindow || ActiveKind() == DocumentKind::Bitmap) return;
     CloseChild(session_, *session_.ActiveWindow);
 }
 
@@ -151,7 +146,7 @@ bool frmMDI::RequestClose() {
     return true;
 }
 
-void frmMDI::EditCell() { BeepsWhileBusy(); }
+void frmMDI::EditCell() { RefusedWhileBusy(session_); }
 
 void frmMDI::ToggleToolbar() {
     auto& mainWindow = session_.mainWindow;
@@ -163,7 +158,7 @@ void frmMDI::ToggleToolbar() {
 void frmMDI::Arrange(int mode) { session_.platform.children.arrange(mode); }
 
 void frmMDI::Help() {
-    if (BeepsWhileBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (session_.HelpFile.empty()) {
         session_.platform.messages.show({.Text = "Nie można wyświetlić pliku pomocy. Brak pliku pomocy "
                                                  "skojarzonego z tym programem.",
@@ -190,7 +185,7 @@ void frmMDI::HelpContact() {
 }
 
 void frmMDI::About() {
-    if (BeepsWhileBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     session_.platform.forms.showModal(session_.forms.Load<frmAbout>(session_));
 }
 

@@ -64,7 +64,6 @@ private:
     void HelpEnglish();
     void HelpContact();
     void About();
-    bool BeepsWhileBusy();
 
     Session& session_;
     bool endOfRun_ = false;

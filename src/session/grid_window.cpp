@@ -4,13 +4,7 @@
 
 namespace dorvan {
 
-namespace {
-
-constexpr int RightMargin = 100; // twips
-
-} // namespace
-
-void GridWindow::LayOutIn(const LeastSize& least) {
+void GridWindow::KeepLeastSize(const LeastSize& least) {
     ChildWindow* active = session_.ActiveWindow;
     if (Mode == WindowMode::Normal && active &&
         (active->Height < least.Height || active->Width < least.Width)) {
@@ -18,9 +12,6 @@ void GridWindow::LayOutIn(const LeastSize& least) {
         active->Width = std::max(active->Width, least.Width);
         session_.platform.children.update(*active);
     }
-    if (Mode == WindowMode::Minimized || ScaleHeight <= 0) return;
-    SiatkaBounds = {0, BottomPanelHeight, ScaleWidth, std::max(0, ScaleHeight - BottomPanelHeight)};
-    BottomTextWidth = std::max(0, ScaleWidth - BottomTextLeft - RightMargin);
 }
 
 } // namespace dorvan

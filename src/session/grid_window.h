@@ -14,21 +14,10 @@ class GridWindow : public ChildWindow {
 public:
     GridWindow(std::string name, Session& session) : ChildWindow(std::move(name)), session_(session) {}
 
-    static constexpr int BottomPanelHeight = 390; // twips; the panel of the description, above the grid
-
+    // On BottomPanel, which lies at the top in spite of its name.
+    Label Label1{"Label1", "Description:"};
     TextBox BottomText{"BottomText"}; // the description
     Grid Siatka{"Siatka"};
-
-    // Places of the controls, in twips inside the window, as the last resize set them.
-    struct Bounds {
-        int Left = 0;
-        int Top = BottomPanelHeight;
-        int Width = 0;
-        int Height = 0;
-    };
-    Bounds SiatkaBounds;
-    int BottomTextLeft = 1200; // right of the label "Description:"; told by the face
-    int BottomTextWidth = 0;
 
 protected:
     // In the normal state the active child window, be it this one or another, does not stay smaller: its
@@ -38,7 +27,7 @@ protected:
         int HeightInstead;
         int Width;
     };
-    void LayOutIn(const LeastSize& least);
+    void KeepLeastSize(const LeastSize& least);
 
     Session& session_;
 };

@@ -15,7 +15,7 @@ using Order = Array1<std::int16_t>;
 
 // A search for an order, with options of its own.
 struct OrderingMethod {
-    // Shows the dialog of its options modally; leaves 1 or -99 in `DialogOutcome`.
+    // Shows the dialog of its options modally; leaves its outcome in `DialogOutcome`.
     std::function<void(Session&)> askOptions;
     // Runs on an n by n table of distances and gives a permutation of 1..n; a cancelled run the best so far.
     std::function<Order(Session&, const FloatTable&)> run;

@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include <utility>
+
 namespace dorvan {
 
 namespace {
@@ -32,7 +34,16 @@ std::vector<std::shared_ptr<ChildWindow>>& WindowsOf(Session& session, std::stri
     if (kind == DocumentKind::Data) return session.DataWindows;
     if (kind == DocumentKind::Matrix) return session.MatrixWindows;
     if (kind == DocumentKind::Diagram) return session.DiagramWindows;
-    return session.BitmapWindows;
+    if (kind == DocumentKind::Bitmap) return session.BitmapWindows;
+    throw RuntimeFailure(Failure::InvalidProcedureCall, kind);
+}
+
+std::vector<WindowState>& StatesOf(Session& session, std::string_view kind) {
+    if (kind == DocumentKind::Data) return session.DataStates;
+    if (kind == DocumentKind::Matrix) return session.MatrixStates;
+    if (kind == DocumentKind::Diagram) return session.DiagramStates;
+    if (kind == DocumentKind::Bitmap) return session.BitmapStates;
+    throw RuntimeFailure(Failure::InvalidProcedureCall, kind);
 }
 
 } // namespace
@@ -53,22 +64,46 @@ std::int16_t FindFreeBitmapSlot(Session& session) {
     return FindFreeSlot(session.BitmapStates, session.BitmapWindows);
 }
 
+std::int16_t FindFreeSlot(Session& session, std::string_view kind) {
+    if (kind == DocumentKind::Data) return FindFreeDataSlot(session);
+    if (kind == DocumentKind::Matrix) return FindFreeMatrixSlot(session);
+    if (kind == DocumentKind::Diagram) return FindFreeDiagramSlot(session);
+    if (kind == DocumentKind::Bitmap) return FindFreeBitmapSlot(session);
+    throw RuntimeFailure(Failure::InvalidProcedureCall, kind);
+}
+
+void AbandonSlot(Session& session, std::string_view kind, std::int16_t slot) {
+    const auto window = std::exchange(WindowsOf(session, kind).at(std::size_t(slot)), nullptr);
+    StateOfSlot(session, kind, slot) = {.Deleted = true};
+    if (kind == DocumentKind::Matrix) session.MatrixDocuments.at(std::size_t(slot)) = {};
+    if (kind == DocumentKind::Diagram) session.DiagramDocuments.at(std::size_t(slot)) = {};
+    if (!window || std::erase(session.Children, window) == 0) return;
+    if (session.ActiveWindow == window.get()) session.ActiveWindow = nullptr;
+    session.platform.children.close(*window);
+}
+
+WindowState& StateOfSlot(Session& session, std::string_view kind, std::int16_t slot) {
+    auto& states = StatesOf(session, kind);
+    if (slot < 0 || std::size_t(slot) >= states.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a window's slot");
+    return states[std::size_t(slot)];
+}
+
 bool AnyDataWindowOpen(const Session& session) {
     for (std::size_t slot = 1; slot < session.DataStates.size(); ++slot)
         if (!session.DataStates[slot].Deleted) return true;
     return false;
 }
 
-ChildWindow& CreateChildWindow(Session& session, std::string_view kind) {
-    const auto maker = session.windowMakers.find(kind);
-    if (maker == session.windowMakers.end()) throw RuntimeFailure(Failure::InvalidProcedureCall, kind);
-    auto window = maker->second(session);
-    window->Index = session.NewWindowIndex;
-    window->Tag = fmt::format("{}", session.NewWindowIndex);
+void PutIntoRegistry(Session& session, std::string_view kind, std::shared_ptr<ChildWindow> window) {
+    const std::int16_t slot = session.NewWindowIndex;
+    auto& windows = WindowsOf(session, kind);
+    if (slot < 1 || std::size_t(slot) >= windows.size())
+        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a window's slot");
+    window->Index = slot;
+    window->Tag = fmt::format("{}", slot);
     window->Form_Load();
-    auto& place = WindowsOf(session, kind).at(static_cast<std::size_t>(session.NewWindowIndex));
-    place = std::move(window);
-    return *place;
+    windows[std::size_t(slot)] = std::move(window);
 }
 
 std::string UntitledCaption(std::string_view kind, std::int16_t slot) {

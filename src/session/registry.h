@@ -19,13 +19,21 @@ std::int16_t FindFreeDataSlot(Session& session);
 std::int16_t FindFreeMatrixSlot(Session& session);
 std::int16_t FindFreeDiagramSlot(Session& session);
 std::int16_t FindFreeBitmapSlot(Session& session);
+std::int16_t FindFreeSlot(Session& session, std::string_view kind); // a DocumentKind
+
+// Fails with SubscriptOutOfRange for a slot that is not in the registry.
+WindowState& StateOfSlot(Session& session, std::string_view kind, std::int16_t slot);
+
+// Takes back a slot whose window could not be made or filled: it is free, and neither window nor document
+// stand in it.
+void AbandonSlot(Session& session, std::string_view kind, std::int16_t slot);
 
 // Some data slot from 1 up is in use.
 bool AnyDataWindowOpen(const Session& session);
 
-// Makes the window of a kind (a DocumentKind) for the slot in `NewWindowIndex`, its `Index` and `Tag` set,
-// and puts it into the registry in the place of the one that stood there. It is not shown yet.
-ChildWindow& CreateChildWindow(Session& session, std::string_view kind);
+// Puts a new window of the kind into the slot in `NewWindowIndex`, in the place of the one that stood there,
+// and loads it, its `Index` and `Tag` set. It is not shown yet; `OpenDocumentWindow` is what commands call.
+void PutIntoRegistry(Session& session, std::string_view kind, std::shared_ptr<ChildWindow> window);
 
 // The window of a slot, by its class. Fails with SubscriptOutOfRange for a slot that is not in the registry,
 // with InvalidProcedureCall for one that holds no such window.

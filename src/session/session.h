@@ -96,9 +96,6 @@ struct Session {
     // Told of a window that closes, after its questions; null: nobody listens.
     std::function<void(const ChildWindow&)> onClosing;
 
-    // Makes the window of a kind by the composition root's hand; it takes its slot from NewWindowIndex.
-    std::map<std::string, std::function<std::shared_ptr<ChildWindow>(Session&)>, std::less<>> windowMakers;
-
     OrderingMethods orderingMethods;
     OrderingOptions ordering; // of the two genetic ones
 };

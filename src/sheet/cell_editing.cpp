@@ -6,14 +6,16 @@
 #include "numbers/text.h"
 #include "numbers/utf8.h"
 #include "platform/keys.h"
+#include "session/busy.h"
 #include "sheet/expression.h"
 
 namespace dorvan {
 
+using DocumentGrid::FirstValueColumn;
+using DocumentGrid::NameColumn;
+
 namespace {
 
-constexpr int NameColumn = 1;
-constexpr int FirstValueColumn = 2;
 constexpr int LongestName = 15; // characters
 constexpr int LongestValue = 12;
 
@@ -37,8 +39,6 @@ Message Unexpected(const RuntimeFailure& failure) {
             .Icon = MessageIcon::Exclamation,
             .Title = RefusalTitle};
 }
-
-bool IsDigit(int character) { return character >= '0' && character <= '9'; }
 
 bool IsOperator(int character) {
     return character == '/' || character == '*' || character == '-' || character == '+';
@@ -80,14 +80,15 @@ void frmNotePad::TypeIntoEditCell(int key) {
 }
 
 void frmNotePad::Grid1_KeyDown(int& keyCode) {
-    if (Busy() || (keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited()) return;
+    if (IsBusy(session_) || (keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited())
+        return;
     keyCode = key::None;
     TakeCurrentCell();
     StartCellEdit(key::None, 1);
 }
 
 void frmNotePad::Grid1_KeyPress(int& keyAscii) {
-    if (Busy()) return;
+    if (IsBusy(session_)) return;
     const int typed = keyAscii;
     if (typed == key::Enter || typed == key::Escape || typed >= key::Space) keyAscii = key::None;
     if (typed <= key::Space || typed == Delete || !CurrentCellCanBeEdited()) return;
@@ -101,7 +102,7 @@ void frmNotePad::Grid1_DblClick() {
     MarkChanged();
 }
 
-bool frmNotePad::Grid1_MouseDown(int button) { return button == mouse::Right && !Busy(); }
+bool frmNotePad::Grid1_MouseDown(int button) { return button == mouse::Right && !IsBusy(session_); }
 
 void frmNotePad::EditCell_Change() {
     if (Editing && AtEditedCell()) Grid1.SetText(EditRow, EditCol, EditCell.Text);
@@ -122,7 +123,7 @@ void frmNotePad::EditCell_KeyDown(int& keyCode) {
 
 void frmNotePad::EditCell_KeyPress(int& keyAscii) {
     EditCell.MaxLength = EditCol == NameColumn ? LongestName : LongestValue;
-    if (Busy()) {
+    if (IsBusy(session_)) {
         session_.platform.signals.beep();
         return;
     }
@@ -143,7 +144,7 @@ int frmNotePad::FilterOfValueCell(int keyAscii) const {
         const bool operatorStands = EditCell.Text.find_first_of("/*-+") != std::string::npos;
         return separatorStands && !operatorStands ? key::None : keyAscii;
     }
-    if (IsDigit(keyAscii) || IsOperator(keyAscii) || keyAscii == key::Backspace) return keyAscii;
+    if (key::IsDigit(keyAscii) || IsOperator(keyAscii) || keyAscii == key::Backspace) return keyAscii;
     if (keyAscii == 'n' || keyAscii == 'N') return 'N';
     if (keyAscii == 'a' || keyAscii == 'A') return 'A';
     return key::None;

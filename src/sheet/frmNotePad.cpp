@@ -3,6 +3,7 @@
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
+#include "session/busy.h"
 #include "session/children.h"
 #include "session/registry.h"
 #include "session/window_switches.h"
@@ -10,6 +11,8 @@
 #include <algorithm>
 
 namespace dorvan {
+
+using namespace DocumentGrid;
 
 namespace {
 
@@ -31,34 +34,35 @@ std::string frmNotePad::NamedFile() const {
 }
 
 void frmNotePad::LayOut(int recordCount, int variableCount) {
-    Grid1.SetSize(recordCount + 1, variableCount + 2);
+    DocumentGrid::SetSize(Grid1, recordCount, variableCount);
     Grid1.Clear();
-    Grid1.SetText(0, 0, "Number");
-    Grid1.SetText(0, 1, "Record Name");
+    Grid1.SetText(HeaderRow, NumberColumn, "Number");
+    Grid1.SetText(HeaderRow, NameColumn, "Record Name");
     for (int column = 0; column < Grid1.Columns(); ++column) {
-        Grid1.SetColumnWidth(column, column == 0   ? NumberColumnWidth
-                                     : column == 1 ? NameColumnWidth
-                                                   : ValueColumnWidth);
-        if (column == 0) continue;
+        Grid1.SetColumnWidth(column, column == NumberColumn ? NumberColumnWidth
+                                     : column == NameColumn ? NameColumnWidth
+                                                            : ValueColumnWidth);
+        if (column == NumberColumn) continue;
         Grid1.SetHeaderAlignment(column, Alignment::Centre);
         Grid1.SetColumnAlignment(column, Alignment::Centre);
     }
-    for (int row = 1; row <= recordCount; ++row) Grid1.SetText(row, 0, SignedText(row));
+    for (int row = 1; row <= recordCount; ++row) Grid1.SetText(row, NumberColumn, SignedText(row));
 }
 
 void frmNotePad::Present(const std::string& description) {
     const auto& values = session_.DataValues;
     LayOut(session_.RecordNames.Count(), session_.VariableNames.Count());
     OpisText.Text = description;
-    for (int column = 1; column <= VariableCount(); ++column)
-        Grid1.SetText(0, column + 1, session_.VariableNames(column));
+    for (int variable = 1; variable <= VariableCount(); ++variable)
+        Grid1.SetText(HeaderRow, ValueColumn(variable), session_.VariableNames(variable));
     for (int row = 1; row <= RecordCount(); ++row) {
-        Grid1.SetText(row, 1, session_.RecordNames(row));
-        for (int column = 1; column <= VariableCount(); ++column) {
-            Grid1.SetText(row, column + 1, CellText(values(row, column), session_.DecimalSeparator));
+        Grid1.SetText(row, NameColumn, session_.RecordNames(row));
+        for (int variable = 1; variable <= VariableCount(); ++variable) {
+            Grid1.SetText(row, ValueColumn(variable),
+                          CellText(values(row, variable), session_.DecimalSeparator));
         }
     }
-    if (RecordCount() >= 1) Grid1.SetCurrent(1, 1);
+    if (RecordCount() >= 1) Grid1.SetCurrent(1, NameColumn);
 }
 
 void frmNotePad::Form_Activate() {
@@ -100,7 +104,7 @@ void frmNotePad::OpisText_Change() { MarkChanged(); }
 
 // The key takes effect all the same.
 void frmNotePad::OpisText_KeyPress(int&) {
-    if (Busy()) session_.platform.signals.beep();
+    if (IsBusy(session_)) session_.platform.signals.beep();
 }
 
 std::string CellText(float value, char decimalSeparator) {

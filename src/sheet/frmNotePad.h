@@ -2,11 +2,13 @@
 
 #include "platform/child_window.h"
 #include "platform/grid.h"
+#include "session/document_grid.h"
 #include "session/session.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace dorvan {
 
@@ -15,6 +17,8 @@ namespace dorvan {
 // its name, the columns from 2 the values through "###0.000" or "N/A".
 class frmNotePad : public ChildWindow {
 public:
+    static constexpr std::string_view Kind = DocumentKind::Data;
+
     explicit frmNotePad(Session& session);
 
     // TopPanel lies at the top over the whole width and holds the label, OpisText (which follows the panel's
@@ -38,15 +42,15 @@ public:
     // The file that the caption names.
     std::string NamedFile() const;
 
-    int RecordCount() const { return Grid1.Rows() - 1; }
-    int VariableCount() const { return Grid1.Columns() - 2; }
+    int RecordCount() const { return DocumentGrid::RecordCount(Grid1); }
+    int VariableCount() const { return DocumentGrid::ValueCount(Grid1); }
 
     // Sizes the grid for n records by m variables, with the headers "Number" and "Record Name", the column
     // widths and alignments, and the records' numbers in column 0. Clears all cells.
     void LayOut(int recordCount, int variableCount);
 
     // Fills the window from the working arrays of the session (names, values) and sets the description.
-    void Present(const std::string& description) override;
+    void Present(const std::string& description);
 
     // Opens the edit of the cell (EditRow, EditCol), and gives EditCell the focus. In mode 1 EditCell starts
     // with the cell's text and the caret at its end, else empty. The character `key`, unless it is 0, goes
@@ -82,7 +86,6 @@ public:
     void Form_Resize() override;
 
 private:
-    bool Busy() const { return session_.DiagramBusy == 1; }
     bool AtEditedCell() const { return Grid1.Row() == EditRow && Grid1.Column() == EditCol; }
     bool CurrentCellCanBeEdited() const;
     void TakeCurrentCell();

@@ -3,7 +3,7 @@
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
 #include "numbers/runtime_failure.h"
-#include "platform/keys.h"
+#include "session/dialog.h"
 
 namespace dorvan {
 
@@ -47,19 +47,13 @@ void frmNowy::Command1_Click() {
         return;
     }
     SetFocus(txtRecords);
-    Result = 1;
+    Result = DialogResult::Accepted;
     Hide();
 }
 
 void frmNowy::Command2_Click() {
-    Result = -99;
+    Result = DialogResult::Cancelled;
     Hide();
-}
-
-void frmNowy::FilterKey(int& keyAscii) {
-    if (keyAscii == key::Enter) session_.platform.keyboard.send("{TAB}");
-    const bool digit = keyAscii >= '0' && keyAscii <= '9';
-    if (!digit && keyAscii != key::Backspace) keyAscii = key::None;
 }
 
 } // namespace dorvan

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/form.h"
+#include "platform/number_field.h"
 #include "session/session.h"
 
 #include <cstdint>
@@ -20,18 +21,17 @@ public:
     CommandButton Command1{"Command1", "OK"};
     CommandButton Command2{"Command2", "Cancel"};
 
-    // This dialog's own result, apart from `DialogOutcome`: 1 accepted, -99 cancelled.
+    // This dialog's own result, apart from `DialogOutcome`.
     std::int16_t Result = 0;
 
     void Form_Show() override;
     void CancelCommand() override { Command2_Click(); }
     void Command1_Click();
     void Command2_Click();
-    void txtRecords_KeyPress(int& keyAscii) { FilterKey(keyAscii); }
-    void txtLiczba_KeyPress(int& keyAscii) { FilterKey(keyAscii); }
+    void txtRecords_KeyPress(int& keyAscii) { FilterNumberKey(session_.platform.keyboard, keyAscii); }
+    void txtLiczba_KeyPress(int& keyAscii) { FilterNumberKey(session_.platform.keyboard, keyAscii); }
 
 private:
-    void FilterKey(int& keyAscii);
     const char* Refusal();
 
     Session& session_;

@@ -1,44 +1,41 @@
 #include "sheet/new_data_sheet.h"
 
 #include "numbers/text.h"
-#include "session/children.h"
-#include "session/registry.h"
+#include "session/busy.h"
+#include "session/dialog.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/frmNowy.h"
 
 namespace dorvan {
+
+using namespace DocumentGrid;
 
 namespace {
 
 void FillWithDefaults(frmNotePad& window, int recordCount, int variableCount) {
     window.LayOut(recordCount, variableCount);
     auto& grid = window.Grid1;
-    for (int column = 2; column < grid.Columns(); ++column)
-        grid.SetText(0, column, "VAR " + SignedText(column - 1));
-    for (int row = 1; row < grid.Rows(); ++row) {
-        grid.SetText(row, 1, "Record" + SignedText(row));
-        for (int column = 2; column < grid.Columns(); ++column) grid.SetText(row, column, "0.000");
+    for (int variable = 1; variable <= variableCount; ++variable)
+        grid.SetText(HeaderRow, ValueColumn(variable), "VAR " + SignedText(variable));
+    for (int row = 1; row <= recordCount; ++row) {
+        grid.SetText(row, NameColumn, "Record" + SignedText(row));
+        for (int column = FirstValueColumn; column < grid.Columns(); ++column)
+            grid.SetText(row, column, "0.000");
     }
-    grid.SetCurrent(1, 1);
+    grid.SetCurrent(1, NameColumn);
 }
 
 } // namespace
 
 void NewDataSheet(Session& session) {
-    if (session.DiagramBusy == 1) {
-        session.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session)) return;
     auto& dialog = session.forms.Load<frmNowy>(session);
     session.platform.forms.showModal(dialog);
-    if (dialog.Result == -99) return;
-    session.NewWindowIndex = FindFreeDataSlot(session);
-    auto& window = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
-    window.Caption = UntitledCaption(DocumentKind::Data, session.NewWindowIndex);
-    FillWithDefaults(window, session.PendingRecCount, session.PendingVarCount);
-    session.DataStates.at(std::size_t(window.Index)).Dirty = false;
-    PlaceNewWindow(session, window);
-    ShowChild(session, window);
+    if (dialog.Result == DialogResult::Cancelled) return;
+    OpenDocumentWindow<frmNotePad>(session, {.Dirty = false}, [&](frmNotePad& window) {
+        FillWithDefaults(window, session.PendingRecCount, session.PendingVarCount);
+    });
 }
 
 } // namespace dorvan

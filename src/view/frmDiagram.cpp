@@ -2,7 +2,9 @@
 
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
+#include "session/busy.h"
 #include "session/children.h"
+#include "session/document_grid.h"
 #include "session/registry.h"
 #include "session/window_switches.h"
 #include "view/tiles.h"
@@ -12,6 +14,8 @@
 #include <algorithm>
 
 namespace dorvan {
+
+using namespace DocumentGrid;
 
 namespace {
 
@@ -43,7 +47,7 @@ void frmDiagram::Present(const std::string& description) {
 
 void frmDiagram::LayOut() {
     const int count = Document().RecCount;
-    Siatka.SetSize(count + 1, count + 2);
+    DocumentGrid::SetSize(Siatka, count, count);
     Siatka.Clear();
     Siatka.FixedRows = 1;
     Siatka.FixedColumns = 1;
@@ -51,42 +55,44 @@ void frmDiagram::LayOut() {
     Siatka.FontSize = count > 99 ? 7 : 8; // three digits have to fit a box
     for (int column = 0; column < Siatka.Columns(); ++column) {
         // The last column keeps the default; only its number shows that.
-        const auto alignment = column >= 2 && column <= count ? Alignment::Centre : Alignment::Left;
+        const auto alignment =
+            column >= FirstValueColumn && column <= count ? Alignment::Centre : Alignment::Left;
         Siatka.SetColumnAlignment(column, alignment);
         Siatka.SetHeaderAlignment(column, alignment);
-        Siatka.SetColumnWidth(column, column == 0   ? NumberColumnWidth
-                                      : column == 1 ? NameColumnWidth
-                                                    : BoxSide);
+        Siatka.SetColumnWidth(column, column == NumberColumn ? NumberColumnWidth
+                                      : column == NameColumn ? NameColumnWidth
+                                                             : BoxSide);
     }
     for (int row = 0; row <= count; ++row) Siatka.SetRowHeight(row, BoxSide);
     for (int place = 1; place <= count; ++place) {
-        Siatka.SetText(place, 0, fmt::format("{}", place));
-        Siatka.SetText(0, place + 1, fmt::format("{}", place));
+        Siatka.SetText(place, NumberColumn, fmt::format("{}", place));
+        Siatka.SetText(HeaderRow, ValueColumn(place), fmt::format("{}", place));
     }
 }
 
 void frmDiagram::PaintNames() {
     const auto& document = Document();
-    Siatka.SetText(0, 1, "Name");
-    for (int row = 1; row <= document.RecCount; ++row) Siatka.SetText(row, 1, document.RecordNames(row));
-    Siatka.SetCurrent(document.RecCount, 1);
+    Siatka.SetText(HeaderRow, NameColumn, "Name");
+    for (int row = 1; row <= document.RecCount; ++row)
+        Siatka.SetText(row, NameColumn, document.RecordNames(row));
+    Siatka.SetCurrent(document.RecCount, NameColumn);
 }
 
 void frmDiagram::PaintCells() {
     const int count = Document().RecCount;
     for (int row = 1; row <= count; ++row)
         for (int record = 1; record <= count; ++record) PaintCell(row, record, false);
-    if (count > 0) Siatka.SetCurrent(count, count + 1);
+    if (count > 0) Siatka.SetCurrent(count, ValueColumn(count));
 }
 
 // A cell without a tile keeps the picture that it shows.
 void frmDiagram::PaintCell(int row, int record, bool selected) {
     const Tile tile = CellTile(Document(), row, record, selected);
-    if (tile != Tile::None) Siatka.SetPicture(row, record + 1, static_cast<std::uint8_t>(tile));
+    if (tile != Tile::None) Siatka.SetPicture(row, ValueColumn(record), static_cast<std::uint8_t>(tile));
 }
 
 void frmDiagram::Siatka_DblClick() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (RowSelected == 0 && Siatka.Row() >= 1)
         SelectCurrentRow();
     else if (RowSelected == 1 && Siatka.Row() == SelectedRow)
@@ -100,7 +106,7 @@ void frmDiagram::SetIcons(bool enabled) {
 
 void frmDiagram::BottomText_Change() { session_.DiagramStates.at(std::size_t(Index)).Dirty = true; }
 
-void frmDiagram::BottomText_KeyPress(int&) { IsBusy(); } // the character is still taken
+void frmDiagram::BottomText_KeyPress(int&) { RefusedWhileBusy(session_); } // the character is still taken
 
 void frmDiagram::Form_Load() {
     SetIcons(false);
@@ -135,13 +141,7 @@ void frmDiagram::Form_Unload() {
     SwitchCommands(session_.mainWindow, DocumentKind::Diagram, WindowEvent::Unloaded);
 }
 
-void frmDiagram::Form_Resize() { LayOutIn({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
-
-bool frmDiagram::IsBusy() {
-    if (session_.DiagramBusy != 1) return false;
-    Beep();
-    return true;
-}
+void frmDiagram::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
 void frmDiagram::Beep() { session_.platform.signals.beep(); }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace dorvan {
 
@@ -18,6 +19,8 @@ namespace dorvan {
 // `Insert` without a selected row fail with SubscriptOutOfRange.
 class frmDiagram : public GridWindow {
 public:
+    static constexpr std::string_view Kind = DocumentKind::Diagram;
+
     explicit frmDiagram(Session& session);
 
     std::int16_t SelectedRow = 0;  // the selected grid row, 0 when none
@@ -28,7 +31,7 @@ public:
 
     // Lays the grid out for the document of the slot and fills it; shows the description, cut to the 150
     // characters of its field.
-    void Present(const std::string& description) override;
+    void Present(const std::string& description);
 
     // Selects the grid's current row, or takes the selection back, from any current row.
     void SelectThisRow();
@@ -78,7 +81,6 @@ private:
     void PaintCell(int row, int record, bool selected);
     void PaintCross(std::int16_t row, bool selected);
 
-    bool IsBusy(); // beeps if so
     void Beep();
     void SelectCurrentRow();
     void DropSelection();

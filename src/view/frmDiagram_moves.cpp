@@ -1,6 +1,8 @@
 #include "view/frmDiagram.h"
 
 #include "numbers/runtime_failure.h"
+#include "session/busy.h"
+#include "session/document_grid.h"
 #include "view/classes.h"
 
 #include <numeric>
@@ -41,25 +43,25 @@ void CheckOrder(const Array1<std::int16_t>& order, const DiagramDocument& docume
 } // namespace
 
 void frmDiagram::SelectThisRow() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (RowSelected == 0 && Siatka.Row() >= 1) {
         SelectCurrentRow();
     } else if (RowSelected == 1) {
-        Siatka.SetCurrent(SelectedRow, 0);
+        Siatka.SetCurrent(SelectedRow, DocumentGrid::NumberColumn);
         DropSelection();
     }
 }
 
 void frmDiagram::SelectCurrentRow() {
     SelectedRow = static_cast<std::int16_t>(Siatka.Row());
-    Siatka.SetCurrent(SelectedRow, 0);
+    Siatka.SetCurrent(SelectedRow, DocumentGrid::NumberColumn);
     SelectRow(SelectedRow);
     SetIcons(true);
     RowSelected = 1;
 }
 
 void frmDiagram::DropSelection() {
-    Siatka.SetCurrent(Siatka.Row(), 0);
+    Siatka.SetCurrent(Siatka.Row(), DocumentGrid::NumberColumn);
     UnSelectRow(SelectedRow);
     SelectedRow = 0;
     SetIcons(false);
@@ -71,9 +73,10 @@ void frmDiagram::SelectRow(std::int16_t& row) { PaintCross(row, true); }
 void frmDiagram::UnSelectRow(std::int16_t& row) { PaintCross(row, false); }
 
 void frmDiagram::PaintCross(std::int16_t row, bool selected) {
-    for (int column = 2; column < Siatka.Columns(); ++column) PaintCell(row, column - 1, selected);
+    for (int record = 1; record <= DocumentGrid::ValueCount(Siatka); ++record)
+        PaintCell(row, record, selected);
     for (int other = 1; other < Siatka.Rows(); ++other) PaintCell(other, row, selected);
-    Siatka.SetCurrent(row, row + 1);
+    Siatka.SetCurrent(row, DocumentGrid::ValueColumn(row));
 }
 
 void frmDiagram::StartOrder() {
@@ -102,25 +105,25 @@ void frmDiagram::Exchange(std::int16_t neighbour) {
     StartOrder();
     std::swap(RowOrder(SelectedRow), RowOrder(neighbour));
     ApplyRowOrder();
-    Siatka.SetCurrent(SelectedRow, 0);
+    Siatka.SetCurrent(SelectedRow, DocumentGrid::NumberColumn);
     UnSelectRow(SelectedRow);
     LandOn(neighbour);
 }
 
 void frmDiagram::Down() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (SelectedRow >= Siatka.Rows() - 1) return Beep();
     Exchange(static_cast<std::int16_t>(SelectedRow + 1));
 }
 
 void frmDiagram::Up() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (SelectedRow <= 1) return Beep();
     Exchange(static_cast<std::int16_t>(SelectedRow - 1));
 }
 
 void frmDiagram::Home() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     if (SelectedRow <= 1) return Beep();
     const WaitCursor cursor(session_.platform);
     StartOrder();
@@ -132,7 +135,7 @@ void frmDiagram::Home() {
 }
 
 void frmDiagram::EndRow() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     const std::int16_t last = Document().RecCount;
     if (SelectedRow >= last) return Beep();
     const WaitCursor cursor(session_.platform);
@@ -144,7 +147,7 @@ void frmDiagram::EndRow() {
 }
 
 void frmDiagram::Insert() {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     const auto target = static_cast<std::int16_t>(Siatka.Row());
     if (target == SelectedRow || target < 1) return Beep();
     const WaitCursor cursor(session_.platform);

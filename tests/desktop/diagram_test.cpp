@@ -32,6 +32,24 @@ TEST_F(DiagramTest, OpensAtItsUpperLeftCornerWithItsOwnToolbar) {
     EXPECT_TRUE(Item("mnuEditUp").isEnabled());
 }
 
+TEST_F(DiagramTest, TheGridFillsTheWindowUnderTheDescription) {
+    QWidget& content = *Face().widget();
+    const auto& panel = Find<QWidget>(content, "BottomPanel");
+    const auto& label = Find<QLabel>(content, "Label1");
+    const auto& field = Find<QLineEdit>(content, "BottomText");
+    EXPECT_EQ(label.text(), "Description:");
+    for (const QSize size : {QSize(700, 500), QSize(900, 400)}) {
+        Face().resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(panel.geometry().topLeft(), QPoint(0, 0));
+        EXPECT_EQ(panel.width(), content.width());
+        EXPECT_EQ(ActiveGrid().geometry(),
+                  QRect(0, panel.height(), content.width(), content.height() - panel.height()));
+        EXPECT_GT(field.x(), label.geometry().right());
+        EXPECT_LE(content.width() - field.geometry().right(), 100 / 15) << "twips";
+    }
+}
+
 TEST_F(DiagramTest, ADoubleClickSelectsARowAndTheButtonsMoveIt) {
     const std::string second = Name(2);
     const std::string last = Name(Diagram().Siatka.Rows() - 1);

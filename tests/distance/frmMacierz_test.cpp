@@ -21,7 +21,8 @@ struct frmMacierzTest : ::testing::Test, MatrixSession {
         document.Names = Names(size);
         for (int row = 1; row <= size; ++row) document.Names(row) = "n" + std::to_string(row);
         document.Cells = Array2<std::string>(size, size, cell);
-        auto& window = dynamic_cast<frmMacierz&>(CreateChildWindow(session, DocumentKind::Matrix));
+        PutIntoRegistry(session, DocumentKind::Matrix, std::make_shared<frmMacierz>(session));
+        auto& window = MatrixWindow(session, session.NewWindowIndex);
         window.Caption = "[MATRIX]: /folder/a.mtx";
         window.Present(description);
         return window;
@@ -261,29 +262,6 @@ TEST_F(Resizing, OnlyInTheNormalStateItGrows) {
         EXPECT_EQ(window.Width, 100);
         EXPECT_EQ(window.Height, 200);
     }
-}
-
-TEST_F(Resizing, TheGridFillsTheWindowUnderTheDescription) {
-    window.BottomTextLeft = 1300;
-    Resize(9200, 7600);
-    EXPECT_EQ(window.SiatkaBounds.Left, 0);
-    EXPECT_EQ(window.SiatkaBounds.Top, frmMacierz::BottomPanelHeight);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    EXPECT_EQ(window.SiatkaBounds.Height, 7000 - frmMacierz::BottomPanelHeight);
-    EXPECT_EQ(window.BottomTextWidth, 9000 - 1300 - 100);
-    EXPECT_TRUE(window.Siatka.Visible);
-}
-
-TEST_F(Resizing, NothingIsLaidOutWhenMinimizedOrWithoutInnerHeight) {
-    Resize(9200, 7600);
-    window.Mode = WindowMode::Minimized;
-    Resize(6000, 5000);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    window.Mode = WindowMode::Maximized;
-    Resize(6000, 600);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    Resize(6000, 5000);
-    EXPECT_EQ(window.SiatkaBounds.Width, 5800);
 }
 
 TEST_F(frmMacierzTest, MatrixWindowFailsForASlotWithoutOne) {

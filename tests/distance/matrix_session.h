@@ -4,7 +4,7 @@
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/making_matrix.h"
 #include "session/children.h"
-#include "session/registry.h"
+#include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "support/test_platform.h"
 
@@ -19,15 +19,6 @@ using Rows = std::vector<std::vector<std::string>>;
 
 // A session that can open data sheets and matrices.
 struct MatrixSession : TestSession {
-    MatrixSession() {
-        session.windowMakers[std::string(DocumentKind::Data)] = [](Session& owner) {
-            return std::make_shared<frmNotePad>(owner);
-        };
-        session.windowMakers[std::string(DocumentKind::Matrix)] = [](Session& owner) {
-            return std::make_shared<frmMacierz>(owner);
-        };
-    }
-
     // An active sheet of records "r1", "r2", ... by variables "v1", ...; empty when `rows` is.
     frmNotePad& OpenSheet(const Rows& rows) {
         frmNotePad& sheet = OpenSheet(int(rows.size()), rows.empty() ? 0 : int(rows[0].size()));
@@ -39,20 +30,18 @@ struct MatrixSession : TestSession {
 
     // The same with the value r at each place of record r.
     frmNotePad& OpenSheet(int records, int variables) {
-        session.NewWindowIndex = FindFreeDataSlot(session);
-        auto& sheet = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
-        sheet.Caption = UntitledCaption(DocumentKind::Data, session.NewWindowIndex);
-        sheet.LayOut(records, variables);
-        for (int column = 1; column <= variables; ++column)
-            sheet.Grid1.SetText(0, column + 1, "v" + std::to_string(column));
-        for (int row = 1; row <= records; ++row) {
-            sheet.Grid1.SetText(row, 1, "r" + std::to_string(row));
+        auto& opened = OpenDocumentWindow<frmNotePad>(session, {.Dirty = false}, [&](frmNotePad& sheet) {
+            sheet.LayOut(records, variables);
             for (int column = 1; column <= variables; ++column)
-                sheet.Grid1.SetText(row, column + 1, std::to_string(row));
-        }
-        ShowChild(session, sheet);
+                sheet.Grid1.SetText(0, column + 1, "v" + std::to_string(column));
+            for (int row = 1; row <= records; ++row) {
+                sheet.Grid1.SetText(row, 1, "r" + std::to_string(row));
+                for (int column = 1; column <= variables; ++column)
+                    sheet.Grid1.SetText(row, column + 1, std::to_string(row));
+            }
+        });
         children.log.clear();
-        return sheet;
+        return opened;
     }
 
     // The user chooses a measure in the dialog of the next matrix.

@@ -21,7 +21,7 @@ protected:
         session.VariableNames = Names(1, "V");
         session.DataValues = FloatTable(1, 1, 0);
         const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
-        CreateChildWindow(session, DocumentKind::Data);
+        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
         window(slot).Caption = UntitledCaption(DocumentKind::Data, slot);
         window(slot).Present("about");
         window(slot).Grid1.SetText(1, 2, value);

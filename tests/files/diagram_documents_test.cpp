@@ -4,6 +4,7 @@
 #include "files/files_session.h"
 #include "files/older_bytes.h"
 #include "session/children.h"
+#include "view/frmDiagram.h"
 
 #include <cmath>
 #include <filesystem>
@@ -13,9 +14,7 @@ namespace dorvan::test {
 
 class DiagramDocuments : public FilesSession {
 protected:
-    RecordingWindow& window(std::size_t slot = 1) {
-        return dynamic_cast<RecordingWindow&>(*session.DiagramWindows.at(slot));
-    }
+    frmDiagram& window(std::int16_t slot = 1) { return DiagramWindow(session, slot); }
     DiagramDocument& document(std::size_t slot = 1) { return session.DiagramDocuments.at(slot); }
     bool free(std::size_t slot = 1) { return session.DiagramStates.at(slot).Deleted; }
 };
@@ -27,10 +26,11 @@ TEST_F(DiagramDocuments, ReadingOpensACleanWindow) {
     EXPECT_EQ(session.ActiveWindow, &window());
     EXPECT_EQ(window().Tag, "1");
     EXPECT_EQ(window().Caption, "[DIAGRAM]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"Pots; bowls; jugs"}));
+    EXPECT_EQ(window().BottomText.Text, "Pots; bowls; jugs");
+    EXPECT_EQ(window().Siatka.Text(1, 1), "Third one");
     EXPECT_FALSE(session.DiagramStates[1].Dirty);
     EXPECT_EQ(window().Width, static_cast<int>(0.95 * screen.widthTwips));
-    EXPECT_EQ(log, (std::vector<std::string>{"classify 1"}));
+    EXPECT_TRUE(log.empty());
 }
 
 TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
@@ -94,7 +94,7 @@ TEST_F(DiagramDocuments, AnOlderFileOpensAfterARemarkAndCountsAsChanged) {
                                           .Icon = MessageIcon::Exclamation,
                                           .Title = "Dorvan"}));
     EXPECT_EQ(window().Caption, "[DIAGRAM]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"Old, pots"}));
+    EXPECT_EQ(window().BottomText.Text, "Old, pots");
     EXPECT_TRUE(session.DiagramStates[1].Dirty);
     EXPECT_EQ(document().DiagType, 3);
     EXPECT_EQ(document().DistType, 1);
@@ -226,7 +226,7 @@ TEST_F(DiagramDocuments, OpenLetsEventsRunAndUpdatesTheRecentFilesBeforeItReads)
                                          {{"dgr file (*.dgr)", "*.dgr"}, {"all (*.*)", "*.*"}},
                                          "",
                                          "program-folder"}}));
-    EXPECT_EQ(log, (std::vector<std::string>{"events", "recent " + path + " 0", "classify 1"}));
+    EXPECT_EQ(log, (std::vector<std::string>{"events", "recent " + path + " 0"}));
 }
 
 TEST_F(DiagramDocuments, OpenCancelledDoesNothing) {
@@ -247,7 +247,8 @@ TEST_F(DiagramDocuments, WhatIsReadIsWrittenAgain) {
     const auto again = [this](const std::string& name) {
         ReadDiagramFile(session, goldenFile(name));
         const auto slot = static_cast<std::size_t>(session.NewWindowIndex);
-        EXPECT_TRUE(WriteDiagramFile(session, folder / "f.dgr", document(slot), window(slot).presented[0]));
+        EXPECT_TRUE(
+            WriteDiagramFile(session, folder / "f.dgr", document(slot), window(slot).BottomText.Text));
         EXPECT_EQ(fileBytes(folder / "f.dgr"), golden(name));
     };
     again("diagram.dgr");

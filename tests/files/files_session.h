@@ -33,51 +33,16 @@ inline std::string with(std::string_view bytes, std::string_view piece, std::str
     return ReplaceAll(bytes, piece, other);
 }
 
-// A matrix or diagram window that remembers what it was given.
-class RecordingWindow : public ChildWindow {
-public:
-    RecordingWindow(Session& session, std::string name, std::string_view kind)
-        : ChildWindow(std::move(name)), session_(session), kind_(kind) {}
-
-    std::vector<std::string> presented;
-
-    // As the real windows: whatever sets the description marks the document changed.
-    void Present(const std::string& description) override {
-        presented.push_back(description);
-        auto& states = kind_ == DocumentKind::Matrix ? session_.MatrixStates : session_.DiagramStates;
-        states.at(std::size_t(Index)).Dirty = true;
-    }
-    void Form_Activate() override { TypeOfForm = kind_; }
-    void Form_Deactivate() override {}
-    void Form_Unload() override {}
-
-private:
-    Session& session_;
-    std::string kind_;
-};
-
-// A session with data windows, recording windows for the other kinds, a folder for files, and a log of the
-// commands that the openers reach through the command table.
+// A session with a folder for files, and a log of the commands that the openers reach through the command
+// table.
 class FilesSession : public ::testing::Test, protected TestSession {
 protected:
     TemporaryFolder folder;
     std::vector<std::string> log;
 
     FilesSession() {
-        session.windowMakers["DATA"] = [](Session& owner) { return std::make_shared<frmNotePad>(owner); };
-        session.windowMakers["MATRIX"] = [](Session& owner) {
-            return std::make_shared<RecordingWindow>(owner, "frmMacierz", DocumentKind::Matrix);
-        };
-        session.windowMakers["DIAGRAM"] = [](Session& owner) {
-            return std::make_shared<RecordingWindow>(owner, "frmDiagram", DocumentKind::Diagram);
-        };
         session.commands.Set("UpdateRecentFiles", [this](const CommandCall& call) {
             log.push_back(fmt::format("recent {} {}", call.Path, messages.shown.size() + windows()));
-        });
-        session.commands.Set("ClassifyDiagram", [this](const CommandCall& call) {
-            auto& document = session.DiagramDocuments.at(std::size_t(call.Index));
-            for (auto& cell : document.Classes.Cells()) cell = 5;
-            log.push_back(fmt::format("classify {}", call.Index));
         });
     }
     ~FilesSession() override { expectScriptsUsedUp(); }

@@ -1,3 +1,4 @@
+#include "distance/frmMacierz.h"
 #include "files/disk_limits.h"
 #include "files/files_session.h"
 #include "files/matrix_documents.h"
@@ -10,9 +11,7 @@ namespace dorvan::test {
 
 class MatrixDocuments : public FilesSession {
 protected:
-    RecordingWindow& window(std::size_t slot = 1) {
-        return dynamic_cast<RecordingWindow&>(*session.MatrixWindows.at(slot));
-    }
+    frmMacierz& window(std::int16_t slot = 1) { return MatrixWindow(session, slot); }
     DistanceMatrix& document(std::size_t slot = 1) { return session.MatrixDocuments.at(slot); }
     bool free(std::size_t slot = 1) { return session.MatrixStates.at(slot).Deleted; }
 };
@@ -24,7 +23,8 @@ TEST_F(MatrixDocuments, ReadingOpensACleanWindow) {
     EXPECT_EQ(session.ActiveWindow, &window());
     EXPECT_EQ(window().Tag, "1");
     EXPECT_EQ(window().Caption, "[MATRIX]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"as it stands"}));
+    EXPECT_EQ(window().BottomText.Text, "as it stands");
+    EXPECT_EQ(window().Siatka.Text(1, 4), "12345.680");
     EXPECT_EQ(document().Size, 3);
     EXPECT_EQ(document().Names(2), "Café");
     EXPECT_EQ(document().Cells(1, 3), "12345.68");
@@ -41,7 +41,8 @@ TEST_F(MatrixDocuments, AnOlderFileOpensAfterARemarkAndCountsAsChanged) {
                                           .Icon = MessageIcon::Exclamation,
                                           .Title = "Dorvan"}));
     EXPECT_EQ(window().Caption, "[MATRIX]: " + path);
-    EXPECT_EQ(window().presented, (std::vector<std::string>{"Old pots"}));
+    EXPECT_EQ(window().BottomText.Text, "Old pots");
+    EXPECT_EQ(window().Siatka.Text(1, 3), "0.123");
     EXPECT_EQ(document().Cells(1, 2), "0.1234567");
     EXPECT_TRUE(session.MatrixStates[1].Dirty);
     EXPECT_EQ(signals.cursors, (std::vector<Cursor>{Cursor::Wait, Cursor::Default}));
@@ -169,7 +170,7 @@ TEST_F(MatrixDocuments, WhatIsReadIsWrittenAgain) {
     session.DecimalSeparator = ',';
     session.codePage = CodePage(1250);
     ReadMatrixFile(session, goldenFile("matrix_comma.mtx"));
-    WriteMatrixFile(session, folder / "f.mtx", document(), window().presented[0]);
+    WriteMatrixFile(session, folder / "f.mtx", document(), window().BottomText.Text);
     EXPECT_EQ(fileBytes(folder / "f.mtx"), golden("matrix_comma.mtx"));
 }
 

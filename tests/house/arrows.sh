@@ -1,27 +1,58 @@
 #!/usr/bin/env bash
-# Includes between the rooms of src/ point downwards only, and no room but painting and desktop knows the toolkit.
+# Includes between the rooms point strictly upwards in the list of src/rooms.txt, the toolkit is known to painting
+# and desktop alone (the build sees to it that painting links no widgets), and each room has tests of its own name.
 set -euo pipefail
-cd "$(dirname "$0")/../../src"
+cd "$(dirname "$0")/../.."
 
-declare -A level=([numbers]=0 [platform]=1 [session]=2 [sheet]=3 [files]=4 [distance]=4 [making]=5 [view]=5
-    [import]=6 [export]=6 [print]=6 [program]=7 [painting]=7 [cli]=8 [desktop]=8)
+declare -A line_of
+number=0
+while read -r -a rooms; do
+    number=$((number + 1))
+    for room in "${rooms[@]}"; do line_of[$room]=$number; done
+done < <(grep -v '^#' src/rooms.txt)
+
 failed=0
 complain() { echo "$*" >&2; failed=1; }
 
-for room in */; do
-    room=${room%/}
-    [ -n "${level[$room]:-}" ] || { complain "src/$room has no place among the rooms"; continue; }
+check_includes() {
+    local room=$1 file line included target
     while IFS=: read -r file line included; do
         target=${included#*\"}
         target=${target%%/*}
-        [ -n "${level[$target]:-}" ] || { complain "$file:$line includes outside the rooms: $included"; continue; }
-        [ "${level[$target]}" -le "${level[$room]}" ] || complain "$file:$line points upwards: $included"
-        if [ "$target" != "$room" ] && [ "${level[$room]}" = 8 ] && [ "${level[$target]}" = 8 ]; then
-            complain "$file:$line: one face knows the other: $included"
+        [ "$target" != "$room" ] || continue
+        if [ -z "${line_of[$target]:-}" ]; then
+            complain "$file:$line includes from outside the rooms: $included"
+        elif [ "${line_of[$target]}" -ge "${line_of[$room]}" ]; then
+            complain "$file:$line: $room must not know $target: $included"
         fi
-    done < <(grep -rnE '^#include "' --include='*.h' --include='*.cpp' "$room" || true)
-    if [ "$room" != desktop ] && [ "$room" != painting ] && grep -rnE '#include <Q[A-Z]' --include='*.h' --include='*.cpp' "$room" >&2; then
-        complain "src/$room knows the toolkit"
+    done < <(grep -rnE '^ *#include "' --include='*.h' --include='*.cpp' "src/$room" || true)
+}
+
+check_toolkit() {
+    local room=$1
+    case $room in
+    painting | desktop) ;;
+    *)
+        ! grep -rnE '#include <Q[A-Z]' --include='*.h' --include='*.cpp' "src/$room" >&2 ||
+            complain "src/$room knows the toolkit" ;;
+    esac
+}
+
+for folder in src/*/; do
+    room=$(basename "$folder")
+    if [ -z "${line_of[$room]:-}" ]; then
+        complain "src/$room has no place in src/rooms.txt"
+        continue
     fi
+    check_includes "$room"
+    check_toolkit "$room"
+    [ -d "tests/$room" ] || complain "src/$room has no tests/$room"
+done
+for folder in tests/*/; do
+    room=$(basename "$folder")
+    case $room in
+    house | support) ;;
+    *) [ -n "${line_of[$room]:-}" ] || complain "tests/$room mirrors no room" ;;
+    esac
 done
 exit $failed

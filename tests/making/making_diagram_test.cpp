@@ -9,6 +9,7 @@
 #include "sheet/frmNotePad.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
+#include "view/frmDiagram.h"
 
 #include <gtest/gtest.h>
 
@@ -24,37 +25,6 @@ using Texts = std::vector<std::string>;
 using Floats = std::vector<float>;
 using Rows = std::vector<Texts>; // a record's name, then its cells
 
-// A diagram window without a picture: what it was told, and how things stood then.
-struct PlainDiagramWindow : ChildWindow {
-    explicit PlainDiagramWindow(Session& owner) : ChildWindow("frmDiagram"), session(owner) {}
-
-    Session& session;
-    std::string description;
-    std::string captionAtPresent;
-    std::string tagAtPresent;
-    std::int16_t countAtLoad = 0;
-    std::int32_t busyAtLoad = -1;
-    int presented = 0;
-    bool dirtyAtPresent = false;
-    bool visibleAtPresent = true;
-
-    void Form_Load() override {
-        countAtLoad = session.DiagramDocuments.at(std::size_t(Index)).RecCount;
-        busyAtLoad = session.DiagramBusy;
-    }
-    void Present(const std::string& text) override {
-        ++presented;
-        description = text;
-        captionAtPresent = Caption;
-        tagAtPresent = Tag;
-        dirtyAtPresent = session.DiagramStates.at(std::size_t(Index)).Dirty;
-        visibleAtPresent = Visible;
-    }
-    void Form_Activate() override { TypeOfForm = DocumentKind::Diagram; }
-    void Form_Deactivate() override {}
-    void Form_Unload() override { session.DiagramStates.at(std::size_t(Index)).Deleted = true; }
-};
-
 template <class T> Array1<T> ArrayOf(std::vector<T> values) {
     Array1<T> array;
     array.Cells() = std::move(values);
@@ -63,17 +33,10 @@ template <class T> Array1<T> ArrayOf(std::vector<T> values) {
 
 class MakingDiagram : public ::testing::Test, public test::TestSession {
 protected:
-    MakingDiagram() {
-        session.windowMakers["DATA"] = [](Session& owner) { return std::make_shared<frmNotePad>(owner); };
-        session.windowMakers["MATRIX"] = [](Session& owner) { return std::make_shared<frmMacierz>(owner); };
-        session.windowMakers["DIAGRAM"] = [](Session& owner) {
-            return std::make_shared<PlainDiagramWindow>(owner);
-        };
-    }
-
     frmNotePad& OpenSheet(const Rows& rows, const std::string& description = "a sheet") {
         session.NewWindowIndex = FindFreeDataSlot(session);
-        auto& sheet = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
+        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
+        auto& sheet = DataWindow(session, session.NewWindowIndex);
         const int variables = static_cast<int>(rows.empty() ? 0 : rows[0].size() - 1);
         sheet.LayOut(static_cast<int>(rows.size()), variables);
         for (int v = 1; v <= variables; ++v) sheet.Grid1.SetText(0, v + 1, "var" + std::to_string(v));
@@ -99,7 +62,8 @@ protected:
             for (std::int16_t j = 1; j <= n; ++j)
                 matrix.Cells(i, j) = rows[std::size_t(i - 1)].at(std::size_t(j));
         }
-        auto& window = dynamic_cast<frmMacierz&>(CreateChildWindow(session, DocumentKind::Matrix));
+        PutIntoRegistry(session, DocumentKind::Matrix, std::make_shared<frmMacierz>(session));
+        auto& window = MatrixWindow(session, slot);
         window.BottomText.Text = description;
         ShowChild(session, window);
         session.DiagramFromMatrix = true;
@@ -130,9 +94,7 @@ protected:
     }
 
     DiagramDocument& Document(std::size_t slot = 1) { return session.DiagramDocuments.at(slot); }
-    PlainDiagramWindow& Window(std::size_t slot = 1) {
-        return dynamic_cast<PlainDiagramWindow&>(*session.DiagramWindows.at(slot));
-    }
+    frmDiagram& Window(std::int16_t slot = 1) { return DiagramWindow(session, slot); }
     bool AnyDiagram() const { return session.DiagramWindows.at(1) != nullptr; }
 
     static Rows Line(std::int32_t count) {
@@ -549,13 +511,10 @@ TEST_F(MakingDiagram, WindowIsMadePresentedAndShown) {
     EXPECT_EQ(window.Tag, "1");
     EXPECT_EQ(window.Index, 1);
     EXPECT_EQ(session.NewWindowIndex, 1);
-    EXPECT_EQ(window.countAtLoad, 5);
-    EXPECT_EQ(window.busyAtLoad, 0);
-    EXPECT_EQ(window.presented, 1);
-    EXPECT_EQ(window.description, "what it is about");
-    EXPECT_EQ(window.captionAtPresent, "[DIAGRAM]: Untitled:1");
-    EXPECT_EQ(window.tagAtPresent, "1");
-    EXPECT_FALSE(window.visibleAtPresent);
+    EXPECT_EQ(window.BottomText.Text, "what it is about");
+    EXPECT_EQ(window.Siatka.Rows(), 6);
+    EXPECT_EQ(window.Siatka.Columns(), 7);
+    EXPECT_EQ(window.RowOrder.Count(), 5);
     EXPECT_TRUE(session.DiagramStates.at(1).Dirty);
     EXPECT_FALSE(session.DiagramStates.at(1).Deleted);
     EXPECT_TRUE(window.Visible);
@@ -581,7 +540,7 @@ TEST_F(MakingDiagram, DescriptionOfAMatrixIsThatOfItsWindow) {
     Options();
     MakeDiagram(session);
     EXPECT_EQ(Document().RecCount, 5);
-    EXPECT_EQ(Window().description, "second");
+    EXPECT_EQ(Window().BottomText.Text, "second");
 }
 
 TEST_F(MakingDiagram, ClosedSlotIsUsedAgain) {
@@ -598,7 +557,7 @@ TEST_F(MakingDiagram, ClosedSlotIsUsedAgain) {
     MakeDiagram(session);
     EXPECT_EQ(session.DiagramWindows.size(), 3u);
     EXPECT_EQ(Window(1).Caption, "[DIAGRAM]: Untitled:1");
-    EXPECT_EQ(Window(1).presented, 1);
+    EXPECT_EQ(Window(1).Siatka.Rows(), 6);
     EXPECT_TRUE(Window(1).Visible);
 }
 
@@ -693,7 +652,7 @@ TEST_F(MakingDiagramMeanwhile, AClickOnAMatrixLeavesTheDiagramTheSheetsDescripti
         sheet.OpisText.Text = "written during the search";
     });
     ExpectReversedSheet();
-    EXPECT_EQ(Window().description,
+    EXPECT_EQ(Window().BottomText.Text,
               "written during the search"); // that of the window, when the search has ended
     ASSERT_EQ(session.Children.size(), 3u);
     EXPECT_EQ(session.Children[1].get(), &sheet); // brought to the front before the diagram came
@@ -704,7 +663,7 @@ TEST_F(MakingDiagramMeanwhile, AClickOnASheetLeavesTheDiagramTheMatrixsDescripti
     auto& sheet = OpenSheet(Line(3), "of the sheet");
     OpenMatrix(ZigzagMatrix, "of the matrix");
     MakeWith([&] { ActivateChild(session, sheet); });
-    EXPECT_EQ(Window().description, "of the matrix");
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
     EXPECT_EQ(Document().Matrix(1, 2), 9);
 }
 
@@ -716,7 +675,7 @@ TEST_F(MakingDiagramMeanwhile, AClosedSheetIsUsedAsItStoodAtTheStart) {
         LoadAnother();
     });
     ExpectReversedSheet();
-    EXPECT_EQ(Window().description, "of the sheet");
+    EXPECT_EQ(Window().BottomText.Text, "of the sheet");
 }
 
 TEST_F(MakingDiagramMeanwhile, AClosedMatrixIsUsedAsItStoodAtTheStart) {
@@ -727,7 +686,7 @@ TEST_F(MakingDiagramMeanwhile, AClosedMatrixIsUsedAsItStoodAtTheStart) {
         LoadAnother();
         session.DiagramFromMatrix = true;
     });
-    EXPECT_EQ(Window().description, "of the matrix");
+    EXPECT_EQ(Window().BottomText.Text, "of the matrix");
     EXPECT_EQ(Document().RecordNames, ArrayOf<std::string>({"a", "b", "c", "d", "e"}));
     EXPECT_EQ(Document().Matrix(1, 2), 9);
     EXPECT_EQ(Document().Matrix.Rows(), 5);

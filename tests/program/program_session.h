@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace dorvan::test {
@@ -22,7 +23,8 @@ protected:
     frmNotePad& NewSheet() {
         auto& session = made.session;
         session.NewWindowIndex = FindFreeDataSlot(session);
-        auto& window = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
+        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
+        auto& window = DataWindow(session, session.NewWindowIndex);
         session.RecordNames = Names(3);
         session.VariableNames = Names(2);
         session.DataValues = FloatTable(3, 2);

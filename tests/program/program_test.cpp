@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "program/registering.h"
 #include "session/frmMDI.h"
 #include "support/test_platform.h"
 
@@ -12,8 +13,8 @@
 namespace dorvan::test {
 namespace {
 
-// The operations that a command names and that are not built yet. Whoever builds one registers it in
-// program/program.cpp and takes its line out here; the test below fails until both are done.
+// The operations that a command names and that are not built yet. Whoever builds one registers it in its
+// room's file of src/program and takes its line out here; the test below fails until both are done.
 constexpr const char* NotBuiltYet[] = {
     // Structure of a sheet, standardization
     "AddRecord",
@@ -65,6 +66,23 @@ TEST(Compose, EveryOperationThatACommandNamesIsRegisteredOrKnownToBeMissing) {
     }
     for (const auto* operation : NotBuiltYet)
         EXPECT_TRUE(test.session.commands.Operations().contains(operation)) << operation;
+}
+
+TEST(Register, PassesThePathOrTheNumberThatAnOperationTakes) {
+    static std::string calls;
+    calls.clear();
+    TestSession test;
+    Register(
+        test.session, "LoadRecentFiles", +[](Session&) { calls += "load;"; });
+    Register(
+        test.session, "UpdateRecentFiles", +[](Session&, const std::string& path) { calls += path; });
+    Register(
+        test.session, "OpenRecentFile",
+        +[](Session&, std::int16_t number) { calls += ";" + std::to_string(number); });
+    test.session.commands.Call("LoadRecentFiles");
+    test.session.commands.Call("UpdateRecentFiles", {.Index = 0, .Path = "a.mdt"});
+    test.session.commands.Call("OpenRecentFile", {.Index = 3, .Path = {}});
+    EXPECT_EQ(calls, "load;a.mdt;3");
 }
 
 } // namespace

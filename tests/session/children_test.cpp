@@ -87,21 +87,17 @@ TEST(CloseChild, OfAClosedWindowDoesNothing) {
 
 TEST(CloseChild, UnloadsOnceWhenTheWindowClosesWhileItsQuestionStands) {
     struct ClosesItself : FakeWindow {
-        using FakeWindow::FakeWindow;
-        Session* session = nullptr;
+        ClosesItself(Session& session, std::string_view kind, Log& log)
+            : FakeWindow(session, kind, log), owner(session) {}
+        Session& owner;
         bool asked = false;
         bool Form_QueryUnload() override {
-            if (!std::exchange(asked, true)) CloseChild(*session, *this);
+            if (!std::exchange(asked, true)) CloseChild(owner, *this);
             return true;
         }
     };
     FakeWindowSession test;
-    test.session.windowMakers[std::string(DocumentKind::Data)] = [&](Session& owner) {
-        auto window = std::make_shared<ClosesItself>(owner, DocumentKind::Data, test.log);
-        window->session = &owner;
-        return window;
-    };
-    auto& window = test.Open(DocumentKind::Data);
+    auto& window = test.Open<ClosesItself>(DocumentKind::Data);
     test.log.clear();
     EXPECT_TRUE(CloseChild(test.session, window));
     EXPECT_EQ(test.log, (Log{"deactivate [DATA]: Untitled:1", "unload [DATA]: Untitled:1"}));

@@ -27,7 +27,6 @@ public:
         return !Asks || AskToSave(session_, "data", Caption, MessageIcon::Exclamation) != Answer::Cancel;
     }
     void Form_Unload() override { log_.push_back("unload " + Caption); }
-    void Present(const std::string&) override {}
 
 private:
     Session& session_;
@@ -39,24 +38,14 @@ private:
 struct FakeWindowSession : TestSession {
     std::vector<std::string> log;
 
-    FakeWindowSession() {
-        for (const auto kind :
-             {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram, DocumentKind::Bitmap})
-            session.windowMakers[std::string(kind)] = [this, kind](Session& owner) {
-                return std::make_shared<FakeWindow>(owner, kind, log);
-            };
-    }
-
     // Opens an untitled window of the kind, as its openers do.
-    FakeWindow& Open(std::string_view kind) {
-        session.NewWindowIndex = kind == DocumentKind::Data      ? FindFreeDataSlot(session)
-                                 : kind == DocumentKind::Matrix  ? FindFreeMatrixSlot(session)
-                                 : kind == DocumentKind::Diagram ? FindFreeDiagramSlot(session)
-                                                                 : FindFreeBitmapSlot(session);
-        auto& window = dynamic_cast<FakeWindow&>(CreateChildWindow(session, kind));
-        window.Caption = UntitledCaption(kind, window.Index);
-        ShowChild(session, window);
-        return window;
+    template <class Window = FakeWindow> Window& Open(std::string_view kind) {
+        session.NewWindowIndex = FindFreeSlot(session, kind);
+        const auto window = std::make_shared<Window>(session, kind, log);
+        PutIntoRegistry(session, kind, window);
+        window->Caption = UntitledCaption(kind, window->Index);
+        ShowChild(session, *window);
+        return *window;
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "fake_window.h"
 #include "numbers/runtime_failure.h"
+#include "support/expect_failure.h"
 
 #include <gtest/gtest.h>
 
@@ -108,21 +109,51 @@ TEST(AnyDataWindowOpen, LooksAtTheDataSlotsFromOneUp) {
     EXPECT_FALSE(AnyDataWindowOpen(test.session));
 }
 
-TEST(CreateChildWindow, HandsTheSlotIndexToTheWindow) {
+TEST(PutIntoRegistry, HandsTheSlotIndexToTheWindow) {
     FakeWindowSession test;
     test.session.DataStates.resize(4);
     test.session.DataWindows.resize(4);
     test.session.NewWindowIndex = 3;
-    auto& window = CreateChildWindow(test.session, DocumentKind::Data);
-    EXPECT_EQ(window.Index, 3);
-    EXPECT_EQ(window.Tag, "3");
-    EXPECT_EQ(window.TypeOfForm, "") << "set from the first activation on";
-    EXPECT_EQ(test.session.DataWindows[3].get(), &window);
+    const auto window = std::make_shared<FakeWindow>(test.session, DocumentKind::Data, test.log);
+    PutIntoRegistry(test.session, DocumentKind::Data, window);
+    EXPECT_EQ(window->Index, 3);
+    EXPECT_EQ(window->Tag, "3");
+    EXPECT_EQ(window->TypeOfForm, "") << "set from the first activation on";
+    EXPECT_EQ(test.session.DataWindows[3], window);
 }
 
-TEST(CreateChildWindow, FailsForAKindWithoutAMaker) {
+TEST(PutIntoRegistry, FailsForASlotThatIsNotThereAndForNoKind) {
+    FakeWindowSession test;
+    const auto window = std::make_shared<FakeWindow>(test.session, DocumentKind::Data, test.log);
+    for (const int slot : {-1, 0, 2}) {
+        test.session.NewWindowIndex = static_cast<std::int16_t>(slot);
+        EXPECT_FAILURE(Failure::SubscriptOutOfRange,
+                       PutIntoRegistry(test.session, DocumentKind::Data, window));
+    }
+    test.session.NewWindowIndex = 1;
+    EXPECT_FAILURE(Failure::InvalidProcedureCall, PutIntoRegistry(test.session, DocumentKind::Main, window));
+}
+
+TEST(StateOfSlot, IsTheOneOfItsKind) {
     TestSession test;
-    EXPECT_THROW(CreateChildWindow(test.session, DocumentKind::Data), RuntimeFailure);
+    auto& session = test.session;
+    EXPECT_EQ(&StateOfSlot(session, DocumentKind::Data, 1), &session.DataStates[1]);
+    EXPECT_EQ(&StateOfSlot(session, DocumentKind::Matrix, 1), &session.MatrixStates[1]);
+    EXPECT_EQ(&StateOfSlot(session, DocumentKind::Diagram, 1), &session.DiagramStates[1]);
+    EXPECT_EQ(&StateOfSlot(session, DocumentKind::Bitmap, 1), &session.BitmapStates[1]);
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, StateOfSlot(session, DocumentKind::Data, 2));
+    EXPECT_FAILURE(Failure::InvalidProcedureCall, StateOfSlot(session, DocumentKind::Main, 1));
+}
+
+TEST(FindFreeSlot, IsTheOneOfItsKind) {
+    TestSession test;
+    for (const auto kind :
+         {DocumentKind::Data, DocumentKind::Matrix, DocumentKind::Diagram, DocumentKind::Bitmap}) {
+        EXPECT_EQ(FindFreeSlot(test.session, kind), 1) << kind;
+        EXPECT_FALSE(StateOfSlot(test.session, kind, 1).Deleted) << kind;
+        EXPECT_EQ(FindFreeSlot(test.session, kind), 2) << kind;
+    }
+    EXPECT_FAILURE(Failure::InvalidProcedureCall, FindFreeSlot(test.session, DocumentKind::Main));
 }
 
 TEST(UntitledCaption, IsTheKindAndTheSlot) {

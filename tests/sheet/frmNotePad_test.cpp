@@ -184,7 +184,8 @@ TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
     session.DataValues(2, 1) = -12.3456f;
     session.DataValues(2, 2) = 1000.0f;
     session.NewWindowIndex = FindFreeDataSlot(session);
-    auto& window = dynamic_cast<frmNotePad&>(CreateChildWindow(session, DocumentKind::Data));
+    PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
+    auto& window = DataWindow(session, session.NewWindowIndex);
     window.Present("two places");
     const char* const cells[3][4] = {{"Number", "Record Name", "length", "width"},
                                      {" 1", "Biskupin", "1.500", "N/A"},

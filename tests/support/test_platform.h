@@ -45,6 +45,7 @@ public:
 class RecordingChildren : public ChildDisplay {
 public:
     std::vector<std::string> log; // "show [DATA]: Untitled:1", "close ...", "arrange 1"
+    bool memoryEnds = false;      // at the next showing
     void show(ChildWindow& window) override;
     void update(ChildWindow& window) override;
     void close(ChildWindow& window) override;
@@ -116,8 +117,17 @@ struct TestPlatform {
     ManualClock clock;
     MemorySettings settings;
     RecordingHelp help;
-    Platform platform{messages, files,  forms, children, signals, events,
-                      keyboard, screen, clock, settings, help};
+    Platform platform{.messages = messages,
+                      .files = files,
+                      .forms = forms,
+                      .children = children,
+                      .signals = signals,
+                      .events = events,
+                      .keyboard = keyboard,
+                      .screen = screen,
+                      .clock = clock,
+                      .settings = settings,
+                      .help = help};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;

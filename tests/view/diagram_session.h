@@ -41,18 +41,13 @@ inline DiagramDocument SampleDocument(int count) {
 
 // A session that can open diagram windows.
 struct DiagramSession : TestSession {
-    DiagramSession() {
-        session.windowMakers[std::string(DocumentKind::Diagram)] = [](Session& owner) {
-            return std::make_shared<frmDiagram>(owner);
-        };
-    }
-
     frmDiagram& Open(DiagramDocument document, const std::string& description = "") {
         const std::int16_t slot = FindFreeDiagramSlot(session);
         session.NewWindowIndex = slot;
         ClassifyDiagram(document);
         session.DiagramDocuments.at(std::size_t(slot)) = std::move(document);
-        auto& window = dynamic_cast<frmDiagram&>(CreateChildWindow(session, DocumentKind::Diagram));
+        PutIntoRegistry(session, DocumentKind::Diagram, std::make_shared<frmDiagram>(session));
+        auto& window = DiagramWindow(session, slot);
         window.Caption = UntitledCaption("DIAGRAM", slot);
         window.Present(description);
         return window;

@@ -332,34 +332,5 @@ TEST(DiagramResize, OnlyANormalWindowSnapsAndNoneWithoutAnActiveOne) {
     }
 }
 
-TEST(DiagramResize, TheGridFillsWhatTheDescriptionLeaves) {
-    DiagramSession at;
-    auto& window = at.Open(2);
-    window.BottomTextLeft = 1000;
-    window.ScaleWidth = 9000;
-    window.ScaleHeight = 5000;
-    window.Form_Resize();
-    EXPECT_EQ(window.SiatkaBounds.Left, 0);
-    EXPECT_EQ(window.SiatkaBounds.Top, 390);
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    EXPECT_EQ(window.SiatkaBounds.Height, 4610);
-    EXPECT_EQ(window.BottomTextWidth, 7900);
-    EXPECT_TRUE(window.Siatka.Visible);
-
-    window.ScaleHeight = 0; // nothing to lay out
-    window.ScaleWidth = 1;
-    window.Form_Resize();
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    window.Mode = WindowMode::Minimized;
-    window.ScaleHeight = 100;
-    window.Form_Resize();
-    EXPECT_EQ(window.SiatkaBounds.Width, 9000);
-    window.Mode = WindowMode::Maximized; // lengths do not fall below 0
-    window.Form_Resize();
-    EXPECT_EQ(window.SiatkaBounds.Width, 1);
-    EXPECT_EQ(window.SiatkaBounds.Height, 0);
-    EXPECT_EQ(window.BottomTextWidth, 0);
-}
-
 } // namespace
 } // namespace dorvan::test

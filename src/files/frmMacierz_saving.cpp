@@ -2,14 +2,12 @@
 
 #include "files/file_dialogs.h"
 #include "files/matrix_documents.h"
+#include "session/busy.h"
 
 namespace dorvan {
 
 void frmMacierz::SaveMatrix(const std::string& path) {
-    if (session_.DiagramBusy == 1) {
-        session_.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session_)) return;
     const std::string target =
         path.empty() ? PickFileToSave(session_, MatrixFileFilters(), " - Save matrix As", "*.mtx") : path;
     if (!target.empty()) SaveMatrixNew(target);

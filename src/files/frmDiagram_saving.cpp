@@ -3,11 +3,12 @@
 #include "files/diagram_documents.h"
 #include "files/file_dialogs.h"
 #include "numbers/text.h"
+#include "session/busy.h"
 
 namespace dorvan {
 
 void frmDiagram::SaveDiagram(const std::string& path) {
-    if (IsBusy()) return;
+    if (RefusedWhileBusy(session_)) return;
     const std::string target =
         path.empty() ? PickFileToSave(session_, DiagramFileSaveFilters(), " - Save diagram As", "") : path;
     if (target.empty()) return;

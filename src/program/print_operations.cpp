@@ -1,0 +1,7 @@
+#include "program/registering.h"
+
+namespace dorvan {
+
+void RegisterPrintOperations(Session&) {}
+
+} // namespace dorvan
