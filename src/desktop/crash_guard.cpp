@@ -66,8 +66,9 @@ void OnCrash(int number) {
     ::raise(number); // as soon as the handler returns
 }
 
+// Once: a crash on the way out has nothing left to save.
 void OnExit() {
-    if (rescueInForce) (*rescueInForce)();
+    if (const auto* rescue = std::exchange(rescueInForce, nullptr)) (*rescue)();
 }
 
 } // namespace
