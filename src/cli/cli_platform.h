@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/drawn_text.h"
 #include "cli/requests.h"
 #include "platform/platform.h"
 
@@ -32,6 +33,7 @@ public:
     Choices choices;
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
+    DrawnText text;
 
     Platform platform{.messages = *this,
                       .files = *this,

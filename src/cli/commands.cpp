@@ -2,7 +2,6 @@
 
 #include "cli/cli_platform.h"
 #include "cli/information.h"
-#include "cli/picture.h"
 #include "distance/frmMacierz.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
@@ -85,6 +84,14 @@ void Save(Run& run, const std::string& path) {
     if (!run.session.SilentFailure.empty()) throw SaveFailure(path + ": " + run.session.SilentFailure);
 }
 
+void Write(const std::string& path, const std::string& bytes) {
+    try {
+        ReplaceFile(path, bytes);
+    } catch (const FileError& error) {
+        throw SaveFailure(fmt::format("{}: {}", path, error.what()));
+    }
+}
+
 // Does the work and tells a failure in one line that names the file.
 template <class Work> int Reported(const std::string& file, const Work& work) {
     std::string reason;
@@ -145,18 +152,15 @@ int RunInfo(const std::string& file, const Surroundings& surroundings) {
     });
 }
 
-int RunPicture(const std::string& diagram, const std::string& out, const Surroundings& surroundings) {
+int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
+               const Surroundings& surroundings) {
     return Reported(diagram, [&] {
         Run run({}, surroundings);
         Open(run, diagram, {DocumentKind::Diagram});
-        auto& window = DiagramWindow(run.session, run.session.ActiveWindow->Index);
-        const auto picture =
-            DiagramSvg(window.Document(), window.BottomText.Text, run.session.DecimalSeparator);
-        try {
-            ReplaceFile(out, picture);
-        } catch (const FileError& error) {
-            throw SaveFailure(fmt::format("{}: {}", out, error.what()));
-        }
+        const auto& document = DiagramWindow(run.session, run.session.ActiveWindow->Index).Document();
+        const Drawing drawing = PictureOf(document, choices, run.ports.text, run.session.DecimalSeparator);
+        run.ports.text.StartToolkit();
+        Write(out, PictureBytes(drawing, out, choices.scale));
     });
 }
 

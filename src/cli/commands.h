@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/picture.h"
 #include "cli/requests.h"
 
 #include <string>
@@ -14,6 +15,7 @@ int RunDiagram(const std::string& input, const std::string& out, const Choices& 
                const Surroundings& surroundings);
 int RunConvert(const std::string& in, const std::string& out, const Surroundings& surroundings);
 int RunInfo(const std::string& file, const Surroundings& surroundings);
-int RunPicture(const std::string& diagram, const std::string& out, const Surroundings& surroundings);
+int RunPicture(const std::string& diagram, const std::string& out, const PictureChoices& choices,
+               const Surroundings& surroundings);
 
 } // namespace dorvan::cli

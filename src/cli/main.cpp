@@ -31,6 +31,7 @@ struct Arguments {
     std::string input;
     std::string output;
     Choices choices;
+    PictureChoices picture;
     Surroundings surroundings;
 };
 
@@ -158,21 +159,35 @@ void AddInfo(CLI::App& app, Arguments& arguments) {
     command->footer("Example:\n  dorvan-cli info USArrests.dgr");
 }
 
+const auto IsPicture = CLI::Validator(
+    [](std::string& path) { return IsPictureName(path) ? std::string() : "no .svg, .pdf or .png: " + path; },
+    "");
+
 void AddPicture(CLI::App& app, Arguments& arguments) {
-    auto* command = app.add_subcommand("picture", "Draw a diagram as a scalable picture (SVG)");
+    auto* command = app.add_subcommand("picture", "Draw a diagram, or a graph of it");
     command->add_option("DIAGRAM", arguments.input, "diagram (.dgr)")->required();
-    command->add_option("OUT", arguments.output, "picture to write (.svg)")->required();
+    command->add_option("OUT", arguments.output, "picture to write (.svg, .pdf or .png)")
+        ->required()
+        ->check(IsPicture);
+    command->add_option("--what", arguments.picture.what, "diagram, histogram or linear (diagram)")
+        ->check(CLI::IsMember({"diagram", "histogram", "linear"}));
+    command->add_flag("--cumulative", arguments.picture.cumulative, "running sums in the histogram");
+    command->add_option("--scale", arguments.picture.scale, "times the size on a screen, 0.1 to 16 (1)")
+        ->check(CLI::Range(0.1, 16.0));
     AddCodePage(*command, arguments);
-    command->footer("Example:\n  dorvan-cli picture USArrests.dgr USArrests.svg");
+    command->footer("Examples:\n"
+                    "  dorvan-cli picture USArrests.dgr USArrests.svg\n"
+                    "  dorvan-cli picture USArrests.dgr USArrests.png --scale 2\n"
+                    "  dorvan-cli picture USArrests.dgr sections.pdf --what histogram --cumulative");
 }
 
 int Run(const CLI::App& app, const Arguments& arguments) {
-    const auto& [input, output, choices, surroundings] = arguments;
+    const auto& [input, output, choices, picture, surroundings] = arguments;
     if (app.got_subcommand("matrix")) return RunMatrix(input, output, choices, surroundings);
     if (app.got_subcommand("diagram")) return RunDiagram(input, output, choices, surroundings);
     if (app.got_subcommand("convert")) return RunConvert(input, output, surroundings);
     if (app.got_subcommand("info")) return RunInfo(input, surroundings);
-    return RunPicture(input, output, surroundings);
+    return RunPicture(input, output, picture, surroundings);
 }
 
 } // namespace

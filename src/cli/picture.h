@@ -1,13 +1,27 @@
 #pragma once
 
+#include "platform/drawing_ports.h"
 #include "session/documents.h"
 
 #include <string>
+#include <string_view>
 
+// The picture of a diagram, for a file.
 namespace dorvan::cli {
 
-// A diagram as a scalable picture (SVG 1.1, UTF-8): numbers and names along the edge, a symbol of 16 units
-// for each pair, the description above and a legend of the five sections below.
-std::string DiagramSvg(const DiagramDocument& diagram, const std::string& description, char decimalSeparator);
+struct PictureChoices {
+    std::string what = "diagram"; // or "histogram", "linear"
+    bool cumulative = false;      // histogram only
+    double scale = 1;             // of the screen's size
+};
+
+// ".svg", ".pdf" or ".png", in any case of letters.
+bool IsPictureName(const std::string& path);
+
+Drawing PictureOf(const DiagramDocument& diagram, const PictureChoices& choices, TextMeasure& measure,
+                  char decimalSeparator);
+
+// The bytes of the format that the path asks for. Needs the toolkit started.
+std::string PictureBytes(const Drawing& drawing, const std::string& path, double scale);
 
 } // namespace dorvan::cli

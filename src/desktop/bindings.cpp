@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -63,6 +64,8 @@ int KeyCodeOf(const QKeyEvent& event) {
     case Qt::Key_Down: return key::Down;
     case Qt::Key_Home: return key::Home;
     case Qt::Key_End: return key::End;
+    case Qt::Key_PageUp: return key::PageUp;
+    case Qt::Key_PageDown: return key::PageDown;
     case Qt::Key_F2: return key::F2;
     default: return key::None;
     }
@@ -85,6 +88,16 @@ int CharacterOf(const QKeyEvent& event) {
     if (characters.size() != 1 || !QChar::isPrint(characters.front())) return key::None;
     return static_cast<int>(characters.front());
 }
+
+namespace {
+
+// Not another program, and not a message box: those leave the focus where it is, as the windows see it.
+bool AnotherWindowTookIt(const QWidget& field) {
+    const QWidget* active = QApplication::activeWindow();
+    return active && active != field.window() && !qobject_cast<const QMessageBox*>(active);
+}
+
+} // namespace
 
 Bindings::Bindings(Form& form, EventDispatch& dispatch, QWidget* root)
     : QObject(root), form_(&form), dispatch_(dispatch), root_(root) {
@@ -138,12 +151,14 @@ void Bindings::Field(QLineEdit* field, TextBox& control, const QString& accessib
     });
     mirrors_.push_back([field, &control] {
         const QSignalBlocker blocker(field);
-        // Even the same length would take the selection away.
-        const int longest = control.MaxLength > 0 ? control.MaxLength : LongestText;
+        const QString text = dorvan::ToQt(control.Text);
+        // Even the same length would take the selection away. A longer text that stands there is not cut: the
+        // length is the limit of what is typed.
+        const int longest =
+            std::max(control.MaxLength > 0 ? control.MaxLength : LongestText, int(text.size()));
         if (field->maxLength() != longest) field->setMaxLength(longest);
         if (field->alignment() != ToQt(control.TextAlignment))
             field->setAlignment(ToQt(control.TextAlignment));
-        const QString text = dorvan::ToQt(control.Text);
         if (field->text() == text) return;
         field->setText(text);
         const int start = UnitsBefore(text, control.SelStart);
@@ -264,15 +279,12 @@ void Bindings::Mirror() {
     for (std::size_t place = 0; form_ && place < mirrors_.size(); ++place) mirrors_[place]();
     MirrorFocus();
     mirroring_ = false;
-    if (form_ && root_->focusWidget()) FocusIn(root_->focusWidget());
+    QWidget* focus = root_->focusWidget();
+    if (form_ && focus && focus->isVisibleTo(root_)) FocusIn(focus, Qt::OtherFocusReason);
 }
 
 void Bindings::MirrorFocus() {
-    if (!active_ || active_()) PlaceFocus();
-}
-
-void Bindings::PlaceFocus() {
-    if (!form_ || !form_->ActiveControl) return;
+    if (!form_ || !form_->ActiveControl || (active_ && !active_())) return;
     QWidget* wanted = WidgetOf(form_->ActiveControl);
     if (wanted && wanted->isVisibleTo(root_) && wanted->isEnabledTo(root_) && root_->focusWidget() != wanted)
         wanted->setFocus(Qt::OtherFocusReason);
@@ -287,22 +299,22 @@ void Bindings::Detach() {
     }
 }
 
-void Bindings::FocusIn(QWidget* widget) {
-    if (mirroring_) return;
+// A window that comes to the front has its focus where it was; the toolkit may have chosen another widget.
+void Bindings::FocusIn(QWidget* widget, Qt::FocusReason reason) {
+    if (mirroring_ || (active_ && !active_() && reason != Qt::MouseFocusReason)) return;
     for (const auto& [bound, control] : widgets_)
         if (bound == widget) form_->ActiveControl = control;
 }
 
 void Bindings::FocusOut(QWidget* widget, Qt::FocusReason reason) {
-    // An open menu or another program in front leaves the focus where it is, as the windows see it.
+    // An open menu leaves the focus where it is.
     if (reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) return;
     const auto field = fields_.find(widget);
     if (field == fields_.end()) return;
     if (!mirroring_) field->second.read();
     dispatch_.Later(this, [this, widget, reason] {
         if (!form_ || widget->hasFocus()) return; // it came back at once
-        const QWidget* active = QApplication::activeWindow();
-        if (reason == Qt::ActiveWindowFocusReason && (!active || active == widget->window())) return;
+        if (reason == Qt::ActiveWindowFocusReason && !AnotherWindowTookIt(*widget)) return;
         if (const auto& lostFocus = fields_.at(widget).events.lostFocus) lostFocus();
     });
 }
@@ -331,7 +343,7 @@ bool Bindings::eventFilter(QObject* watched, QEvent* event) {
     if (!form_ || passing_) return false;
     auto* widget = static_cast<QWidget*>(watched);
     switch (event->type()) {
-    case QEvent::FocusIn: FocusIn(widget); return false;
+    case QEvent::FocusIn: FocusIn(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::KeyPress: {
         const auto field = fields_.find(watched);

@@ -65,9 +65,6 @@ public:
 
     void Mirror();
 
-    // The control that has the focus in the form's state gets it once its window comes up.
-    void PlaceFocus();
-
     // The form is about to go: nothing is forwarded or mirrored any more.
     void Detach();
     bool Attached() const { return form_ != nullptr; }
@@ -89,7 +86,7 @@ private:
     void Name(QWidget* widget, const Control& control, const QString& accessibleName);
     void Forward(const Handler& handler);
     bool KeyToField(Field_& field, QObject* watched, QKeyEvent& event);
-    void FocusIn(QWidget* widget);
+    void FocusIn(QWidget* widget, Qt::FocusReason reason);
     void FocusOut(QWidget* widget, Qt::FocusReason reason);
 
     Form* form_;

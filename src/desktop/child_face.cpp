@@ -2,6 +2,7 @@
 
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
+#include "platform/twips.h"
 #include "session/children.h"
 
 #include <QCloseEvent>
@@ -10,14 +11,6 @@
 #include <utility>
 
 namespace dorvan {
-
-namespace {
-
-constexpr int TwipsPerPixel = 15;
-
-int Pixels(int twips) { return (twips + TwipsPerPixel / 2) / TwipsPerPixel; }
-
-} // namespace
 
 ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispatch)
     : session_(session), window_(&window), dispatch_(dispatch) {
@@ -50,7 +43,8 @@ ChildFace::Bounds ChildFace::WantedBounds() const {
 
 void ChildFace::Place() {
     const QSize room = mdiArea()->viewport()->size();
-    QRect place(Pixels(window_->Left), Pixels(window_->Top), Pixels(window_->Width), Pixels(window_->Height));
+    QRect place(PixelsOf(window_->Left), PixelsOf(window_->Top), PixelsOf(window_->Width),
+                PixelsOf(window_->Height));
     if (place.width() <= 0 || place.height() <= 0) place.setSize(room * 4 / 5);
     place.setSize(place.size().boundedTo(room));
     setGeometry(place);
@@ -95,7 +89,7 @@ void ChildFace::MirrorBounds() {
     }
     if (WantedBounds() == told_ || window_->Mode != WindowMode::Normal) return;
     told_ = WantedBounds();
-    setGeometry(Pixels(told_.left), Pixels(told_.top), Pixels(told_.width), Pixels(told_.height));
+    setGeometry(PixelsOf(told_.left), PixelsOf(told_.top), PixelsOf(told_.width), PixelsOf(told_.height));
 }
 
 void ChildFace::Mirror() {
@@ -125,14 +119,14 @@ void ChildFace::TellBoundsLater() {
     dispatch_.Later(this, [this] {
         tellsBounds_ = false;
         if (!window_) return;
-        const QSize before(window_->ScaleWidth, window_->ScaleHeight);
         TellBounds();
-        if (before != QSize(window_->ScaleWidth, window_->ScaleHeight)) window_->Form_Resize();
+        if (std::exchange(resized_, false)) window_->Form_Resize();
     });
 }
 
 void ChildFace::resizeEvent(QResizeEvent* event) {
     QMdiSubWindow::resizeEvent(event);
+    resized_ = placed_;
     TellBoundsLater();
 }
 

@@ -27,6 +27,7 @@ public:
     void Detach();
 
     void Mirror();
+    void MirrorMode();
 
     // The grid, for who lays out the content and binds it.
     GridWidget& ShowGrid(Grid& grid, const QString& accessibleName);
@@ -51,7 +52,6 @@ private:
     void TellBounds();
     void TellBoundsLater();
     void MirrorBounds();
-    void MirrorMode();
     WindowMode ShownMode() const;
 
     Session& session_;
@@ -63,6 +63,7 @@ private:
     WindowMode toldMode_ = WindowMode::Normal;
     bool placed_ = false;
     bool tellsBounds_ = false; // as soon as the toolkit has settled
+    bool resized_ = false;     // since it told them last
 };
 
 } // namespace dorvan

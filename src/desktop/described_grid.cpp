@@ -1,5 +1,7 @@
 #include "desktop/described_grid.h"
 
+#include "platform/twips.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,7 +11,10 @@ namespace dorvan {
 
 namespace {
 
-constexpr int Margin = 4;
+constexpr int PanelHeight = 390; // twips, more where the font needs it
+constexpr int RightMargin = 100; // twips
+constexpr int LeftMargin = 4;    // pixels
+constexpr int LeastMargin = 1;
 
 } // namespace
 
@@ -21,7 +26,8 @@ GridWidget& LayOutDescribedGrid(ChildFace& face, GridWindow& window, const QStri
     auto* panel = new QWidget(face.widget());
     panel->setObjectName("BottomPanel"); // at the top, in spite of its name
     auto* row = new QHBoxLayout(panel);
-    row->setContentsMargins(Margin, Margin, Margin, Margin);
+    row->setContentsMargins(LeftMargin, LeastMargin, PixelsOf(RightMargin), LeastMargin);
+    panel->setMinimumHeight(PixelsOf(PanelHeight));
     auto* label = new QLabel(panel);
     face.Binder().Text(label, window.Label1);
     auto* field = new QLineEdit(panel);

@@ -4,6 +4,7 @@
 #include "desktop/grid_accessibility.h"
 #include "desktop/qt_text.h"
 #include "platform/keys.h"
+#include "platform/twips.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -19,7 +20,6 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr int TextMargin = 3;           // pixels at a ratio of 1
 constexpr int NarrowestElidedCell = 40; // in narrower ones three dots would take all the room
 
@@ -366,11 +366,6 @@ void GridWidget::Forward(const std::function<void()>& handler) {
     if (grid_) dispatch_.Run(handler);
 }
 
-void GridWidget::MoveTo(int row, int column) {
-    if (row >= 0 && row < grid_->Rows() && column >= 0 && column < grid_->Columns())
-        grid_->SetCurrent(row, column);
-}
-
 void GridWidget::ForwardLater(std::function<void()> handler) {
     dispatch_.Later(this, [this, run = std::move(handler)] {
         if (grid_) run();
@@ -379,31 +374,12 @@ void GridWidget::ForwardLater(std::function<void()> handler) {
 
 void GridWidget::MakeCurrent(int row, int column) {
     setFocus(Qt::OtherFocusReason);
-    ForwardLater([this, row, column] { MoveTo(row, column); });
+    ForwardLater([this, row, column] { grid_->Press(row, column); });
     dispatch_.RunWaiting();
 }
 
-bool GridWidget::MoveByKey(int key, Qt::KeyboardModifiers modifiers) {
-    const int page = std::max(1, rows_.CellsIn(int(viewport()->height() * Ratio())) - 1);
-    const int lastRow = grid_->Rows() - 1;
-    const int lastColumn = grid_->Columns() - 1;
-    const bool control = modifiers & Qt::ControlModifier;
-    switch (key) {
-    case Qt::Key_Left: grid_->ArrowKey(key::Left); return true;
-    case Qt::Key_Up: grid_->ArrowKey(key::Up); return true;
-    case Qt::Key_Right: grid_->ArrowKey(key::Right); return true;
-    case Qt::Key_Down: grid_->ArrowKey(key::Down); return true;
-    case Qt::Key_PageUp:
-        MoveTo(std::max(grid_->Row() - page, std::min(grid_->FixedRows, lastRow)), grid_->Column());
-        return true;
-    case Qt::Key_PageDown: MoveTo(std::min(grid_->Row() + page, lastRow), grid_->Column()); return true;
-    case Qt::Key_Home:
-        MoveTo(control ? std::min(grid_->FixedRows, lastRow) : grid_->Row(),
-               std::min(grid_->FixedColumns, lastColumn));
-        return true;
-    case Qt::Key_End: MoveTo(control ? lastRow : grid_->Row(), lastColumn); return true;
-    default: return false;
-    }
+int GridWidget::PageRows() const {
+    return std::max(1, rows_.CellsIn(int(viewport()->height() * Ratio())) - 1);
 }
 
 bool GridWidget::event(QEvent* event) {
@@ -418,7 +394,8 @@ bool GridWidget::event(QEvent* event) {
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (!grid_) return;
-    if (int keyCode = KeyCodeOf(*event); keyCode != key::None && events.keyDown) {
+    int keyCode = KeyCodeOf(*event);
+    if (keyCode != key::None && events.keyDown) {
         Forward([&] { events.keyDown(keyCode); });
         if (keyCode == key::None) return;
     }
@@ -427,25 +404,19 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
         if (character == key::None) return;
     }
     bool moved = false;
-    Forward([&] { moved = MoveByKey(event->key(), event->modifiers()); });
+    const bool control = event->modifiers() & Qt::ControlModifier;
+    Forward([&] { moved = grid_->MoveByKey(keyCode, control, PageRows()); });
     if (!moved) event->ignore();
-}
-
-// A click into a fixed row or column moves only along the other axis.
-void GridWidget::ClickAt(QPoint place) {
-    const QPoint cell = CellAt(place);
-    const int row = cell.y();
-    const int column = cell.x();
-    if (row < 0 || column < 0) return;
-    MoveTo(row < grid_->FixedRows ? grid_->Row() : row,
-           column < grid_->FixedColumns ? grid_->Column() : column);
 }
 
 // The field that loses the focus hears of it first, and still sees the old current cell; the click waits, and
 // takes place while that field's owner lets events run.
 void GridWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
-    ForwardLater([this, place = event->position().toPoint()] { ClickAt(place); });
+    ForwardLater([this, place = event->position().toPoint()] {
+        const QPoint cell = CellAt(place);
+        grid_->Press(cell.y(), cell.x());
+    });
     if (event->button() == Qt::RightButton)
         ForwardLater([this, place = event->globalPosition().toPoint()] {
             if (events.rightButton) events.rightButton(place);

@@ -27,7 +27,7 @@ struct GridEvents {
     std::function<void(QPoint global)> rightButton;
 };
 
-// Shows any `Grid`: paints the visible cells, moves the current cell by keys and mouse. It scrolls by whole
+// Shows any `Grid`: paints the visible cells, tells it keys and presses. It scrolls by whole
 // cells. All edges lie on device pixels, whatever the scaling.
 class GridWidget : public QAbstractScrollArea {
     Q_OBJECT
@@ -105,9 +105,7 @@ private:
     const QImage& ScaledTile(std::uint8_t picture) const;
     void Forward(const std::function<void()>& handler);
     void ForwardLater(std::function<void()> handler);
-    bool MoveByKey(int key, Qt::KeyboardModifiers modifiers);
-    void MoveTo(int row, int column);
-    void ClickAt(QPoint place);
+    int PageRows() const;
     void TellCurrent();
 
     Grid* grid_;

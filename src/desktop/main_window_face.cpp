@@ -20,6 +20,9 @@ namespace {
 constexpr int SmallScreenWidth = 1500; // pixels; up to here the main window takes all there is
 constexpr int ToolIconSize = 22;
 
+// A line between items has no text: some styles would show it.
+QString TextOf(const std::string& caption) { return caption == "-" ? QString() : ToQt(caption); }
+
 } // namespace
 
 QRect MainWindowPlace(const QRect& available) {
@@ -69,7 +72,7 @@ void MainWindowFace::BuildMenu(QWidget& parent, QMenu& menu, const std::vector<M
 }
 
 QAction* MainWindowFace::BuildItem(QMenu& menu, const MenuItem& item) {
-    QAction* action = menu.addAction(ToQt(item.Caption));
+    QAction* action = menu.addAction(TextOf(item.Caption));
     action->setObjectName(ToQt(item.Name));
     action->setMenuRole(QAction::NoRole);
     if (item.Name.empty()) {
@@ -89,12 +92,13 @@ void MainWindowFace::BuildToolbars() {
     for (const auto& toolbar : Toolbars(session_.commands.Rows())) {
         auto* bar = new QToolBar(this);
         bar->setObjectName(ToQt(toolbar.Name));
-        bar->setAccessibleName(ToQt(toolbar.Name));
+        bar->setAccessibleName(ToQt(toolbar.Spoken));
         bar->setMovable(false);
         bar->setIconSize({ToolIconSize, ToolIconSize});
         addToolBar(bar);
         toolbars_.emplace_back(toolbar.Name, bar);
         for (const auto& button : toolbar.Buttons) {
+            if (button.Gap) bar->addSeparator();
             QAction* action = bar->addAction(ThemedIcon(ToQt(button.Key)), ToQt(button.ToolTip));
             action->setObjectName(ToQt(toolbar.Name + "." + button.Key));
             action->setToolTip(ToQt(button.ToolTip));
@@ -119,15 +123,22 @@ void MainWindowFace::MirrorToolbars() {
     }
 }
 
+// A maximized child window has no title of its own.
+QString MainWindowFace::Title() const {
+    const QString caption = ToQt(session_.mainWindow.Caption);
+    const ChildWindow* active = session_.ActiveWindow;
+    if (!active || active->Mode != WindowMode::Maximized) return caption;
+    return caption + " - [" + ToQt(active->Caption) + "]"; // as the toolkit writes it
+}
+
 void MainWindowFace::Mirror() {
-    if (const QString title = ToQt(session_.mainWindow.Caption); windowTitle() != title)
-        setWindowTitle(title);
+    if (const QString title = Title(); windowTitle() != title) setWindowTitle(title);
     for (const auto& [name, action] : items_) {
         action->setEnabled(shell_.MenuEnabled(name));
         action->setVisible(shell_.MenuShown(name));
         const std::string caption = session_.mainWindow.MenuCaption(name);
         action->setSeparator(caption == "-");
-        QString text = ToQt(caption);
+        QString text = TextOf(caption);
         if (name.starts_with("mnuRecentFile(")) text.replace("&", "&&"); // a path has no access key
         if (action->text() != text) action->setText(text);
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));

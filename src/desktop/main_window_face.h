@@ -29,6 +29,7 @@ public:
     void PopUp(const std::string& menu, QPoint global);
 
     void Mirror();
+    QString Title() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -1,6 +1,8 @@
 #include "desktop/qt_platform.h"
 
+#include "desktop/arrangement.h"
 #include "desktop/qt_text.h"
+#include "platform/twips.h"
 #include "session/children.h"
 
 #include <QApplication>
@@ -8,12 +10,15 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
+#include <QStyle>
 #include <QTime>
+#include <QTreeView>
 #include <QUrl>
 
 #include <stdexcept>
@@ -22,8 +27,9 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TwipsPerPixel = 15;
 constexpr qint64 MillisecondsBetweenRuns = 8;
+constexpr QSize FileDialogSize(760, 480);
+constexpr int CascadeGap = 6; // pixels, below a title
 
 // Over the window that the user works in.
 QWidget* ParentOfDialogs() {
@@ -100,21 +106,42 @@ Answer QtMessages::show(const Message& message) {
     }
 }
 
+namespace {
+
+// Behind each description the pattern itself, which is not shown: "*.*" means files without a dot too.
+QStringList NameFilters(const FileRequest& request) {
+    QStringList filters;
+    for (const auto& [description, wildcard] : request.Filters)
+        filters += QString("%1 (%2)").arg(dorvan::ToQt(description),
+                                          wildcard == "*.*" ? "*" : dorvan::ToQt(wildcard));
+    return filters;
+}
+
+// The names take what the other columns leave.
+void FitColumns(QFileDialog& dialog) {
+    dialog.resize(FileDialogSize);
+    auto* files = dialog.findChild<QTreeView*>("treeView"); // not there in a desktop's own dialog
+    if (!files) return;
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+} // namespace
+
 std::string QtFiles::Ask(QFileDialog& dialog, const FileRequest& request) {
     dispatch_.Mirror();
     const PlainCursor cursor;
     dialog.setObjectName("FileDialog");
     dialog.setWindowTitle(dorvan::ToQt(request.Title));
-    QStringList filters;
-    for (const auto& filter : request.Filters) {
-        const QString description = dorvan::ToQt(filter.Description);
-        const QString wildcard = "(" + dorvan::ToQt(filter.Wildcard) + ")";
-        filters += description.endsWith(wildcard) ? description : description + " " + wildcard;
-    }
-    dialog.setNameFilters(filters);
-    if (!request.StartFolder.empty()) dialog.setDirectory(dorvan::ToQt(request.StartFolder));
+    dialog.setNameFilters(NameFilters(request));
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the descriptions name their patterns
+    const QString folder = lastFolder_.isEmpty() ? dorvan::ToQt(request.StartFolder) : lastFolder_;
+    if (!folder.isEmpty()) dialog.setDirectory(folder);
+    FitColumns(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
-    return FromQt(dialog.selectedFiles().first());
+    const QString chosen = dialog.selectedFiles().first();
+    lastFolder_ = QFileInfo(chosen).absolutePath();
+    return FromQt(chosen);
 }
 
 std::string QtFiles::toOpen(const FileRequest& request) {
@@ -187,16 +214,18 @@ ChildFace* QtChildren::FaceOf(const ChildWindow& window) {
 
 void QtChildren::show(ChildWindow& window) {
     ChildFace* face = FaceOf(window);
-    if (!face) {
+    const bool isNew = !face;
+    if (isNew) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
         face->Place();
-        face->Binder().PlaceFocus(); // or the first field in order would get it
         face->show();
     }
     face->Mirror();
     area_->setActiveSubWindow(face);
+    // In front of a maximized window the toolkit maximizes it as well.
+    if (isNew) face->MirrorMode();
 }
 
 void QtChildren::update(ChildWindow& window) {
@@ -213,9 +242,31 @@ void QtChildren::close(ChildWindow& window) {
     face->deleteLater();
 }
 
+// Those that are no icons.
+QList<QMdiSubWindow*> QtChildren::ArrangedWindows(QMdiArea::WindowOrder order) const {
+    QList<QMdiSubWindow*> windows = area_->subWindowList(order);
+    windows.removeIf([](const QMdiSubWindow* window) { return window->isMinimized(); });
+    return windows;
+}
+
+void QtChildren::Arrange(const QList<QMdiSubWindow*>& windows, const std::vector<QRect>& places) {
+    for (int window = 0; window < windows.size(); ++window) {
+        if (windows[window]->isMaximized()) windows[window]->showNormal();
+        windows[window]->setGeometry(places[std::size_t(window)]);
+    }
+}
+
 void QtChildren::arrange(int mode) {
-    if (mode == 0) area_->cascadeSubWindows();
-    if (mode == 1) area_->tileSubWindows();
+    const QSize room = area_->viewport()->size();
+    if (mode == 0) {
+        const auto windows = ArrangedWindows(QMdiArea::StackingOrder);
+        const int step = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight) + CascadeGap;
+        Arrange(windows, CascadePlaces(room, int(windows.size()), step));
+    }
+    if (mode == 1) {
+        const auto windows = ArrangedWindows(QMdiArea::CreationOrder);
+        Arrange(windows, TilePlaces(room, int(windows.size())));
+    }
     if (mode == 3) ArrangeIcons();
 }
 

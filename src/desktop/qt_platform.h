@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 
 #include <QElapsedTimer>
+#include <QMdiArea>
 #include <QPointer>
 
 #include <map>
@@ -12,7 +13,6 @@
 #include <vector>
 
 class QFileDialog;
-class QMdiArea;
 
 // The ports on a real screen.
 namespace dorvan {
@@ -35,6 +35,7 @@ public:
 private:
     std::string Ask(QFileDialog& dialog, const FileRequest& request);
     EventDispatch& dispatch_;
+    QString lastFolder_; // of the run; empty until a file was chosen
 };
 
 class QtForms : public FormDisplay {
@@ -69,6 +70,8 @@ public:
 
 private:
     void FollowScreen();
+    QList<QMdiSubWindow*> ArrangedWindows(QMdiArea::WindowOrder order) const;
+    void Arrange(const QList<QMdiSubWindow*>& windows, const std::vector<QRect>& places);
     void ArrangeIcons();
 
     std::unique_ptr<ChildContext> context_;

@@ -16,16 +16,7 @@ QImage ImageOfTile(std::uint8_t picture) {
     return image;
 }
 
-// From a name such as "picSelectCircle02NA".
-QString ReadingOfTile(std::uint8_t picture) {
-    const QString name = ToQt(TileName(static_cast<Tile>(picture)));
-    const auto digits = name.indexOf('0') + 1;
-    if (digits < 1) return {};
-    QString reading = name[digits] == '6' ? QString("not classified") : "class " + name.mid(digits, 1);
-    if (name.endsWith("NA")) reading += " with a missing value";
-    if (name.startsWith("picSelect")) reading += " selected";
-    return reading;
-}
+QString ReadingOfTile(std::uint8_t picture) { return ToQt(DescribeTile(static_cast<Tile>(picture))); }
 
 } // namespace
 

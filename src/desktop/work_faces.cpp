@@ -1,6 +1,7 @@
 #include "desktop/form_faces.h"
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
+#include "platform/twips.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -27,7 +28,7 @@ void LayOut(FormFace& face, frmWork& form) {
     face.Column().addWidget(percent);
     auto* bar = new QProgressBar(&face);
     bar->setTextVisible(false);
-    bar->setFixedWidth(int(form.Procent.Width) / 15);
+    bar->setFixedWidth(PixelsOf(int(form.Procent.Width)));
     face.Binder().Progress(bar, form.Procent, form.Procent1, "Progress");
     face.Column().addWidget(bar);
     auto* rows = face.AddRows();

@@ -61,6 +61,7 @@ bool LoadWorkingData(Session& session) {
     Grid& grid = window.Grid1;
     const std::int32_t n = window.RecordCount();
     const std::int32_t m = window.VariableCount();
+    window.LeaveField(); // the grid gets the focus
     window.SetFocus(grid);
     if (n >= 1 && m >= 1) grid.SetCurrent(1, DocumentGrid::FirstValueColumn);
     session.RecordNames = Names(n);

@@ -126,4 +126,30 @@ void Grid::ArrowKey(int keyCode) {
     SetCurrent(upright ? place : row_, upright ? column_ : place);
 }
 
+bool Grid::MoveByKey(int keyCode, bool control, int pageRows) {
+    const int firstRow = std::min(FixedRows, std::max(0, rows_ - 1));
+    const int firstColumn = std::min(FixedColumns, std::max(0, columns_ - 1));
+    const auto moveTo = [this](int row, int column) {
+        if (rows_ > 0 && columns_ > 0) SetCurrent(row, column);
+        return true;
+    };
+    switch (keyCode) {
+    case key::Left:
+    case key::Up:
+    case key::Right:
+    case key::Down: ArrowKey(keyCode); return true;
+    case key::PageUp: return moveTo(std::max(row_ - pageRows, firstRow), column_);
+    case key::PageDown: return moveTo(std::min(row_ + pageRows, rows_ - 1), column_);
+    case key::Home: return moveTo(control ? firstRow : row_, firstColumn);
+    case key::End: return moveTo(control ? rows_ - 1 : row_, columns_ - 1);
+    default: return false;
+    }
+}
+
+void Grid::Press(int row, int column) {
+    pressedRow_ = row;
+    if (row < 0 || column < 0 || row >= rows_ || column >= columns_) return;
+    SetCurrent(row < FixedRows ? row_ : row, column < FixedColumns ? column_ : column);
+}
+
 } // namespace dorvan

@@ -57,6 +57,18 @@ public:
     // current cell that a rule has put into a fixed row or column moves along it, and out of it.
     void ArrowKey(int keyCode);
 
+    // Moves the current cell by a key: the arrows, PageUp and PageDown by `pageRows`, Home and End along the
+    // row, with `control` to the first and the last of all cells. Not into the fixed cells. False for any
+    // other key.
+    bool MoveByKey(int keyCode, bool control, int pageRows);
+
+    // The mouse is pressed on a cell; -1 is behind the last row or column, where nothing moves. On a fixed
+    // cell the current cell moves along the other axis alone.
+    void Press(int row, int column);
+
+    // Whether the last press was on a fixed row.
+    bool FixedRowPressed() const { return pressedRow_ >= 0 && pressedRow_ < FixedRows; }
+
     // Grows with every change: a face that has painted a revision need not paint it again.
     std::uint64_t Revision() const { return revision_; }
 
@@ -71,6 +83,7 @@ private:
     int columns_ = 0;
     int row_ = 0;
     int column_ = 0;
+    int pressedRow_ = -1;
     std::uint64_t revision_ = 0;
     std::vector<std::vector<std::string>> texts_; // by rows, each up to its last text
     std::vector<std::uint8_t> pictures_;

@@ -40,7 +40,10 @@ void ShowChild(Session& session, ChildWindow& window) {
     ActivateChild(session, window);
 }
 
+// The field that loses the focus may let events run: only then is it told whether the window is still there.
 void ActivateChild(Session& session, ChildWindow& window) {
+    const auto owner = OwnerOf(session, window);
+    if (session.ActiveWindow && session.ActiveWindow != &window) session.ActiveWindow->LeaveField();
     const auto place = Place(session, window);
     if (place == session.Children.end()) return;
     std::rotate(place, place + 1, session.Children.end());
@@ -51,6 +54,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     const auto asked = Place(session, window);
     if (asked == session.Children.end()) return true;
     const std::shared_ptr<ChildWindow> keepAlive = *asked;
+    window.LeaveField();
     if (!window.Form_QueryUnload()) return false;
     if (Place(session, window) == session.Children.end()) return true; // closed while the question stood
     if (session.onClosing) session.onClosing(window);

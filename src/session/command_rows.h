@@ -28,6 +28,7 @@ struct ButtonPlace {
     int Place = 0;                 // in its toolbar, from 1; 0: only a key, which no button has
     std::string_view Key = {};
     std::string_view ToolTip = {};
+    bool Gap = false; // it begins a group, with a gap before it
 };
 
 enum class RowKind { Command, Menu };

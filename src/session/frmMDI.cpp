@@ -114,6 +114,9 @@ void frmMDI::ButtonClick(const std::string& toolbar, const std::string& key) {
 }
 
 void frmMDI::Run(const CommandRow& row) {
+    // The deletion of a record asks first, and drops the edit that its own change of focus would commit.
+    if (session_.ActiveWindow && row.Calls.For(ActiveKind()) != "DeleteRecord")
+        session_.ActiveWindow->LeaveField();
     const auto operation = row.Calls.For(ActiveKind());
     if (operation.empty()) return;
     if (operation == "MakeDiagram") TellSourceOfDiagram();
@@ -178,8 +181,7 @@ void frmMDI::HelpEnglish() {
 
 void frmMDI::HelpContact() {
     session_.platform.messages.show(
-        {.Text = "Dorvan is kept by its maintainers.\r\n"
-                 "Questions and reports of faults: at the place where you got the program.",
+        {.Text = "Questions, wishes and reports of faults:\r\n" DORVAN_CONTACT "\r\n" DORVAN_HOME_PAGE,
          .Icon = MessageIcon::Information,
          .Title = "Contact"});
 }

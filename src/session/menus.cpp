@@ -9,8 +9,16 @@ namespace dorvan {
 
 namespace {
 
-constexpr std::string_view ToolbarNames[] = {"toolMain", "toolData", "toolMatrix", "toolBitmap",
-                                             "toolDiagram"};
+struct ToolbarName {
+    std::string_view Name;
+    std::string_view Spoken;
+};
+
+constexpr ToolbarName ToolbarNames[] = {{"toolMain", "Main toolbar"},
+                                        {"toolData", "Data toolbar"},
+                                        {"toolMatrix", "Matrix toolbar"},
+                                        {"toolBitmap", "Bitmap toolbar"},
+                                        {"toolDiagram", "Diagram toolbar"}};
 
 bool HasItem(const CommandRow& row) { return !row.Item.empty() || row.Caption == "-"; }
 
@@ -40,7 +48,7 @@ std::vector<ToolButton> ButtonsOf(std::string_view toolbar, const std::vector<Co
     std::sort(places.begin(), places.end(), [](auto* one, auto* other) { return one->Place < other->Place; });
     std::vector<ToolButton> buttons;
     for (const auto* place : places)
-        buttons.push_back({std::string(place->Key), std::string(place->ToolTip)});
+        buttons.push_back({std::string(place->Key), std::string(place->ToolTip), place->Gap});
     return buttons;
 }
 
@@ -52,7 +60,8 @@ std::vector<MenuItem> MenuTree(const std::vector<CommandRow>& rows) { return Ite
 
 std::vector<Toolbar> Toolbars(const std::vector<CommandRow>& rows) {
     std::vector<Toolbar> toolbars;
-    for (const auto& name : ToolbarNames) toolbars.push_back({std::string(name), ButtonsOf(name, rows)});
+    for (const auto& [name, spoken] : ToolbarNames)
+        toolbars.push_back({std::string(name), std::string(spoken), ButtonsOf(name, rows)});
     return toolbars;
 }
 

@@ -30,10 +30,12 @@ std::string RecentFileItem(int index);
 struct ToolButton {
     std::string Key;
     std::string ToolTip;
+    bool Gap = false; // before it
 };
 
 struct Toolbar {
-    std::string Name; // "toolMain"
+    std::string Name;   // "toolMain"
+    std::string Spoken; // what a screen reader calls it
     std::vector<ToolButton> Buttons;
 };
 

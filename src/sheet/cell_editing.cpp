@@ -80,15 +80,15 @@ void frmNotePad::TypeIntoEditCell(int key) {
 }
 
 void frmNotePad::Grid1_KeyDown(int& keyCode) {
-    if (IsBusy(session_) || (keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited())
-        return;
+    if (IsBusy(session_)) keyCode = key::None; // the arrows do nothing either
+    if ((keyCode != key::Enter && keyCode != key::F2) || !CurrentCellCanBeEdited()) return;
     keyCode = key::None;
     TakeCurrentCell();
     StartCellEdit(key::None, 1);
 }
 
 void frmNotePad::Grid1_KeyPress(int& keyAscii) {
-    if (IsBusy(session_)) return;
+    if (IsBusy(session_)) keyAscii = key::None;
     const int typed = keyAscii;
     if (typed == key::Enter || typed == key::Escape || typed >= key::Space) keyAscii = key::None;
     if (typed <= key::Space || typed == Delete || !CurrentCellCanBeEdited()) return;
@@ -168,12 +168,25 @@ void frmNotePad::EndEdit() {
 }
 
 void frmNotePad::EditCell_LostFocus() {
+    const auto keepAlive = OwnReference();
     Editing = false;
     if (!EditCell.Text.empty()) CommitCell(key::None);
     EditPanel.Visible = false;
 }
 
+// A commit lets events run: the window may close then, and another one get its slot.
+std::shared_ptr<ChildWindow> frmNotePad::OwnReference() const {
+    return session_.DataWindows.at(std::size_t(Index));
+}
+
+void frmNotePad::LeaveField() {
+    if (!Editing) return;
+    SetFocus(Grid1);
+    EditCell_LostFocus();
+}
+
 void frmNotePad::CommitCell(int key) {
+    const auto keepAlive = OwnReference();
     if (session_.SuppressCommit) {
         session_.SuppressCommit = false;
         EditCell.Text.clear();

@@ -6,6 +6,7 @@
 #include "session/session.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -75,6 +76,7 @@ public:
     void EditCell_KeyDown(int& keyCode);
     void EditCell_KeyPress(int& keyAscii);
     void EditCell_LostFocus();
+    void LeaveField() override; // commits an open edit
 
     void OpisText_Change(); // after any change of the text by the user
     void OpisText_KeyPress(int& keyAscii);
@@ -89,6 +91,7 @@ private:
     bool AtEditedCell() const { return Grid1.Row() == EditRow && Grid1.Column() == EditCol; }
     bool CurrentCellCanBeEdited() const;
     void TakeCurrentCell();
+    std::shared_ptr<ChildWindow> OwnReference() const;
     void TypeIntoEditCell(int key);
     int FilterOfValueCell(int keyAscii) const;
     void RestoreOldText();

@@ -92,7 +92,7 @@ void frmDiagram::PaintCell(int row, int record, bool selected) {
 }
 
 void frmDiagram::Siatka_DblClick() {
-    if (RefusedWhileBusy(session_)) return;
+    if (RefusedWhileBusy(session_) || Siatka.FixedRowPressed()) return;
     if (RowSelected == 0 && Siatka.Row() >= 1)
         SelectCurrentRow();
     else if (RowSelected == 1 && Siatka.Row() == SelectedRow)

@@ -2,6 +2,8 @@
 
 #include "numbers/runtime_failure.h"
 
+#include <fmt/format.h>
+
 #include <vector>
 
 namespace dorvan {
@@ -225,6 +227,29 @@ std::size_t NumberOf(Tile tile) {
 } // namespace
 
 std::string_view TileName(Tile tile) { return TileNames[NumberOf(tile)]; }
+
+std::string DescribeTile(Tile tile) {
+    struct Family {
+        Tile First;
+        const char* Says;
+    };
+    static constexpr Family families[] = {
+        {Tile::picSelectCircle01NA, " with a missing value selected"},
+        {Tile::picSelectCircle01, " selected"},
+        {Tile::picCircle01NA, " with a missing value"},
+        {Tile::picCircle01, ""},
+        {Tile::picSelectClassic01, " selected"},
+        {Tile::picClassic01, ""},
+        {Tile::picSelectColor01, " selected"},
+        {Tile::picColor01, ""},
+    };
+    const std::size_t number = NumberOf(tile);
+    if (tile == Tile::picColor06) return "not classified";
+    for (const auto& [first, says] : families)
+        if (number >= std::size_t(first))
+            return fmt::format("class {}{}", number - std::size_t(first) + 1, says);
+    return {};
+}
 
 const TileImage& ImageOf(Tile tile) {
     static const TileImages images = DrawTiles();

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 // The small pictures that the cells of a diagram show.
@@ -72,6 +73,10 @@ struct TileImage {
 // for None as well. The images are drawn at the first call and stay where they are.
 std::string_view TileName(Tile tile);
 const TileImage& ImageOf(Tile tile);
+
+// What a tile says, for who cannot see it: "class 5", "class 2 with a missing value selected", "not
+// classified"; empty for None.
+std::string DescribeTile(Tile tile);
 
 // The tile of cell (i, j), both from 1 to RecCount: None (the cell's picture stays as it is) for a class
 // outside 0 to 5. A document type outside 1 to 3 has tiles for the classes 0 and 1 only, which look the same

@@ -374,11 +374,12 @@ TEST_F(CommandLine, ParameterThatIsNoNumberIsRefusedInTheDialogsWords) {
                   "Parametr error!", out("d.dgr"));
 }
 
-// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout` signals
-// its child once; otherwise the group as well, and the second signal ends the process.
+// An endless search; Ctrl+C ends it, and the best order so far is written. In the foreground `timeout`
+// signals its child once; otherwise the group as well, and the second signal ends the process.
 TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     const std::string command =
-        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " + out("d.dgr") +
+        "timeout --foreground -s INT 1 " + programPath() + " diagram " + sample("Townships.mdt") + " " +
+        out("d.dgr") +
         " --order ravelin --critical-generation-number 32767 --critical-mutation-number 32767 "
         "2>" +
         out("err");
@@ -388,10 +389,78 @@ TEST_F(CommandLine, CtrlCEndsASearchAndTheFileIsWritten) {
     EXPECT_EQ(fileBytes(out("d.dgr")).substr(0, 14), "Dorvan DIAGRAM");
 }
 
-TEST_F(CommandLine, PictureDrawsASymbolForEachPair) {
-    ASSERT_EQ(runCli({"diagram", sheet, out("d.dgr")}).status, 0);
-    ASSERT_EQ(runCli({"picture", out("d.dgr"), out("d.svg")}).status, 0);
-    EXPECT_TRUE(matchesGolden(fileBytes(out("d.svg")), "cli/golden/three_on_a_line.svg"));
+// The size that a PNG file claims.
+std::pair<int, int> sizeOfPng(const std::string& bytes) {
+    if (bytes.size() < 24 || bytes.substr(1, 3) != "PNG") return {};
+    const auto number = [&](std::size_t place) {
+        int value = 0;
+        for (std::size_t k = 0; k < 4; ++k)
+            value = value * 256 + static_cast<unsigned char>(bytes[place + k]);
+        return value;
+    };
+    return {number(16), number(20)};
+}
+
+class CommandLinePicture : public CommandLine {
+protected:
+    std::string diagram = folder / "d.dgr";
+    void SetUp() override {
+        CommandLine::SetUp();
+        ASSERT_EQ(runCli({"diagram", sheet, diagram}).status, 0);
+    }
+
+    // The bytes of the picture of those options.
+    std::string picture(const std::string& name, const std::vector<std::string>& options = {}) {
+        std::vector<std::string> arguments{"picture", diagram, out(name)};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const Outcome outcome = runCli(arguments);
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        EXPECT_EQ(outcome.err, "");
+        return fileBytes(out(name));
+    }
+};
+
+TEST_F(CommandLinePicture, IsWrittenInTheFormatOfItsName) {
+    EXPECT_EQ(sizeOfPng(picture("d.png")), (std::pair{527, 140})); // 7900 x 2100 twips
+    EXPECT_EQ(picture("d.pdf").substr(0, 5), "%PDF-");
+    const std::string svg = picture("D.SVG");
+    EXPECT_EQ(svg.substr(0, 5), "<?xml");
+    for (const std::string text : {"Name", "A", "B", "C", "&gt;= "})
+        EXPECT_NE(svg.find(">" + text), std::string::npos) << text;
+}
+
+TEST_F(CommandLinePicture, ScaleMakesItLarger) {
+    EXPECT_EQ(sizeOfPng(picture("d.png", {"--scale", "2"})), (std::pair{1054, 280}));
+    EXPECT_EQ(sizeOfPng(picture("d.png", {"--scale", "0.5"})), (std::pair{264, 70}));
+}
+
+TEST_F(CommandLinePicture, ShowsTheGraphsAsWell) {
+    const std::string normal = picture("h.png", {"--what", "histogram"});
+    const std::string cumulative = picture("c.png", {"--what", "histogram", "--cumulative"});
+    EXPECT_EQ(sizeOfPng(normal), (std::pair{273, 177}));
+    EXPECT_EQ(sizeOfPng(cumulative), (std::pair{273, 177}));
+    EXPECT_NE(normal, cumulative);
+    EXPECT_EQ(sizeOfPng(picture("l.png", {"--what", "linear"})), (std::pair{337, 201}));
+}
+
+TEST_F(CommandLinePicture, OfAnotherFormatIsWrongUsage) {
+    for (const std::string name : {"d.jpg", "d", "svg"}) {
+        const Outcome outcome = runCli({"picture", diagram, out(name)});
+        EXPECT_EQ(outcome.status, 2) << name;
+        EXPECT_FALSE(fs::exists(out(name)));
+    }
+}
+
+TEST_F(CommandLinePicture, ThatCannotBeMadeIsRefused) {
+    expectRefusal({"picture", out("none.dgr"), out("d.png")}, "none.dgr", "", out("d.png"));
+    ASSERT_EQ(runCli({"diagram", sample("quakes250.mdt"), out("q.dgr")}).status, 0);
+    expectRefusal({"picture", out("q.dgr"), out("q.png"), "--what", "histogram"}, "q.dgr", "Overflow",
+                  out("q.png"));
+}
+
+TEST_F(CommandLinePicture, ThatCannotBeWrittenIsTold) {
+    expectRefusal({"picture", diagram, out("missing/d.png")}, "missing/d.png", "No such file",
+                  out("missing/d.png"));
 }
 
 } // namespace

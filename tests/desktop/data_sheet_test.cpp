@@ -125,6 +125,24 @@ TEST_F(DataSheetTest, ATooLargeNumberIsRefusedAndTheCellKeepsWhatWasTyped) {
     EXPECT_EQ(Cell(1, 2), "10000000");
 }
 
+TEST_F(DataSheetTest, WhileADiagramIsMadeNoKeyOfTheGridDoesAnything) {
+    ClickCell(ActiveGrid(), 2, 2);
+    desktop.session.DiagramBusy = 1;
+    for (const auto pressed :
+         {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageUp,
+          Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2, Qt::Key_Escape, Qt::Key_Space,
+          Qt::Key_Backspace, Qt::Key_7, Qt::Key_X}) {
+        Press(pressed);
+        EXPECT_EQ(Sheet().Grid1.Row(), 2) << pressed;
+        EXPECT_EQ(Sheet().Grid1.Column(), 2) << pressed;
+        EXPECT_EQ(Cell(2, 2), "0.000") << pressed;
+        EXPECT_FALSE(EditCell().isVisible()) << pressed;
+    }
+    desktop.session.DiagramBusy = 0;
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Sheet().Grid1.Row(), 1);
+}
+
 TEST_F(DataSheetTest, ADoubleClickEditsAndMarksTheSheetAsChanged) {
     DoubleClickCell(ActiveGrid(), 2, 2);
     EXPECT_TRUE(EditCell().isVisible());

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSettings>
+#include <QWindow>
 
 namespace dorvan::test {
 
@@ -165,6 +166,15 @@ void DesktopTest::ClickCell(GridWidget& grid, int row, int column) {
 void DesktopTest::DoubleClickCell(GridWidget& grid, int row, int column) {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, PlaceOf(grid, row, column));
+}
+
+void DesktopTest::ClickOn(QWidget& widget, QPoint place, Qt::MouseButton button) {
+    QWindow* window = widget.window()->windowHandle();
+    QTest::mouseClick(window, button, {}, widget.mapTo(widget.window(), place));
+}
+
+void DesktopTest::PressInWindow(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(desktop.mainWindow->windowHandle(), key, modifiers);
 }
 
 QString DesktopTest::Sample(const QString& name) const { return ToQt(sourcePath("samples/" + FromQt(name))); }

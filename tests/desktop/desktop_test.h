@@ -65,6 +65,10 @@ protected:
     QPoint PlaceOf(GridWidget& grid, int row, int column);
     void ClickCell(GridWidget& grid, int row, int column);
     void DoubleClickCell(GridWidget& grid, int row, int column);
+    // By way of the window system, which gives the focus before the widget hears of the press.
+    void ClickOn(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
+    void ClickOn(QWidget& widget) { ClickOn(widget, widget.rect().center()); }
+    void PressInWindow(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     QString Sample(const QString& name) const;
     QString Path(const QString& name) const { return folder_.filePath(name); }

@@ -1,8 +1,10 @@
 #include "desktop_test.h"
+#include "platform/twips.h"
 
 #include "desktop/qt_text.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QRadioButton>
 #include <QToolBar>
@@ -46,7 +48,7 @@ TEST_F(DiagramTest, TheGridFillsTheWindowUnderTheDescription) {
         EXPECT_EQ(ActiveGrid().geometry(),
                   QRect(0, panel.height(), content.width(), content.height() - panel.height()));
         EXPECT_GT(field.x(), label.geometry().right());
-        EXPECT_LE(content.width() - field.geometry().right(), 100 / 15) << "twips";
+        EXPECT_EQ(content.width() - field.geometry().right() - 1, PixelsOf(100));
     }
 }
 
@@ -73,6 +75,56 @@ TEST_F(DiagramTest, ADoubleClickSelectsARowAndTheButtonsMoveIt) {
     DoubleClickCell(ActiveGrid(), 5, 1);
     EXPECT_EQ(Diagram().RowSelected, 0);
     EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+}
+
+TEST_F(DiagramTest, TheGridFillsWhatTheDescriptionLeavesAtEverySize) {
+    const auto expectLayout = [this] {
+        const QWidget& inner = *Face().widget();
+        const auto& panel = Find<QWidget>(Face(), "BottomPanel");
+        const auto& field = Find<QLineEdit>(Face(), "BottomText");
+        EXPECT_EQ(panel.geometry().topLeft(), QPoint(0, 0));
+        EXPECT_EQ(panel.height(), std::max(390 / 15, field.sizeHint().height() + 2));
+        EXPECT_EQ(panel.width(), inner.width());
+        EXPECT_EQ(ActiveGrid().geometry(),
+                  QRect(0, panel.height(), inner.width(), inner.height() - panel.height()));
+        EXPECT_EQ(field.width(), inner.width() - field.mapTo(&inner, QPoint()).x() - 7); // 100 twips
+    };
+    expectLayout();
+    Face().resize(700, 350);
+    QCoreApplication::processEvents();
+    expectLayout();
+    Face().showMaximized();
+    QCoreApplication::processEvents();
+    expectLayout();
+    desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    QCoreApplication::processEvents();
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command2").click(); });
+    Click("mnuAnalysisMatrix");
+    expectLayout();
+}
+
+TEST_F(DiagramTest, ADoubleClickOnTheFixedRowLeavesTheSelectionAsItIs) {
+    ClickCell(ActiveGrid(), 2, 1);
+    DoubleClickCell(ActiveGrid(), 0, 3);
+    EXPECT_EQ(Diagram().RowSelected, 0);
+    EXPECT_EQ(Diagram().Siatka.Row(), 2);
+    DoubleClickCell(ActiveGrid(), 2, 0);
+    EXPECT_EQ(Diagram().SelectedRow, 2);
+    DoubleClickCell(ActiveGrid(), 0, 1);
+    EXPECT_EQ(Diagram().SelectedRow, 2);
+}
+
+TEST_F(DiagramTest, TheMovingButtonsFollowTheWindowInFront) {
+    DoubleClickCell(ActiveGrid(), 2, 1);
+    auto* selected = desktop.ports.children.FaceOf(*desktop.session.ActiveWindow);
+    desktop.mainWindow->Area().setActiveSubWindow(desktop.ports.children.FaceOf(*sheet));
+    QCoreApplication::processEvents();
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command3").click(); });
+    Click("mnuAnalysisDiagram");
+    EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
+    desktop.mainWindow->Area().setActiveSubWindow(selected);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Item("toolDiagram.Up").isEnabled());
 }
 
 TEST_F(DiagramTest, KeysReachTheTargetOfAnInsertion) {

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -118,6 +119,33 @@ TEST_F(DialogsTest, TheCustomizedMeasureAsksAndEnterSelectsTheNextField) {
     EXPECT_EQ(desktop.session.CurrentDistType, 6);
     EXPECT_EQ(desktop.session.Par_P, 3);
     EXPECT_EQ(desktop.session.Par_R, 2);
+}
+
+TEST_F(DialogsTest, TheFieldsKeepTheirTextsForTheNextShowing) {
+    NewSheet(3, 2);
+    const auto showAndType = [this](const QString& expected, const QString& typed, const QString& button) {
+        InDialog([=, this](QDialog& dialog) {
+            Find<QComboBox>(dialog, "Combo1").setCurrentIndex(3);
+            InDialog([=, this](QDialog& customized) {
+                auto& p = Find<QLineEdit>(customized, "Text1");
+                EXPECT_EQ(p.text(), expected);
+                p.setFocus();
+                p.selectAll();
+                QTest::keyClicks(&p, typed);
+                Find<QPushButton>(customized, button).click();
+            });
+            Find<QPushButton>(dialog, "Command2").click();
+            dialog.reject();
+        });
+        desktop.mainWindow->Area().setActiveSubWindow(
+            desktop.ports.children.FaceOf(*desktop.session.DataWindows.at(1)));
+        QCoreApplication::processEvents();
+        Click("mnuAnalysisMatrix");
+    };
+    showAndType("2", "31", "Command2"); // cancelled, and kept all the same
+    showAndType("31", "32", "Command1");
+    showAndType("32", "33", "Command2");
+    EXPECT_EQ(desktop.session.Par_P, 32);
 }
 
 TEST_F(DialogsTest, CancelOfTheCustomizedMeasureLeavesTheMatrixDialogOpen) {

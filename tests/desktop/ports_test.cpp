@@ -3,9 +3,12 @@
 #include "desktop/qt_text.h"
 #include "support/golden.h"
 
+#include <QComboBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QScreen>
 #include <QSettings>
+#include <QTreeView>
 
 namespace dorvan::test {
 
@@ -50,12 +53,47 @@ TEST_F(PortsTest, AFileDialogShowsTitleFiltersAndTheSamples) {
     InDialog([](QDialog& dialog) {
         auto& files = dynamic_cast<QFileDialog&>(dialog);
         EXPECT_EQ(files.windowTitle(), "Dorvan - Select mdt file");
-        EXPECT_EQ(files.nameFilters(), QStringList({"mdt file (*.mdt)", "all (*.*)"}));
+        EXPECT_EQ(files.nameFilters(), QStringList({"mdt file (*.mdt) (*.mdt)", "all (*.*) (*)"}));
+        const auto shown = files.findChild<QComboBox*>("fileTypeCombo");
+        ASSERT_NE(shown, nullptr);
+        EXPECT_EQ(shown->itemText(0).trimmed(), "mdt file (*.mdt)");
+        EXPECT_EQ(shown->itemText(1).trimmed(), "all (*.*)");
         EXPECT_EQ(files.directory().absolutePath(), QDir(ToQt(sourcePath("samples"))).absolutePath());
         files.reject();
     });
     Click("mnuFData");
     EXPECT_TRUE(desktop.session.Children.empty());
+}
+
+TEST_F(PortsTest, AFileDialogStartsInTheFolderUsedLast) {
+    writeFile(FromQt(Path("notes")), "no document");
+    ChooseFile(Path("notes"));
+    AnswerNext("OK"); // it counts as an older file
+    AnswerNext("OK"); // and is none
+    Click("mnuFMatrix");
+    InDialog([this](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.directory().canonicalPath(), QDir(Path("")).canonicalPath());
+        files.reject();
+    });
+    Click("mnuFData");
+}
+
+TEST_F(PortsTest, AllFilesAreAlsoThoseWithoutADot) {
+    writeFile(FromQt(Path("notes")), "no document");
+    InDialog([this](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        files.setDirectory(Path(""));
+        files.selectNameFilter(files.nameFilters().at(1));
+        auto& names = *files.findChild<QTreeView*>("treeView");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return names.model()->rowCount(names.rootIndex()) == 1; }));
+        int width = 0;
+        for (int column = 0; column < names.header()->count(); ++column)
+            width += names.header()->sectionSize(column);
+        EXPECT_LE(width, names.viewport()->width());
+        files.reject();
+    });
+    Click("mnuFData");
 }
 
 TEST_F(PortsTest, TheSaveDialogAddsTheExtensionThatIsWrittenWithAStar) {

@@ -97,25 +97,29 @@ TEST_F(frmCustomizedTest, OKStoresTheParametersAndHidesTheDialog) {
 }
 
 TEST_F(frmCustomizedTest, TheFieldsKeepTheirTextsForTheNextShowing) {
-    int showing = 0;
-    const auto show = [&](const std::string& p, const std::string& r, const auto& leave) {
-        forms.scripts.push_back([&, p, r](Form& form) {
-            ++showing;
-            EXPECT_EQ(dialog.Text1.Text, p);
-            EXPECT_EQ(dialog.Text2.Text, r);
-            EXPECT_EQ(&form, &dialog);
-            leave();
+    // As any user of the dialog shows it: found by its class, then shown modally.
+    const auto show = [this](const std::string& p, const std::string& r, bool accept) {
+        std::string before;
+        forms.scripts.push_back([&, accept](Form& form) {
+            auto& shown = dynamic_cast<frmCustomized&>(form);
+            shown.Form_Show();
+            before = shown.Text1.Text + "/" + shown.Text2.Text;
+            shown.Text1.Text = p;
+            shown.Text2.Text = r;
+            if (accept)
+                shown.Command1_Click();
+            else
+                shown.Command2_Click();
         });
         platform.forms.showModal(session.forms.Load<frmCustomized>(session));
+        return before;
     };
-    show("2", "2", [&] { Accept("3", "4"); });
-    show("3", "4", [&] {
-        dialog.Text1.Text = "17";
-        dialog.Command2_Click();
-    });
-    show("17", "4", [&] { dialog.Command2_Click(); }); // what a Cancel left is kept as well
-    EXPECT_EQ(showing, 3);
-    EXPECT_EQ(session.Par_P, 3);
+    EXPECT_EQ(show("3", "4", true), "2/2");
+    EXPECT_EQ(show("8", "9", false), "3/4");
+    EXPECT_EQ(show("", "x", false), "8/9") << "a cancelled text stays as well";
+    EXPECT_EQ(show("5", "6", true), "/x");
+    EXPECT_EQ(session.Par_P, 5);
+    EXPECT_EQ(session.Par_R, 6);
 }
 
 TEST_F(frmCustomizedTest, AParameterBelowZeroIsTaken) {

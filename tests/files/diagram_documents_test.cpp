@@ -46,7 +46,7 @@ TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
     EXPECT_EQ(document().RecordNames(1), "Third one");
     EXPECT_EQ(document().VariableNames(2), "Width");
     EXPECT_EQ(document().RecordHasNA.Cells(), (std::vector<bool>{false, true, false}));
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    EXPECT_EQ(document().Classes.Cells(), (std::vector<std::int16_t>{5, 5, 1, 5, 5, 2, 1, 2, 5}));
     EXPECT_TRUE(session.DataHasNA);
 }
 
@@ -101,7 +101,7 @@ TEST_F(DiagramDocuments, AnOlderFileOpensAfterARemarkAndCountsAsChanged) {
     EXPECT_EQ(document().Par_P, 7);
     EXPECT_EQ(document().Par_R, 8);
     EXPECT_FALSE(document().NoData);
-    EXPECT_EQ(document().Classes, Array2<std::int16_t>(3, 3, 5));
+    EXPECT_EQ(document().Classes.Cells(), (std::vector<std::int16_t>{5, 1, 4, 1, 5, 1, 4, 1, 5}));
     EXPECT_EQ(session.PendingRecCount, 3);
     EXPECT_EQ(session.PendingVarCount, 2);
     EXPECT_EQ(session.SectionLimits.Cells(), (std::vector<float>{0.5f, 1.5f, 2.5f, 3.5f}));

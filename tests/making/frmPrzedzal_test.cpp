@@ -23,7 +23,6 @@ struct StillWindow : ChildWindow {
     void Form_Activate() override {}
     void Form_Deactivate() override {}
     void Form_Unload() override {}
-    void Present(const std::string&) override {}
 };
 
 class DiagramOptions : public ::testing::Test, public test::TestSession {

@@ -551,6 +551,7 @@ TEST_F(MakingDiagram, ClosedSlotIsUsedAgain) {
         ActivateChild(session, sheet);
     }
     EXPECT_EQ(Window(2).Caption, "[DIAGRAM]: Untitled:2");
+    messages.answers.push_back(Answer::No);
     CloseChild(session, Window(1));
     ActivateChild(session, sheet);
     Options();

@@ -66,6 +66,44 @@ TEST(CloseChild, CancelKeepsTheWindowOpenAndActive) {
     EXPECT_EQ(test.session.Children.size(), 1u);
 }
 
+TEST(CloseChild, BringsTheOneThatWasInFrontBeforeToTheFront) {
+    FakeWindowSession test;
+    auto& first = test.Open(DocumentKind::Data);
+    auto& second = test.Open(DocumentKind::Matrix);
+    auto& third = test.Open(DocumentKind::Diagram);
+    auto& fourth = test.Open(DocumentKind::Data);
+    ActivateChild(test.session, second);
+    ActivateChild(test.session, first); // in front of it: second, fourth, third
+    const auto order = [&] {
+        std::string names;
+        for (const auto& child : test.session.Children) names += child->Caption.back();
+        return names;
+    };
+    EXPECT_EQ(test.session.Children.back().get(), &first);
+    CloseChild(test.session, first);
+    EXPECT_EQ(test.session.ActiveWindow, &second);
+    EXPECT_EQ(test.session.Children.back().get(), &second);
+    CloseChild(test.session, third); // behind all others
+    EXPECT_EQ(test.session.ActiveWindow, &second);
+    CloseChild(test.session, second);
+    EXPECT_EQ(test.session.ActiveWindow, &fourth);
+    EXPECT_EQ(order(), "2");
+    CloseChild(test.session, fourth);
+    EXPECT_EQ(test.session.ActiveWindow, nullptr);
+}
+
+TEST(ActivateChild, OfTheActiveOneOrOfAClosedOneChangesNothing) {
+    FakeWindowSession test;
+    auto& first = test.Open(DocumentKind::Data);
+    auto& second = test.Open(DocumentKind::Data);
+    CloseChild(test.session, first);
+    test.log.clear();
+    ActivateChild(test.session, second);
+    ActivateChild(test.session, first);
+    EXPECT_EQ(test.log, Log{});
+    EXPECT_EQ(test.session.ActiveWindow, &second);
+}
+
 TEST(CloseChild, OfAWindowBehindLeavesTheActiveOneActive) {
     FakeWindowSession test;
     auto& first = test.Open(DocumentKind::Data);

@@ -379,7 +379,8 @@ TEST(Contact, ShowsABoxOfThatTitle) {
     EXPECT_EQ(test.messages.shown[0].Title, "Contact");
     EXPECT_EQ(test.messages.shown[0].Icon, MessageIcon::Information);
     EXPECT_EQ(test.messages.shown[0].Buttons, MessageButtons::Ok);
-    EXPECT_FALSE(test.messages.shown[0].Text.empty());
+    EXPECT_EQ(test.messages.shown[0].Text, "Questions, wishes and reports of faults:\r\n"
+                                           "maintainers@dorvan.example\r\nhttps://dorvan.example");
 }
 
 TEST(About, ShowsTheProgramAndItsVersionUntilOk) {

@@ -150,54 +150,54 @@ TEST(Toolbars, HoldEveryButtonWithItsToolTipAndEachCallsItsOperation) {
     Clicks clicks;
     std::string picture;
     for (const auto& toolbar : Toolbars()) {
-        picture += toolbar.Name + "\n";
+        picture += toolbar.Name + " \"" + toolbar.Spoken + "\"\n";
         for (const auto& button : toolbar.Buttons) {
             const auto calls =
                 clicks.Of([&](MainWindowTest& test) { return test.Click(toolbar.Name, button.Key); });
-            picture += "  " + button.Key + "|" + button.ToolTip + ": " + calls + "\n";
+            picture += (button.Gap ? "  | " : "  ") + button.Key + "|" + button.ToolTip + ": " + calls + "\n";
         }
     }
-    EXPECT_EQ(picture, R"(toolMain
+    EXPECT_EQ(picture, R"(toolMain "Main toolbar"
   New|New data: NewDataSheet
   Open|Open data: OpenDataFile
   OpenMatrix|Open matrix: OpenMatrixFile
   OpenDiagram|Open diagram: OpenDiagramFile
-  ImportDBF|Import data from DBF: ImportDBase
+  | ImportDBF|Import data from DBF: ImportDBase
   ImportTXT|Import data from text file: -
   ImportMatrix|Import matrix: ImportMatrix
-  Save|Save: SaveData, frmMacierz.SaveMatrix 2, frmDiagram.SaveDiagram 2, frmBMP.SaveBMP 2, -
+  | Save|Save: SaveData, frmMacierz.SaveMatrix 2, frmDiagram.SaveDiagram 2, frmBMP.SaveBMP 2, -
   SaveAs|SaveAs: SaveDataAs, frmMacierz.SaveMatrix 2, frmDiagram.SaveDiagram 2, frmBMP.SaveBMP 2, -
-  MakeMatrix|Create matrix: MakeMatrix
+  | MakeMatrix|Create matrix: MakeMatrix
   MakeDiagram|Create diagram: MakeDiagram
-  Print|Print: -, frmMacierz.PrintMatrix 2, frmDiagram.PrintDiagram 2, -, -
-  Help|Help: Help
-toolData
+  | Print|Print: -, frmMacierz.PrintMatrix 2, frmDiagram.PrintDiagram 2, -, -
+  | Help|Help: Help
+toolData "Data toolbar"
   Export|Export data: ExportData
-  AddRec|Add record: AddRecord
+  | AddRec|Add record: AddRecord
   DelRec|Delete record: DeleteRecord
-  AddVar|Add variable: AddVariable
+  | AddVar|Add variable: AddVariable
   DelVar|Delete variable: DeleteVariable
   EditVar|Edit variable: EditVariables
-  Standarization|Standardization: Standardization
-toolMatrix
+  | Standarization|Standardization: Standardization
+toolMatrix "Matrix toolbar"
   ExportMatrix|Export matrix: -, frmMacierz.ExportMatrix 2, -, -, -
-  CreateDiagram|Create Diagram: -
-toolBitmap
+  | CreateDiagram|Create Diagram: -
+toolBitmap "Bitmap toolbar"
   Copy|Copy: -, -, -, frmBMP.BitmapClip 2, -
-toolDiagram
+toolDiagram "Diagram toolbar"
   Select|Select: -, -, frmDiagram.SelectThisRow 2, -, -
   Home|Home: -, -, frmDiagram.Home 2, -, -
   Up|Up: -, -, frmDiagram.Up 2, -, -
   Down|Down: -, -, frmDiagram.Down 2, -, -
   End|End: -, -, frmDiagram.EndRow 2, -, -
   Insert|Insert: -, -, frmDiagram.Insert 2, -, -
-  Bitmap|Export bitmap graphic: -, -, frmDiagram.BITMAP 2, -, -
+  | Bitmap|Export bitmap graphic: -, -, frmDiagram.BITMAP 2, -, -
   Metafile|Export to metafile (WMF): -, -, frmDiagram.Metafile 2, -, -
-  Matrix|Matrix with new order: -, -, frmDiagram.Matrix 2, -, -
+  | Matrix|Matrix with new order: -, -, frmDiagram.Matrix 2, -, -
   DataOrder|Data with new order: -, -, frmDiagram.DataOrder 2, -, -
-  Histogram|Histogram: -, -, frmDiagram.Histogram 2, -, -
+  | Histogram|Histogram: -, -, frmDiagram.Histogram 2, -, -
   Linear|Linear: -, -, frmDiagram.Linear 2, -, -
-  DiagramType|Diagram type: -, -, frmDiagram.DiagramType 2, -, -
+  | DiagramType|Diagram type: -, -, frmDiagram.DiagramType 2, -, -
 )");
 }
 

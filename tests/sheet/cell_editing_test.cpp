@@ -1,6 +1,7 @@
 #include "numbers/text.h"
 #include "numbers/utf8.h"
 #include "platform/keys.h"
+#include "session/frmMDI.h"
 #include "sheet_session.h"
 
 #include <gtest/gtest.h>
@@ -168,12 +169,30 @@ TEST(StartOfAnEdit, AFixedCellCannotBeEntered) {
 TEST(StartOfAnEdit, TheGridsKeysDoNothingWhileADiagramIsMade) {
     EditTest test;
     test.session.DiagramBusy = 1;
-    test.KeyDown(key::F2);
-    test.KeyDown(key::Enter);
-    test.KeyPress('7');
-    EXPECT_FALSE(test.window.EditPanel.Visible);
-    EXPECT_FALSE(test.window.Editing);
+    const auto expectNothing = [&](int code) {
+        EXPECT_FALSE(test.window.EditPanel.Visible) << code;
+        EXPECT_FALSE(test.window.Editing) << code;
+        EXPECT_EQ(test.grid.Text(1, 2), "0.000") << code;
+        EXPECT_EQ(test.Current(), "1,2") << code;
+    };
+    // Swallowed, so that the grid does not take them either.
+    for (int code : {key::Enter, key::F2, key::Left, key::Up, key::Right, key::Down, key::Home, key::End,
+                     key::PageUp, key::PageDown, key::Backspace, key::Escape, key::Space}) {
+        const int pressed = code;
+        test.window.Grid1_KeyDown(code);
+        EXPECT_EQ(code, key::None) << pressed;
+        expectNothing(pressed);
+    }
+    for (int character : {int('7'), int('x'), int('/'), int('-'), key::Enter, key::Escape, key::Space}) {
+        const int typed = character;
+        test.window.Grid1_KeyPress(character);
+        EXPECT_EQ(character, key::None) << typed;
+        expectNothing(typed);
+    }
     EXPECT_EQ(test.signals.beeps, 0);
+    test.session.DiagramBusy = 0;
+    test.KeyDown(key::F2);
+    EXPECT_TRUE(test.window.Editing);
 }
 
 TEST(StartOfAnEdit, ADoubleClickSendsF2AndMarksTheSheetAsChanged) {
@@ -594,6 +613,103 @@ TEST(LossOfFocus, CommitsTheEditWithoutMoving) {
     EXPECT_FALSE(test.window.Editing);
     EXPECT_FALSE(test.window.EditPanel.Visible);
     EXPECT_EQ(test.window.ActiveControl, &test.window.OpisText) << "the focus stays where the user put it";
+}
+
+TEST(LossOfFocus, ByACommandGivesTheGridTheFocusAndCommits) {
+    EditTest test;
+    test.Type("1+2");
+    test.window.LeaveField();
+    EXPECT_EQ(test.grid.Text(1, 2), "3.000");
+    EXPECT_EQ(test.Current(), "1,2");
+    EXPECT_FALSE(test.window.Editing);
+    EXPECT_FALSE(test.window.EditPanel.Visible);
+    EXPECT_EQ(test.window.ActiveControl, &test.grid);
+}
+
+TEST(LossOfFocus, ByACommandWithoutAnEditChangesNothing) {
+    EditTest test;
+    test.window.SetFocus(test.window.OpisText);
+    test.window.LeaveField();
+    EXPECT_EQ(test.window.ActiveControl, &test.window.OpisText);
+    EXPECT_EQ(test.events.runs, 0);
+}
+
+TEST(LossOfFocus, ByACommandOfAnEmptiedFieldLeavesTheCellEmpty) {
+    EditTest test;
+    test.KeyDown(key::F2);
+    test.SetField("");
+    test.window.LeaveField();
+    EXPECT_EQ(test.grid.Text(1, 2), "");
+    EXPECT_FALSE(test.window.Editing);
+}
+
+TEST(LossOfFocus, ComesBeforeEveryCommandOfMenuAndToolbar) {
+    for (const bool byButton : {false, true}) {
+        EditTest test;
+        frmMDI main(test.session);
+        std::string seen;
+        test.session.commands.Set("MakeMatrix", [&](const CommandCall&) { seen = test.grid.Text(1, 2); });
+        test.Type("10/4");
+        if (byButton)
+            main.ButtonClick("toolMain", "MakeMatrix");
+        else
+            main.MenuClick("mnuAnalysisMatrix");
+        EXPECT_EQ(seen, "2.500");
+    }
+}
+
+TEST(LossOfFocus, ComesBeforeAnotherWindowIsTheActiveOne) {
+    EditTest test;
+    test.Type("1+2");
+    test.NewSheet(2, 2);
+    EXPECT_EQ(test.grid.Text(1, 2), "3.000");
+    ActivateChild(test.session, test.window);
+    test.Type("2+2");
+    ActivateChild(test.session, *test.session.DataWindows.at(2));
+    EXPECT_EQ(test.grid.Text(1, 2), "4.000");
+}
+
+TEST(LossOfFocus, MayCloseTheWindowThatWasToComeToTheFront) {
+    EditTest test;
+    auto& other = test.NewSheet(2, 2);
+    ActivateChild(test.session, test.window);
+    test.Type("1+2");
+    test.events.onRun = [&](int) { CloseChild(test.session, other); };
+    ActivateChild(test.session, other);
+    EXPECT_EQ(test.session.ActiveWindow, &test.window);
+    EXPECT_EQ(test.session.Children.size(), 1u);
+}
+
+TEST(LossOfFocus, MayCloseItsOwnWindowAndGiveTheSlotToAnother) {
+    EditTest test;
+    test.Type("1+2");
+    test.events.onRun = [&](int run) {
+        if (run > 1) return;
+        CloseChild(test.session, test.window);
+        test.NewSheet(2, 2);
+    };
+    test.window.LeaveField();
+    EXPECT_EQ(test.session.Children.size(), 1u);
+}
+
+TEST(LossOfFocus, ComesBeforeTheQuestionOfAClosingWindow) {
+    EditTest test;
+    test.Type("1+2");
+    test.session.DataStates[1].Dirty = true;
+    test.messages.answers = {Answer::Cancel};
+    EXPECT_FALSE(CloseChild(test.session, test.window));
+    EXPECT_EQ(test.grid.Text(1, 2), "3.000");
+    EXPECT_FALSE(test.window.Editing);
+}
+
+TEST(LossOfFocus, TheDeletionOfARecordMakesItsOwn) {
+    EditTest test;
+    frmMDI main(test.session);
+    bool editing = false;
+    test.session.commands.Set("DeleteRecord", [&](const CommandCall&) { editing = test.window.Editing; });
+    test.Type("5");
+    main.MenuClick("mnuEditRecDelete");
+    EXPECT_TRUE(editing) << "what it drops has not been committed";
 }
 
 TEST(LossOfFocus, OfAnEmptiedFieldLeavesTheCellEmpty) {

@@ -231,6 +231,30 @@ TEST(DiagramActivation, OnlyADiagramWithDataHasADatasetToCreate) {
     }
 }
 
+TEST(DiagramActivation, TheMovingButtonsGoWithTheSelectionOfTheDiagramInFront) {
+    DiagramSession at;
+    const auto moving = [&] {
+        std::string on;
+        for (const auto* key : {"Up", "Down", "Home", "End", "Insert"})
+            if (at.session.mainWindow.ButtonEnabled("toolDiagram", key)) on += key;
+        return on;
+    };
+    auto& selected = at.Open(3);
+    ShowChild(at.session, selected);
+    selected.Siatka.SetCurrent(2, 1);
+    selected.SelectThisRow();
+    EXPECT_EQ(moving(), "UpDownHomeEndInsert");
+    auto& other = at.Open(3);
+    ShowChild(at.session, other);
+    EXPECT_EQ(moving(), "");
+    ActivateChild(at.session, selected);
+    EXPECT_EQ(moving(), "UpDownHomeEndInsert");
+    ActivateChild(at.session, other);
+    EXPECT_EQ(moving(), "");
+    CloseChild(at.session, other);
+    EXPECT_EQ(moving(), "UpDownHomeEndInsert");
+}
+
 TEST(DiagramDeactivation, SwitchesTheCommandsOfADiagram) {
     DiagramSession at;
     auto& window = at.Open(2);

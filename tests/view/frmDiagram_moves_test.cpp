@@ -60,6 +60,52 @@ TEST(DiagramSelection, SelectsTheCurrentRowAsACross) {
         for (int column = 0; column < 2; ++column) EXPECT_EQ(window.Siatka.Picture(row, column), 0);
 }
 
+TEST(DiagramSelection, LeavesTheCurrentCellOnTheDiagonal) {
+    DiagramSession at;
+    auto& window = OpenSelected(at, 4, 2);
+    EXPECT_EQ(window.Siatka.Row(), 2);
+    EXPECT_EQ(window.Siatka.Column(), 3);
+    window.Down();
+    EXPECT_EQ(window.Siatka.Row(), 3);
+    EXPECT_EQ(window.Siatka.Column(), 4);
+    window.Home();
+    EXPECT_EQ(window.Siatka.Row(), 1);
+    EXPECT_EQ(window.Siatka.Column(), 2);
+    window.Siatka.SetCurrent(4, 1);
+    window.SelectThisRow(); // taken back
+    EXPECT_EQ(window.Siatka.Row(), 1);
+    EXPECT_EQ(window.Siatka.Column(), 2);
+    std::int16_t row = 3;
+    window.SelectRow(row);
+    EXPECT_EQ(window.Siatka.Column(), 4);
+    window.Siatka.SetCurrent(1, 1);
+    window.UnSelectRow(row);
+    EXPECT_EQ(window.Siatka.Row(), 3);
+    EXPECT_EQ(window.Siatka.Column(), 4);
+}
+
+TEST(DiagramSelection, ADoubleClickOnTheFixedRowLeavesItAsItIs) {
+    DiagramSession at;
+    auto& window = at.Open(4);
+    window.Siatka.SetCurrent(2, 1);
+    window.Siatka.Press(0, 3);
+    window.Siatka_DblClick();
+    EXPECT_EQ(window.RowSelected, 0);
+    EXPECT_EQ(window.Siatka.Row(), 2);
+    window.Siatka.Press(2, 0); // the fixed column selects
+    window.Siatka_DblClick();
+    EXPECT_EQ(window.SelectedRow, 2);
+    window.Siatka.Press(0, 3);
+    window.Siatka_DblClick();
+    EXPECT_EQ(window.SelectedRow, 2);
+    EXPECT_EQ(window.RowSelected, 1);
+    ExpectPicture(window, 2);
+    EXPECT_EQ(at.signals.beeps, 0);
+    at.session.DiagramBusy = 1;
+    window.Siatka_DblClick();
+    EXPECT_EQ(at.signals.beeps, 1);
+}
+
 TEST(DiagramSelection, IsTakenBackFromAnyCurrentRow) {
     DiagramSession at;
     auto& window = OpenSelected(at, 4, 2);

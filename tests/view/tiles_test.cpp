@@ -248,6 +248,23 @@ TEST(CellTile, AnUnknownTypeHasOnlyTheTilesThatAllTypesShare) {
     }
 }
 
+TEST(DescribeTile, TellsTheClassTheMissingValueAndTheSelectionOfEveryTile) {
+    for (int number = 1; number < TileCount; ++number) {
+        const Tile tile = static_cast<Tile>(number);
+        const std::string name(TileName(tile));
+        std::string expected = "class " + name.substr(name.find('0') + 1, 1);
+        if (name.ends_with("NA")) expected += " with a missing value";
+        if (name.starts_with("picSelect")) expected += " selected";
+        if (name == "picColor06") expected = "not classified";
+        EXPECT_EQ(DescribeTile(tile), expected) << name;
+    }
+    EXPECT_EQ(DescribeTile(Tile::picColor03), "class 3");
+    EXPECT_EQ(DescribeTile(Tile::picSelectClassic01), "class 1 selected");
+    EXPECT_EQ(DescribeTile(Tile::picSelectCircle02NA), "class 2 with a missing value selected");
+    EXPECT_EQ(DescribeTile(Tile::None), "");
+    EXPECT_THROW(DescribeTile(static_cast<Tile>(TileCount)), RuntimeFailure);
+}
+
 TEST(CellTile, ACellOutsideIsASubscriptFailure) {
     const auto document = TwoRecords(2, 2, false, false);
     EXPECT_THROW(CellTile(document, 0, 1, false), RuntimeFailure);

@@ -1,0 +1,19 @@
+#include "view/frmDiagramType.h"
+
+namespace dorvan {
+
+void frmDiagramType::Form_Load() {
+    Index = session_.NewWindowIndex;
+    Option1.Value = Type() == 1;
+    Option2.Value = Type() == 2;
+    Option3.Value = Type() == 3;
+}
+
+void frmDiagramType::OKButton_Click() {
+    if (Option1.Value) Type() = 1;
+    if (Option2.Value) Type() = 2;
+    if (Option3.Value) Type() = 3;
+    Hide();
+}
+
+} // namespace dorvan
