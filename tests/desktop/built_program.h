@@ -19,7 +19,7 @@ public:
         std::string Rescued() const { return folder / "Documents/Dorvan rescued documents"; }
         // The documents in the journal, those of all runs.
         std::vector<std::string> Journal() const;
-        // Waits until there are so many of them; a test failure after 20 seconds.
+        // Waits until there are so many of them; a test failure after a minute.
         void ExpectInJournal(std::size_t count) const;
     };
 
@@ -34,7 +34,7 @@ public:
     void Send(int signal) const;
     bool Runs() const; // it has not ended yet
 
-    // Waits for the end, at most 20 seconds. The exit status; 128 + n when the signal n ended it.
+    // Waits for the end, at most a minute. The exit status; 128 + n when the signal n ended it.
     int Status();
 
     std::string Errors() const; // what it wrote to its standard error so far

@@ -119,7 +119,7 @@ TEST_F(EndsTest, ALostScreenRescues) {
     Start({screen.Setting(), "QT_QPA_PLATFORM=xcb"});
     home.ExpectInJournal(1);
     screen.End();
-    EXPECT_EQ(program->Status(), 1);
+    EXPECT_NE(program->Status(), 0);
     ExpectRescued();
 }
 
