@@ -117,7 +117,7 @@ TEST_F(JournalTest, DoesNothingForWhatHasNotChanged) {
 TEST_F(JournalTest, SeesEveryKindOfChange) {
     auto& sheet = NewSheet();
     Look(10);
-    const auto changed = [&, second = 10.0](const auto& change) mutable {
+    auto changed = [&, second = 10.0](const auto& change) mutable {
         const int before = run->pieces;
         change();
         Look(second += 2);
