@@ -1,6 +1,7 @@
 #include "program/journal.h"
 
 #include "files/data_documents.h"
+#include "numbers/text.h"
 #include "program_session.h"
 #include "sheet/frmNotePad.h"
 #include "view/frmDiagram.h"
