@@ -1,7 +1,8 @@
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "tests/distance/plain_measures.h"
 
 #include <benchmark/benchmark.h>
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <chrono>
@@ -17,14 +18,15 @@ namespace {
 
 // Scores 0 and 1 for the binary measures, else numbers from 0 to 10 with two decimals; a cell in 50 missing
 // for the measures that skip missing ones.
-FloatTable Sheet(std::int32_t n, std::int32_t m, std::int16_t type) {
+FloatTable Sheet(std::int32_t n, std::int32_t m, DistanceType type) {
+    const MeasureRow& row = *FindMeasure(std::int16_t(type));
     std::mt19937 random(static_cast<std::uint32_t>(n * 1000 + m));
     FloatTable values(n, m);
     for (float& value : values.Cells()) {
         const std::uint32_t draw = random();
-        if (type >= DistanceType::DfDD && type <= DistanceType::YulesQ)
+        if (row.Kind == DataKind::Binary)
             value = static_cast<float>(draw % 2);
-        else if (type <= DistanceType::Czekanowski && draw % 50 == 0)
+        else if (row.KnowsMissingValues && draw % 50 == 0)
             value = NaValue;
         else
             value = static_cast<float>(draw % 1001) / 100.0f;
@@ -59,22 +61,19 @@ void Register(const std::string& name, Measure measure, std::int32_t n, std::int
         ->Unit(benchmark::kMicrosecond);
 }
 
+using ParameterPairs = std::vector<std::pair<std::int16_t, std::int16_t>>;
+const ParameterPairs NoParameters{{0, 0}};
+const ParameterPairs Parameters{{2, 2}, {3, 3}};
+
 void RegisterAll() {
-    const std::pair<const char*, Measure> measures[] = {{"Henzel", {1}},
-                                                        {"Czekanowski", {2}},
-                                                        {"Euclidean", {3}},
-                                                        {"Manhattan", {4}},
-                                                        {"Chebychev", {5}},
-                                                        {"Customized/p2r2", {6, 2, 2}},
-                                                        {"Customized/p3r3", {6, 3, 3}},
-                                                        {"DfDD", {7}},
-                                                        {"LanceAndWilliams", {8}},
-                                                        {"Jaccard", {9}},
-                                                        {"YulesQ", {10}}};
-    for (const auto& [name, measure] : measures) {
-        for (const auto& [n, m] : {std::pair{150, 10}, {250, 10}, {250, 100}}) Register(name, measure, n, m);
-        if (measure.Type == DistanceType::Jaccard) Register(name, measure, 250, 20);
-    }
+    for (const MeasureRow& row : Measures())
+        for (const auto& [p, r] : row.Code == DistanceType::Customized ? Parameters : NoParameters) {
+            const std::string name = p == 0 ? row.Name : fmt::format("{}/p{}r{}", row.Name, p, r);
+            const Measure measure{row.Code, p, r};
+            for (const auto& [n, m] : {std::pair{150, 10}, {250, 10}, {250, 100}})
+                Register(name, measure, n, m);
+            if (row.Code == DistanceType::Jaccard) Register(name, measure, 250, 20);
+        }
 }
 
 } // namespace

@@ -17,9 +17,9 @@
 #include <random>
 #include <string>
 
-// The command Make Diagram on a sheet of 250 records, from the text of the sheet to the shown (but unpainted)
-// window, beside the plain making in the same run: the counter "ratio" tells how many times the plain one
-// takes as long.
+// The command Make Diagram on a sheet of 250 records, from the text of the sheet to the window with its grid
+// filled (but not painted), beside the plain making in the same run: the counter "ratio" tells how many times
+// the plain one takes as long.
 namespace dorvan {
 namespace {
 
@@ -63,8 +63,8 @@ struct SheetSession : bench::SilentSession {
 
     DiagramDocument MakePlainly() {
         LoadWorkingData(session);
-        return test::PlainDiagram(session.DataValues, session.RecordNames, session.VariableNames,
-                                  {.Type = DistanceType::Euclidean}, ordered);
+        return test::PlainDiagram(session.tables.DataValues, session.tables.RecordNames,
+                                  session.tables.VariableNames, {.Type = DistanceType::Euclidean}, ordered);
     }
 };
 
@@ -95,7 +95,7 @@ void Making(benchmark::State& state, std::int32_t variables, bool ordered) {
 void AutomaticLimits(benchmark::State& state) {
     SheetSession sheet(10, false);
     sheet.Make();
-    const FloatTable distances = sheet.session.DistanceValues;
+    const FloatTable distances = sheet.session.tables.DistanceValues;
     for (auto _ : state) benchmark::DoNotOptimize(ComputeAutomaticLimits(distances));
     const double plain = LeastTime([&] { benchmark::DoNotOptimize(test::PlainAutomaticLimits(distances)); });
     Report(state, plain, LeastTime([&] { benchmark::DoNotOptimize(ComputeAutomaticLimits(distances)); }));

@@ -1,8 +1,10 @@
 #include "bench/silent_platform.h"
-#include "distance/measures.h"
-#include "making/plain_orderings.h"
+#include "distance/distance.h"
 #include "making/genetic_ordering.h"
+#include "making/ordering_method.h"
+#include "making/ordering_options.h"
 #include "making/ordering_runs.h"
+#include "making/plain_orderings.h"
 #include "making/ravelin_ordering.h"
 
 #include <benchmark/benchmark.h>
@@ -25,7 +27,7 @@ FloatTable DistancesOfPoints(std::int32_t n) {
     constexpr std::int32_t variables = 10;
     RandomSource random(static_cast<std::uint64_t>(n));
     FloatTable points(n, variables);
-    for (auto& value : points.Cells()) value = 50 * random.draw();
+    for (auto& value : points.Cells()) value = 50 * random.Draw();
     return DistancesBetweenRows(points, n, variables, {.Type = DistanceType::Euclidean});
 }
 
@@ -51,8 +53,8 @@ struct WatchedSession : bench::SilentSession {
 
     Order Run(std::int16_t method, const OrderingOptions& options, const FloatTable& distances) {
         session.random = RandomSource(Seed);
-        session.ordering = options;
-        return session.orderingMethods.at(method).run(session, distances);
+        session.Of<OrderingOptions>() = options;
+        return session.Of<OrderingMethods>().at(method).run(session, distances);
     }
 };
 

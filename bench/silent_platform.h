@@ -22,7 +22,10 @@ struct SilentPorts : MessageBoxes,
                      Screen,
                      Clock,
                      SettingsStore,
-                     HelpViewer {
+                     HelpViewer,
+                     TextMeasure,
+                     Rasterizer,
+                     PictureClipboard {
     using Section = std::vector<std::pair<std::string, std::string>>;
 
     std::function<void(Form&)> answerDialog = [](Form& form) { form.CancelCommand(); };
@@ -55,6 +58,10 @@ struct SilentPorts : MessageBoxes,
     void write(const std::string&, const std::string&, const std::string&) override {}
     Section readSection(const std::string&) override { return {}; }
     void show(const std::string&, int) override {}
+    TextExtent extentOf(const std::string&, const drawing::Font&) override { return {}; }
+    PixelImage pixelsOf(const Drawing&) override { return {}; }
+    void clear() override {}
+    void put(const Drawing&) override {}
 };
 
 // A started session over silent ports.
@@ -69,7 +76,10 @@ struct SilentSession : SilentPorts {
                       .screen = *this,
                       .clock = *this,
                       .settings = *this,
-                      .help = *this};
+                      .help = *this,
+                      .fonts = *this,
+                      .raster = *this,
+                      .clipboard = *this};
     Session session{platform};
 
     SilentSession() {

@@ -38,19 +38,16 @@ template <class Read> void forEachLocale(const Read& read) {
 
 inline std::string composeSheet(const DocumentTables& tables, const std::string& description,
                                 const FileText& text) {
-    Grid sheet("Grid1");
-    sheet.SetSize(tables.RecordNames.Count() + 1, tables.VariableNames.Count() + 2);
-    for (int j = 1; j <= tables.VariableNames.Count(); ++j) sheet.SetText(0, j + 1, tables.VariableNames(j));
-    for (int i = 1; i <= tables.RecordNames.Count(); ++i) {
-        sheet.SetText(i, 1, tables.RecordNames(i));
-        for (int j = 1; j <= tables.VariableNames.Count(); ++j) {
+    SheetTable sheet(tables.RecordNames.Count(), tables.VariableNames.Count());
+    sheet.RecordNames = tables.RecordNames;
+    sheet.VariableNames = tables.VariableNames;
+    for (int i = 1; i <= sheet.RecordCount(); ++i)
+        for (int j = 1; j <= sheet.VariableCount(); ++j) {
             const float value = tables.DataValues(i, j);
-            sheet.SetText(i, j + 1,
-                          IsEmptyValue(value) ? std::string()
-                          : value == NaValue  ? std::string(NaText)
-                                              : FormatPattern(value, "###0.000", text.DecimalSeparator));
+            sheet.Cells(i, j) = IsEmptyValue(value) ? std::string()
+                                : value == NaValue  ? std::string(NaText)
+                                                    : FormatPattern(value, "###0.000", text.DecimalSeparator);
         }
-    }
     return ComposeDataFile(sheet, description, text);
 }
 

@@ -1,18 +1,11 @@
 #include "cli/cli_platform.h"
 
-#include "distance/frmCustomized.h"
-#include "distance/frmOpcjeMacierzy.h"
-#include "distance/measure_lists.h"
-#include "making/frmGenetic.h"
-#include "making/frmGeneticUM.h"
-#include "making/frmPrzedzal.h"
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "numbers/text.h"
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <ctime>
@@ -25,56 +18,6 @@ namespace {
 constexpr int BarLength = 30; // characters
 
 std::string OneLine(std::string_view text) { return ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "); }
-
-// Chooses the measure in the two lists that both options dialogs have.
-template <class Options> void ChooseMeasure(Options& form, const Choices& choices) {
-    if (choices.measure.empty()) return;
-    const MeasurePlace place = PlaceOfMeasure(MeasureNumber(choices.measure).value());
-    form.cboData.ListIndex = place.DataKind;
-    form.cboData_Click();
-    form.Combo1.ListIndex = place.Position;
-}
-
-void Fill(frmOpcjeMacierzy& form, const Choices& choices) {
-    ChooseMeasure(form, choices);
-    form.Command2_Click();
-}
-
-void Fill(frmCustomized& form, const Choices& choices) {
-    if (!choices.parameterP.empty()) form.Text1.Text = choices.parameterP;
-    if (!choices.parameterR.empty()) form.Text2.Text = choices.parameterR;
-    form.Command1_Click();
-}
-
-void Fill(frmPrzedzal& form, const Choices& choices) {
-    ChooseMeasure(form, choices);
-    if (choices.type == "greyscale") form.Option1_Click();
-    if (choices.type == "dots") form.Option2_Click();
-    if (choices.type == "classic") form.Option3_Click();
-    if (choices.order == "none") form.Option6_Click();
-    if (choices.order == "simple") form.Option7_Click();
-    if (choices.order == "genetic") form.Option8_Click();
-    if (choices.order == "ravelin") form.Option9_Click();
-    form.Command3_Click();
-}
-
-void Select(ComboBox& list, const std::string& item) {
-    const auto found = std::find(list.List.begin(), list.List.end(), item);
-    if (found != list.List.end()) list.ListIndex = static_cast<int>(found - list.List.begin());
-}
-
-void Fill(frmGenetic& form, const Choices& choices) {
-    Select(form.cboGen, choices.generations);
-    Select(form.cboVar, choices.variants);
-    form.Command1_Click();
-}
-
-void Fill(frmGeneticUM& form, const Choices& choices) {
-    for (const auto& row : form.Rows())
-        if (const auto text = choices.ravelin.find(row.Field->Name); text != choices.ravelin.end())
-            row.Field->Text = text->second;
-    form.Command1_Click();
-}
 
 std::string ProgressLine(const frmWork& form) {
     return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
@@ -125,11 +68,8 @@ Answer CliPlatform::show(const Message& message) {
 void CliPlatform::showModal(Form& form) {
     form.Visible = true;
     form.Form_Show();
-    if (auto* matrix = dynamic_cast<frmOpcjeMacierzy*>(&form)) Fill(*matrix, choices);
-    if (auto* customized = dynamic_cast<frmCustomized*>(&form)) Fill(*customized, choices);
-    if (auto* diagram = dynamic_cast<frmPrzedzal*>(&form)) Fill(*diagram, choices);
-    if (auto* genetic = dynamic_cast<frmGenetic*>(&form)) Fill(*genetic, choices);
-    if (auto* ravelin = dynamic_cast<frmGeneticUM*>(&form)) Fill(*ravelin, choices);
+    const auto answer = answers_.find(typeid(form));
+    if (answer != answers_.end()) answer->second(form);
     if (!form.Visible) return;
     const std::string reason =
         messages.empty() ? "the dialog " + form.Name + " has no answer" : messages.back();

@@ -1,11 +1,14 @@
 #pragma once
 
-#include "cli/drawn_text.h"
-#include "cli/requests.h"
+#include "cli/offscreen_drawing.h"
 #include "platform/platform.h"
 
+#include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
+#include <typeindex>
+#include <utility>
 #include <vector>
 
 namespace dorvan::cli {
@@ -16,8 +19,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// The ports of a run without a screen. Messages are kept; a dialog is filled from the user's choices and its
-// OK is pressed; a dialog that stays open after that is a refusal with its last message.
+// The ports of a run without a screen. Messages are kept; a dialog gets the answer that was left for
+// its class; one that stays open after that is a refusal with its last message.
 class CliPlatform : public MessageBoxes,
                     public FileChoice,
                     public FormDisplay,
@@ -28,12 +31,20 @@ class CliPlatform : public MessageBoxes,
                     public Screen,
                     public Clock,
                     public SettingsStore,
-                    public HelpViewer {
+                    public HelpViewer,
+                    public PictureClipboard {
 public:
-    Choices choices;
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
-    DrawnText text;
+    OffscreenDrawing drawing;
+    std::string fileToOpen; // what the dialog for opening answers
+
+    // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
+    template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {
+        answers_[typeid(Dialog)] = [answer = std::move(answer)](Form& form) {
+            answer(dynamic_cast<Dialog&>(form));
+        };
+    }
 
     Platform platform{.messages = *this,
                       .files = *this,
@@ -45,10 +56,13 @@ public:
                       .screen = *this,
                       .clock = *this,
                       .settings = *this,
-                      .help = *this};
+                      .help = *this,
+                      .fonts = drawing,
+                      .raster = drawing,
+                      .clipboard = *this};
 
     Answer show(const Message& message) override;
-    std::string toOpen(const FileRequest&) override { return {}; }
+    std::string toOpen(const FileRequest&) override { return fileToOpen; }
     std::string toSave(const FileRequest&) override { return {}; }
     void showModal(Form& form) override;
     void show(Form& form) override;
@@ -71,8 +85,11 @@ public:
     void write(const std::string&, const std::string&, const std::string&) override {}
     std::vector<std::pair<std::string, std::string>> readSection(const std::string&) override { return {}; }
     void show(const std::string&, int) override {}
+    void clear() override {}
+    void put(const Drawing&) override {}
 
 private:
+    std::map<std::type_index, std::function<void(Form&)>> answers_;
     Form* running_ = nullptr; // the progress window that is up
     double shownAt_ = 0;      // when its bar was shown last; 0 when there is none
 };

@@ -1,7 +1,7 @@
 #include "cli/information.h"
 
 #include "distance/frmMacierz.h"
-#include "distance/measure_lists.h"
+#include "distance/measures.h"
 #include "making/order_quality.h"
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
@@ -28,9 +28,8 @@ private:
 };
 
 std::string MeasureText(std::int16_t code) {
-    if (code < 1 || code > 10) return fmt::format("{}", code);
-    const MeasurePlace place = PlaceOfMeasure(code);
-    return fmt::format("{} ({})", MeasuresOfKind(place.DataKind).at(std::size_t(place.Position)), code);
+    const MeasureRow* row = FindMeasure(code);
+    return row ? fmt::format("{} ({})", row->ListText, code) : fmt::format("{}", code);
 }
 
 std::string TypeText(std::int16_t type) {
@@ -45,7 +44,7 @@ std::string Score(float (*scoreOf)(const FloatTable&), const FloatTable& distanc
     try {
         return FormatPattern(double(scoreOf(distances)), "###0.00000", separator);
     } catch (const RuntimeFailure& failure) {
-        return LowerCase(FailureText(failure.failure()));
+        return LowerCase(FailureText(failure.Kind()));
     }
 }
 
@@ -105,7 +104,7 @@ std::string AboutDiagram(frmDiagram& window, char separator) {
     lines.add("variables", document.VarCount);
     lines.add("description", window.BottomText.Text);
     lines.add("measure", MeasureText(document.DistType));
-    if (document.DistType == 6) {
+    if (document.DistType == DistanceType::Customized) {
         lines.add("p", document.Par_P);
         lines.add("r", document.Par_R);
     }

@@ -1,6 +1,5 @@
 #include "cli/manual_page.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <iterator>
@@ -41,21 +40,22 @@ public:
         Line(".EE");
     }
 
-    // What an option or positional argument is called, and what it says of itself.
-    void Option(const CLI::Option& option) {
-        const bool positional = option.get_positional();
-        Line(".TP\n.{} {}", positional ? "I" : "B", Plain(option.get_name(positional)));
-        Line("{}", Plain(option.get_description()));
+    // What an option or argument is called (of "-y,--yes" the longer name), and what it says of itself.
+    void Describe(const Option& option) {
+        Line(".TP\n.{} {}", option.IsArgument() ? "I" : "B",
+             Plain(option.Name.substr(option.Name.find(',') + 1)));
+        Line("{}", Plain(option.Help));
     }
 
-    void Subcommand(const CLI::App& command) {
-        Line(".SS dorvan\\-cli {}", Plain(command.get_name()));
-        Line("{}.", Plain(command.get_description()));
-        for (const bool positionals : {true, false})
-            for (const auto* option : command.get_options(nullptr))
-                if (option->get_positional() == positionals && option->get_name() != "--help")
-                    Option(*option);
-        Verbatim(command.get_footer());
+    void Describe(const Subcommand& subcommand, const std::string& group = {}) {
+        const std::string name = group + subcommand.Name;
+        Line(".SS dorvan\\-cli {}", Plain(name));
+        Line("{}.", Plain(subcommand.Help));
+        for (const bool arguments : {true, false})
+            for (const auto& option : subcommand.Takes.All())
+                if (option.IsArgument() == arguments) Describe(option);
+        Verbatim(subcommand.Footer);
+        for (const auto& inner : subcommand.Inner) Describe(inner, name + " ");
     }
 
     std::string Text() && { return std::move(text_); }
@@ -66,15 +66,15 @@ private:
 
 } // namespace
 
-std::string ManualPage(const CLI::App& program, const std::string& version, const std::string& date) {
+std::string ManualPage(const std::string& description, const std::vector<Subcommand>& subcommands,
+                       const std::string& version, const std::string& date) {
     Page page;
     page.Line(".TH DORVAN\\-CLI 1 \"{}\" \"{}\" \"User Commands\"", date, version);
     page.Line(".SH NAME\ndorvan\\-cli \\- make, order and draw diagrams of similarities without a screen");
     page.Line(".SH SYNOPSIS\n.B dorvan\\-cli\n.I SUBCOMMAND\n.RI [ OPTION ...]\n.IR FILE ...");
-    page.Line(".SH DESCRIPTION\n{}.", Plain(program.get_description()));
+    page.Line(".SH DESCRIPTION\n{}.", Plain(description));
     page.Line(".SH SUBCOMMANDS");
-    for (const auto* command : program.get_subcommands(nullptr))
-        if (!command->get_name().empty()) page.Subcommand(*command);
+    for (const auto& subcommand : subcommands) page.Describe(subcommand);
     page.Line(".SH EXIT STATUS\n0 when the work was done, 1 when it was refused or failed (one line on "
               "standard error "
               "says why), 2 for wrong usage.");

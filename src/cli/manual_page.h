@@ -1,15 +1,15 @@
 #pragma once
 
-#include <string>
+#include "cli/subcommand.h"
 
-namespace CLI {
-class App;
-}
+#include <string>
+#include <vector>
 
 namespace dorvan::cli {
 
-// The manual page of the program, in roff, from what it says of its own subcommands and options. `date` is
-// that of the release, `version` as in "Dorvan 3.3.44".
-std::string ManualPage(const CLI::App& program, const std::string& version, const std::string& date);
+// The manual page of the program, in roff, from what it says of itself and its subcommands. `date` is that of
+// the release, `version` as in "Dorvan 3.3.44".
+std::string ManualPage(const std::string& description, const std::vector<Subcommand>& subcommands,
+                       const std::string& version, const std::string& date);
 
 } // namespace dorvan::cli

@@ -255,6 +255,44 @@ void Bindings::List(QListWidget* list, ListBox& control, const QString& accessib
     });
 }
 
+void Bindings::MultiList(QListWidget* list, MultiListBox& control, const QString& accessibleName,
+                         MultiListEvents events) {
+    Name(list, control, accessibleName);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    listKeys_[list] = std::move(events.keyDown);
+    const auto read = [list, &control] {
+        control.ListIndex = list->currentRow();
+        for (std::size_t row = 0; row < control.Selected.size(); ++row)
+            control.Selected[row] = list->item(static_cast<int>(row))->isSelected();
+    };
+    connect(list, &QListWidget::currentRowChanged, this, read);
+    connect(list, &QListWidget::itemSelectionChanged, this, read);
+    connect(list, &QListWidget::itemDoubleClicked, this,
+            [this, list, &control, click = std::move(events.doubleClick)](const QListWidgetItem* item) {
+                control.ListIndex = list->row(item);
+                Forward(click);
+            });
+    mirrors_.push_back([list, &control] {
+        const QSignalBlocker blocker(list);
+        MirrorItems(list, control);
+        list->setCurrentRow(control.ListIndex, QItemSelectionModel::NoUpdate);
+        for (std::size_t row = 0; row < control.Selected.size(); ++row)
+            list->item(static_cast<int>(row))->setSelected(control.Selected[row]);
+    });
+}
+
+void Bindings::Path(QLabel* label, const Control& control) {
+    Name(label, control, {});
+    label->setTextFormat(Qt::PlainText);
+    mirrors_.push_back([label, &control] {
+        const QString path = dorvan::ToQt(control.Caption);
+        if (label->toolTip() != path) label->setToolTip(path);
+        if (label->accessibleName() != path) label->setAccessibleName(path);
+        const QString shown = label->fontMetrics().elidedText(path, Qt::ElideMiddle, label->width());
+        if (label->text() != shown) label->setText(shown);
+    });
+}
+
 void Bindings::Progress(QProgressBar* widget, const Bar& track, const Bar& bar,
                         const QString& accessibleName) {
     Name(widget, bar, accessibleName);
@@ -339,6 +377,13 @@ bool Bindings::KeyToField(Field_& field, QObject* watched, QKeyEvent& event) {
     return true;
 }
 
+bool Bindings::KeyToList(const std::function<void(int& keyCode)>& keyDown, const QKeyEvent& event) {
+    int keyCode = event.modifiers() == Qt::NoModifier ? KeyCodeOf(event) : key::None;
+    if (keyCode == key::None || !keyDown) return false;
+    Forward([&] { keyDown(keyCode); });
+    return keyCode == key::None;
+}
+
 bool Bindings::eventFilter(QObject* watched, QEvent* event) {
     if (!form_ || passing_) return false;
     auto* widget = static_cast<QWidget*>(watched);
@@ -346,8 +391,11 @@ bool Bindings::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn: FocusIn(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::FocusOut: FocusOut(widget, static_cast<QFocusEvent*>(event)->reason()); return false;
     case QEvent::KeyPress: {
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (const auto list = listKeys_.find(watched); list != listKeys_.end())
+            return KeyToList(list->second, key);
         const auto field = fields_.find(watched);
-        return field != fields_.end() && KeyToField(field->second, watched, static_cast<QKeyEvent&>(*event));
+        return field != fields_.end() && KeyToField(field->second, watched, key);
     }
     default: return false;
     }

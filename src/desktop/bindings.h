@@ -2,6 +2,7 @@
 
 #include "desktop/event_dispatch.h"
 #include "platform/form.h"
+#include "platform/multi_list_box.h"
 
 #include <QObject>
 
@@ -33,6 +34,12 @@ struct FieldEvents {
     std::function<void()> lostFocus;
 };
 
+// What the owner of a list of several selected lines wants to hear of.
+struct MultiListEvents {
+    std::function<void()> doubleClick; // on the line of ListIndex
+    std::function<void(int& keyCode)> keyDown;
+};
+
 // Ties the widgets of one face to the controls of its form: names, captions, contents, enabled and shown
 // state, focus. User input goes into the control, then to the handler; Mirror() brings the controls back into
 // the widgets.
@@ -53,6 +60,11 @@ public:
     void Check(QCheckBox* box, CheckBox& control, Handler click = {});
     void Combo(QComboBox* box, ListBox& control, const QString& accessibleName, Handler click = {});
     void List(QListWidget* list, ListBox& control, const QString& accessibleName, Handler click = {});
+    void MultiList(QListWidget* list, MultiListBox& control, const QString& accessibleName,
+                   MultiListEvents events);
+
+    // A path: shortened in the middle to the label's width, whole in its tool tip and for a screen reader.
+    void Path(QLabel* label, const Control& control);
 
     // `bar` fills as far over its range as its control does over `track`. The widget has the name of `bar`.
     void Progress(QProgressBar* widget, const Bar& track, const Bar& bar, const QString& accessibleName);
@@ -86,6 +98,7 @@ private:
     void Name(QWidget* widget, const Control& control, const QString& accessibleName);
     void Forward(const Handler& handler);
     bool KeyToField(Field_& field, QObject* watched, QKeyEvent& event);
+    bool KeyToList(const std::function<void(int& keyCode)>& keyDown, const QKeyEvent& event);
     void FocusIn(QWidget* widget, Qt::FocusReason reason);
     void FocusOut(QWidget* widget, Qt::FocusReason reason);
 
@@ -95,6 +108,7 @@ private:
     std::function<bool()> active_;
     std::vector<Handler> mirrors_;
     std::map<const QObject*, Field_> fields_;
+    std::map<const QObject*, std::function<void(int& keyCode)>> listKeys_;
     std::vector<std::pair<QWidget*, const Control*>> widgets_;
     bool passing_ = false;   // a key on its way into a field after its handler
     bool mirroring_ = false; // focus that moves now follows the form, and not the other way round

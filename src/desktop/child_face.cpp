@@ -51,6 +51,9 @@ void ChildFace::Place() {
     placed_ = true;
     MirrorMode();
     TellBounds();
+    dispatch_.Later(this, [this] {
+        if (window_) window_->Form_Resize();
+    });
 }
 
 WindowMode ChildFace::ShownMode() const {

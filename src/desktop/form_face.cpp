@@ -6,6 +6,8 @@
 #include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,6 +17,7 @@ namespace dorvan {
 
 namespace {
 
+constexpr int PathWidth = 300; // pixels
 constexpr int NoteWidth = 380; // pixels, of a text that wraps
 
 } // namespace
@@ -42,7 +45,11 @@ void FormFace::RunModal() {
     dispatch_.AddMirror(&loop, [this, &loop] {
         if (!form_.Visible) loop.quit();
     });
-    dispatch_.Run([this] { form_.Form_Show(); });
+    // A dialog has the size that its contents ask: the resize of its showing is the only one.
+    dispatch_.Run([this] {
+        form_.Form_Show();
+        form_.Form_Resize();
+    });
     if (!form_.Visible) return;
     show();
     dispatch_.Mirror();
@@ -84,6 +91,27 @@ QLabel* FormFace::AddLabel(const Control& control) {
     column_->addWidget(label);
     bindings_->Text(label, control);
     return label;
+}
+
+QGroupBox* FormFace::AddFrame(const Frame& frame) {
+    auto* box = new QGroupBox(ToQt(frame.Caption), this);
+    bindings_->Plain(box, frame, box->title());
+    column_->addWidget(box);
+    return box;
+}
+
+void FormFace::AddFile(const Frame& frame, const Label& path, const CommandButton& browse,
+                       Bindings::Handler click) {
+    auto* box = AddFrame(frame);
+    auto* row = new QHBoxLayout(box);
+    auto* label = new QLabel(box);
+    label->setFixedWidth(PathWidth);
+    bindings_->Path(label, path);
+    row->addWidget(label);
+    auto* button = new QPushButton(box);
+    button->setAutoDefault(false);
+    bindings_->Button(button, browse, std::move(click));
+    row->addWidget(button);
 }
 
 QLabel* FormFace::AddNote(const QString& text) {

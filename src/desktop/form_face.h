@@ -8,6 +8,7 @@
 #include <memory>
 
 class QFormLayout;
+class QGroupBox;
 class QVBoxLayout;
 
 namespace dorvan {
@@ -34,6 +35,9 @@ public:
     QLineEdit* AddField(QFormLayout* rows, const Label& label, TextBox& control, FieldEvents events);
     void AddRow(QFormLayout* rows, const Label& label, QWidget* widget);
     QLabel* AddLabel(const Control& control);
+    QGroupBox* AddFrame(const Frame& frame);
+    // A frame with a chosen path and the button that chooses it.
+    void AddFile(const Frame& frame, const Label& path, const CommandButton& browse, Bindings::Handler click);
     QLabel* AddNote(const QString& text);
     // The row of buttons at the bottom; the first one is the default.
     void AddButtons(const std::vector<std::pair<const CommandButton*, Bindings::Handler>>& buttons);

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int SmallScreenWidth = 1500; // pixels; up to here the main window takes all there is
 constexpr int ToolIconSize = 22;
+constexpr int RecentFileWidth = 420; // pixels; longer paths are shortened in the middle
 
 // A line between items has no text: some styles would show it.
 QString TextOf(const std::string& caption) { return caption == "-" ? QString() : ToQt(caption); }
@@ -45,6 +46,7 @@ MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& d
         QMenu* menu = menuBar()->addMenu(ToQt(item.Caption));
         menu->setObjectName(ToQt(item.Name));
         menu->menuAction()->setObjectName(ToQt(item.Name));
+        menu->setToolTipsVisible(true); // of the items that have one: whole paths of recent files
         menus_.emplace_back(item.Name, menu);
         connect(menu, &QMenu::aboutToShow, this,
                 [this, name = item.Name] { dispatch_.Run([&] { shell_.MenuOpens(name); }); });
@@ -139,7 +141,11 @@ void MainWindowFace::Mirror() {
         const std::string caption = session_.mainWindow.MenuCaption(name);
         action->setSeparator(caption == "-");
         QString text = TextOf(caption);
-        if (name.starts_with("mnuRecentFile(")) text.replace("&", "&&"); // a path has no access key
+        if (name.starts_with("mnuRecentFile(")) {
+            if (action->toolTip() != text) action->setToolTip(text);
+            text = fontMetrics().elidedText(text, Qt::ElideMiddle, RecentFileWidth);
+            text.replace("&", "&&"); // a path has no access key
+        }
         if (action->text() != text) action->setText(text);
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }

@@ -2,10 +2,12 @@
 
 #include "desktop/arrangement.h"
 #include "desktop/qt_text.h"
+#include "painting/raster_player.h"
 #include "platform/twips.h"
 #include "session/children.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -402,6 +404,12 @@ void QtHelp::show(const std::string& file, int) {
     if (shown.isEmpty()) throw std::runtime_error("There is no help file " + file + ".");
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
         throw std::runtime_error("No program here shows pages like " + FromQt(shown) + ".");
+}
+
+void QtClipboard::clear() { QGuiApplication::clipboard()->clear(); }
+
+void QtClipboard::put(const Drawing& drawing) {
+    QGuiApplication::clipboard()->setImage(painting::ImageOf(drawing));
 }
 
 } // namespace dorvan

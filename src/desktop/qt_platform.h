@@ -2,6 +2,8 @@
 
 #include "desktop/child_faces.h"
 #include "desktop/form_faces.h"
+#include "painting/rasterizer.h"
+#include "painting/text_measure.h"
 #include "platform/platform.h"
 
 #include <QElapsedTimer>
@@ -143,6 +145,12 @@ public:
     QString guide; // its first page; empty: there is none
 };
 
+class QtClipboard : public PictureClipboard {
+public:
+    void clear() override;
+    void put(const Drawing& drawing) override;
+};
+
 // All of them, for one run.
 struct QtPlatform {
     explicit QtPlatform(EventDispatch& dispatch)
@@ -159,6 +167,9 @@ struct QtPlatform {
     QtClock clock;
     QtSettings settings;
     QtHelp help;
+    painting::QtTextMeasure fonts;
+    painting::QtRasterizer raster;
+    QtClipboard clipboard;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -169,7 +180,10 @@ struct QtPlatform {
                       .screen = screen,
                       .clock = clock,
                       .settings = settings,
-                      .help = help};
+                      .help = help,
+                      .fonts = fonts,
+                      .raster = raster,
+                      .clipboard = clipboard};
 };
 
 } // namespace dorvan

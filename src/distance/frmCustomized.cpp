@@ -22,6 +22,11 @@ bool StoreParameter(const TextBox& field, char decimalSeparator, std::int16_t& p
 
 frmCustomized::frmCustomized(Session& session) : Dialog("frmCustomized", "Customized distance", session) {}
 
+void frmCustomized::Enter(const MeasureChoices& options) {
+    if (!options.P.empty()) Text1.Text = options.P;
+    if (!options.R.empty()) Text2.Text = options.R;
+}
+
 void frmCustomized::FilterKey(const TextBox& field, int& keyAscii) {
     FilterThreeDigitsKey(session_.platform.keyboard, *this, field, keyAscii);
 }

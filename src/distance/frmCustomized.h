@@ -1,5 +1,6 @@
 #pragma once
 
+#include "distance/measure_choices.h"
 #include "session/dialog.h"
 
 namespace dorvan {
@@ -16,6 +17,7 @@ public:
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
 
+    void Enter(const MeasureChoices& options);
     void Text1_KeyPress(int& keyAscii) { FilterKey(Text1, keyAscii); }
     void Text2_KeyPress(int& keyAscii) { FilterKey(Text2, keyAscii); }
     void Command1_Click();

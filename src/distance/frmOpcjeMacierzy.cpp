@@ -1,7 +1,7 @@
 #include "distance/frmOpcjeMacierzy.h"
 
+#include "distance/distance.h"
 #include "distance/frmCustomized.h"
-#include "distance/measure_lists.h"
 #include "distance/measures.h"
 
 namespace dorvan {
@@ -12,6 +12,10 @@ void frmOpcjeMacierzy::Form_Load() {
     cboData.List = DataKinds();
     cboData.ListIndex = 0;
     cboData_Click();
+}
+
+void frmOpcjeMacierzy::Enter(const MeasureChoices& options) {
+    if (options.Measure) SelectMeasure(*options.Measure, cboData, Combo1);
 }
 
 void frmOpcjeMacierzy::cboData_Click() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "distance/measure_choices.h"
 #include "session/dialog.h"
 
 namespace dorvan {
@@ -19,7 +20,8 @@ public:
 
     void Form_Load() override;
     void Form_Show() override { Form_Load(); } // always opens on the first kind and measure
-    void cboData_Click();                      // after a change of its selection
+    void Enter(const MeasureChoices& options);
+    void cboData_Click(); // after a change of its selection
     void Command1_Click() { Close(DialogResult::Cancelled); }
     void Command2_Click();
     void CancelCommand() override { Command1_Click(); }

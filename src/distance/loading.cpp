@@ -4,6 +4,7 @@
 #include "numbers/rounding.h"
 #include "numbers/text.h"
 #include "sheet/frmNotePad.h"
+#include "sheet/sheet_values.h"
 
 #include <fmt/format.h>
 
@@ -14,10 +15,10 @@ namespace {
 std::string Trimmed(const std::string& text) { return std::string(TrimSpaces(text)); }
 
 void LoadNames(Session& session, const Grid& grid) {
-    for (std::int32_t record = 1; record <= session.RecordNames.Count(); ++record)
-        session.RecordNames(record) = Trimmed(grid.Text(record, DocumentGrid::NameColumn));
-    for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable)
-        session.VariableNames(variable) =
+    for (std::int32_t record = 1; record <= session.tables.RecordNames.Count(); ++record)
+        session.tables.RecordNames(record) = Trimmed(grid.Text(record, DocumentGrid::NameColumn));
+    for (std::int32_t variable = 1; variable <= session.tables.VariableNames.Count(); ++variable)
+        session.tables.VariableNames(variable) =
             Trimmed(grid.Text(DocumentGrid::HeaderRow, DocumentGrid::ValueColumn(variable)));
 }
 
@@ -25,10 +26,11 @@ void LoadNames(Session& session, const Grid& grid) {
 void LoadCell(Session& session, const std::string& cell, std::int32_t record, std::int32_t variable) {
     const std::string text = ReplaceAll(cell, ",", ".");
     const bool missing = TrimSpaces(text) == NaText;
-    session.DataValues(record, variable) = missing ? NaValue : RoundToFloat(LeadingNumber(TrimSpaces(text)));
+    session.tables.DataValues(record, variable) =
+        missing ? NaValue : RoundToFloat(LeadingNumber(TrimSpaces(text)));
     if (!missing) return;
-    session.RecordHasNA(record) = true;
-    session.DataHasNA = true;
+    session.tables.RecordHasNA(record) = true;
+    session.tables.DataHasNA = true;
 }
 
 void ShowDataError(Session& session, std::int32_t record, std::int32_t variable) {
@@ -37,11 +39,12 @@ void ShowDataError(Session& session, std::int32_t record, std::int32_t variable)
 
 // False at a data error.
 bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
-    for (std::int32_t variable = 1; variable <= session.VariableNames.Count(); ++variable) {
+    const bool& pendingError = session.Of<SheetValues>().PendingError;
+    for (std::int32_t variable = 1; variable <= session.tables.VariableNames.Count(); ++variable) {
         const int column = DocumentGrid::ValueColumn(variable);
         grid.SetCurrent(record, column);
         LoadCell(session, grid.Text(record, column), record, variable);
-        if (session.PendingError) {
+        if (pendingError) {
             ShowDataError(session, record, variable);
             return false;
         }
@@ -64,12 +67,12 @@ bool LoadWorkingData(Session& session) {
     window.LeaveField(); // the grid gets the focus
     window.SetFocus(grid);
     if (n >= 1 && m >= 1) grid.SetCurrent(1, DocumentGrid::FirstValueColumn);
-    session.RecordNames = Names(n);
-    session.DataValues = FloatTable(n, m);
-    session.RecordHasNA = Flags(n);
-    session.VariableNames = Names(m);
+    session.tables.RecordNames = Names(n);
+    session.tables.DataValues = FloatTable(n, m);
+    session.tables.RecordHasNA = Flags(n);
+    session.tables.VariableNames = Names(m);
     LoadNames(session, grid);
-    session.DataHasNA = false;
+    session.tables.DataHasNA = false;
     for (std::int32_t record = 1; record <= n; ++record)
         if (!LoadRecord(session, grid, record)) return false;
     return true;

@@ -1,14 +1,15 @@
 #include "distance/making_matrix.h"
 
+#include "distance/distance.h"
 #include "distance/frmMacierz.h"
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/loading.h"
-#include "distance/measures.h"
 #include "numbers/number_text.h"
 #include "numbers/rounding.h"
 #include "session/busy.h"
 #include "session/opening.h"
 #include "sheet/frmNotePad.h"
+#include "sheet/sheet_values.h"
 
 namespace dorvan {
 
@@ -30,19 +31,19 @@ bool RecordCountFits(Session& session, int count) {
 // The record of a slot, from the working arrays.
 void FillDocument(const Session& session, std::int16_t n, DistanceMatrix& document) {
     document.Size = n;
-    document.Names = session.RecordNames;
+    document.Names = session.tables.RecordNames;
     document.Cells = Array2<std::string>(n, n);
     for (std::int32_t row = 1; row <= n; ++row)
         for (std::int32_t column = 1; column <= n; ++column)
             document.Cells(row, column) =
-                PlainText(session.DistanceValues(row, column), session.DecimalSeparator);
+                PlainText(session.tables.DistanceValues(row, column), session.DecimalSeparator);
 }
 
 void OpenMadeMatrix(Session& session, std::int16_t n, const std::string& description) {
     const WaitCursor waiting(session.platform);
     OpenDocumentWindow<frmMacierz>(session, {}, [&](frmMacierz& window) {
         FillDocument(session, n, window.Document());
-        window.PresentDistances(session.DistanceValues, description);
+        window.PresentDistances(session.tables.DistanceValues, description);
     });
 }
 
@@ -54,7 +55,7 @@ void MakeMatrix(Session& session) {
     const int n = sheet.RecordCount();
     const int m = sheet.VariableCount();
     if (!RecordCountFits(session, n) || !Accepted<frmOpcjeMacierzy>(session)) return;
-    session.PendingError = false;
+    session.Of<SheetValues>().PendingError = false;
     const std::string description = sheet.OpisText.Text;
     if (!LoadWorkingData(session)) return;
     ComputeDistanceMatrix(session, n, m);

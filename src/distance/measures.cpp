@@ -4,19 +4,12 @@
 #include "numbers/rounding.h"
 #include "numbers/runtime_failure.h"
 
+#include <array>
 #include <cmath>
-#include <limits>
 
 namespace dorvan {
 
 namespace {
-
-// Two records of M values each.
-struct RecordPair {
-    const float* X;
-    const float* Y;
-    std::int32_t M;
-};
 
 bool IsMissing(float value) { return value == NaValue; }
 
@@ -78,9 +71,19 @@ float CountDifferent(const RecordPair& pair) {
     return sum;
 }
 
-float Euclidean(const RecordPair& pair) { return RoundToFloat(std::sqrt(double(SumOfTerms(pair, Square)))); }
+// The measures themselves.
 
-float Chebychev(const RecordPair& pair) {
+float Henzel(const RecordPair& pair, const Measure&) { return MeanOfPresentTerms(pair, Square); }
+
+float Czekanowski(const RecordPair& pair, const Measure&) { return MeanOfPresentTerms(pair, Absolute); }
+
+float Euclidean(const RecordPair& pair, const Measure&) {
+    return RoundToFloat(std::sqrt(double(SumOfTerms(pair, Square))));
+}
+
+float Manhattan(const RecordPair& pair, const Measure&) { return SumOfTerms(pair, Absolute); }
+
+float Chebychev(const RecordPair& pair, const Measure&) {
     double greatest = 0;
     for (std::int32_t k = 0; k < pair.M; ++k) {
         const double term = Absolute(Difference(pair.X[k], pair.Y[k]));
@@ -89,27 +92,29 @@ float Chebychev(const RecordPair& pair) {
     return static_cast<float>(greatest);
 }
 
-float Customized(const RecordPair& pair, std::int16_t p, std::int16_t r) {
-    const float sum =
-        SumOfTerms(pair, [p](double difference) { return Power(std::fabs(difference), double(p)); });
-    return RoundToFloat(Power(sum, Quotient(1.0, r)));
+float Customized(const RecordPair& pair, const Measure& measure) {
+    const double p = measure.Par_P;
+    const float sum = SumOfTerms(pair, [p](double difference) { return Power(std::fabs(difference), p); });
+    return RoundToFloat(Power(sum, Quotient(1.0, measure.Par_R)));
 }
 
-float DfDD(const RecordPair& pair) { return RoundToFloat(Quotient(CountDifferent(pair), pair.M) * 100.0); }
+float DfDD(const RecordPair& pair, const Measure&) {
+    return RoundToFloat(Quotient(CountDifferent(pair), pair.M) * 100.0);
+}
 
-float LanceAndWilliams(const RecordPair& pair) {
+float LanceAndWilliams(const RecordPair& pair, const Measure&) {
     const double different = CountDifferent(pair);
     const double zeros = CountBoth(pair, 0.0f);
     return RoundToFloat(Quotient(different, 2.0 * zeros + different));
 }
 
-float Jaccard(const RecordPair& pair) {
+float Jaccard(const RecordPair& pair, const Measure&) {
     const double different = CountDifferent(pair);
     const double ones = CountBoth(pair, 1.0f);
     return RoundToFloat(1.0 - Quotient(ones, different + ones));
 }
 
-float YulesQ(const RecordPair& pair) {
+float YulesQ(const RecordPair& pair, const Measure&) {
     const auto count = [&pair](float wantedX, float wantedY) {
         return NarrowToInt16(
             CountWhere(pair, [=](float x, float y) { return x == wantedX && y == wantedY; }));
@@ -121,58 +126,99 @@ float YulesQ(const RecordPair& pair) {
     return 1.0f - static_cast<float>(SubtractInt16(alike, unlike)) / both;
 }
 
-// The pairs whose cell is no finite number yet, in the order of the pairs, so that the first failing one's
-// failure is thrown.
-void ComputeOpenPairs(FloatTable& distances, const FloatTable& values, std::int32_t m,
-                      const Measure& measure) {
-    const std::int32_t n = distances.Rows();
-    for (std::int32_t i = 1; i <= n; ++i) {
-        float* row = distances.Row(i);
-        if (AllFinite(row + i, n - i)) continue;
-        for (std::int32_t j = i + 1; j <= n; ++j)
-            if (!AllFinite(row + j - 1, 1))
-                row[j - 1] = DistanceBetween(values.Row(i), values.Row(j), m, measure);
-    }
+constexpr MeasureRow Table[] = {
+    {DistanceType::Henzel, DataKind::NumericalWithNA, "Henzel distance", "henzel", true, Henzel,
+     SideBySide::Henzel},
+    {DistanceType::Czekanowski, DataKind::NumericalWithNA, "Czekanowski distance (mean City-Block)",
+     "czekanowski", true, Czekanowski, SideBySide::Czekanowski},
+    {DistanceType::Euclidean, DataKind::Numerical, "Euclidean", "euclidean", false, Euclidean,
+     SideBySide::Euclidean},
+    {DistanceType::Manhattan, DataKind::Numerical, "Manhattan City-Block", "manhattan", false, Manhattan,
+     SideBySide::Manhattan},
+    {DistanceType::Chebychev, DataKind::Numerical, "Chebychev", "chebychev", false, Chebychev,
+     SideBySide::Chebychev},
+    {DistanceType::Customized, DataKind::Numerical, "Customized", "customized", false, Customized,
+     SideBySide::Customized},
+    {DistanceType::DfDD, DataKind::Binary, "DfDD Distance", "dfdd", false, DfDD, SideBySide::DfDD},
+    {DistanceType::LanceAndWilliams, DataKind::Binary, "Lance and Williams", "lance-williams", false,
+     LanceAndWilliams, SideBySide::LanceAndWilliams},
+    {DistanceType::Jaccard, DataKind::Binary, "Jaccard (mirror)", "jaccard", false, Jaccard,
+     SideBySide::Jaccard},
+    {DistanceType::YulesQ, DataKind::Binary, "Yule's Q (mirror)", "yule", false, YulesQ, SideBySide::YulesQ},
+};
+
+constexpr int KindCount = 3;
+
+std::size_t CheckedPlace(int place, std::size_t count) {
+    if (place < 0 || std::size_t(place) >= count) throw RuntimeFailure(Failure::SubscriptOutOfRange);
+    return std::size_t(place);
+}
+
+// The codes of the measures of each data kind, in the order of its list.
+std::array<std::vector<std::int16_t>, KindCount> CodesByKind() {
+    std::array<std::vector<std::int16_t>, KindCount> codes;
+    for (const MeasureRow& row : Table) codes[std::size_t(row.Kind)].push_back(std::int16_t(row.Code));
+    return codes;
+}
+
+std::array<std::vector<std::string>, KindCount> TextsByKind() {
+    std::array<std::vector<std::string>, KindCount> texts;
+    for (const MeasureRow& row : Table) texts[std::size_t(row.Kind)].emplace_back(row.ListText);
+    return texts;
 }
 
 } // namespace
 
-Measure CurrentMeasure(const Session& session) {
-    return {session.CurrentDistType, session.Par_P, session.Par_R};
+std::span<const MeasureRow> Measures() { return Table; }
+
+const MeasureRow* FindMeasure(std::int16_t code) {
+    for (const MeasureRow& row : Table)
+        if (code == row.Code) return &row;
+    return nullptr;
 }
 
-float DistanceBetween(const float* x, const float* y, std::int32_t m, const Measure& measure) {
-    const RecordPair pair{x, y, m};
-    switch (measure.Type) {
-    case DistanceType::Henzel: return MeanOfPresentTerms(pair, Square);
-    case DistanceType::Czekanowski: return MeanOfPresentTerms(pair, Absolute);
-    case DistanceType::Euclidean: return Euclidean(pair);
-    case DistanceType::Manhattan: return SumOfTerms(pair, Absolute);
-    case DistanceType::Chebychev: return Chebychev(pair);
-    case DistanceType::Customized: return Customized(pair, measure.Par_P, measure.Par_R);
-    case DistanceType::DfDD: return DfDD(pair);
-    case DistanceType::LanceAndWilliams: return LanceAndWilliams(pair);
-    case DistanceType::Jaccard: return Jaccard(pair);
-    case DistanceType::YulesQ: return YulesQ(pair);
-    default: return 0;
+const MeasureRow* FindMeasure(std::string_view nameOrNumber) {
+    for (const MeasureRow& row : Table)
+        if (nameOrNumber == row.Name || nameOrNumber == std::to_string(std::int16_t(row.Code))) return &row;
+    return nullptr;
+}
+
+bool KnowsMissingValues(std::int16_t code) {
+    const MeasureRow* row = FindMeasure(code);
+    return row ? row->KnowsMissingValues : code < std::int16_t(Table[0].Code);
+}
+
+const std::vector<std::string>& DataKinds() {
+    static const std::vector<std::string> kinds{"numerical data", "numerical data with NA", "binary"};
+    return kinds;
+}
+
+const std::vector<std::string>& MeasuresOfKind(int dataKind) {
+    static const auto texts = TextsByKind();
+    return texts[CheckedPlace(dataKind, texts.size())];
+}
+
+std::int16_t MeasureCode(int dataKind, int position) {
+    static const auto codes = CodesByKind();
+    const auto& ofKind = codes[CheckedPlace(dataKind, codes.size())];
+    return ofKind[CheckedPlace(position, ofKind.size())];
+}
+
+MeasurePlace PlaceOfMeasure(std::int16_t code) {
+    std::array<int, KindCount> position{};
+    for (const MeasureRow& row : Table) {
+        const auto kind = std::size_t(row.Kind);
+        if (code == row.Code) return {int(kind), position[kind]};
+        ++position[kind];
     }
+    throw RuntimeFailure(Failure::InvalidProcedureCall);
 }
 
-FloatTable DistancesBetweenRows(const FloatTable& values, std::int32_t n, std::int32_t m,
-                                const Measure& measure) {
-    if (n < 0 || m < 0 || n > values.Rows() || m > values.Columns())
-        throw RuntimeFailure(Failure::SubscriptOutOfRange);
-    FloatTable distances(n, n, std::numeric_limits<float>::quiet_NaN());
-    ComputePairsSideBySide(distances, values, m, measure);
-    ComputeOpenPairs(distances, values, m, measure);
-    MirrorUpperTriangle(distances);
-    return distances;
-}
-
-bool ComputeDistanceMatrix(Session& session, std::int32_t n, std::int32_t m) {
-    const WaitCursor waiting(session.platform);
-    session.DistanceValues = DistancesBetweenRows(session.DataValues, n, m, CurrentMeasure(session));
-    return true;
+void SelectMeasure(std::int16_t code, ComboBox& kinds, ComboBox& measures) {
+    const MeasurePlace place = PlaceOfMeasure(code);
+    kinds.ListIndex = place.DataKind;
+    measures.List = MeasuresOfKind(place.DataKind);
+    measures.ListIndex = place.Position;
 }
 
 } // namespace dorvan

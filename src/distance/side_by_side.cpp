@@ -282,31 +282,38 @@ DORVAN_CLONES bool AllFinite(const float* values, std::int64_t count) {
     return finite != 0;
 }
 
-DORVAN_CLONES void FillSideBySide(FloatTable& distances, const FloatTable& values, std::int32_t m,
-                                  const Measure& measure) {
-    switch (measure.Type) {
-    case DistanceType::Henzel: return Fill(distances, values, m, MeanLanes<SquareTerm>());
-    case DistanceType::Czekanowski: return Fill(distances, values, m, MeanLanes<AbsoluteTerm>());
-    case DistanceType::Euclidean: return Fill(distances, values, m, EuclideanLanes());
-    case DistanceType::Manhattan: return Fill(distances, values, m, SumLanes<AbsoluteTerm>());
-    case DistanceType::Chebychev: return Fill(distances, values, m, GreatestLanes());
-    case DistanceType::Customized: return Fill(distances, values, m, CustomizedLanes(measure));
-    case DistanceType::DfDD: return Fill(distances, values, m, DfDDLanes(m));
-    case DistanceType::LanceAndWilliams: return Fill(distances, values, m, LanceAndWilliamsLanes());
-    case DistanceType::Jaccard: return Fill(distances, values, m, JaccardLanes());
-    case DistanceType::YulesQ: return Fill(distances, values, m, YulesQLanes());
-    default: return;
+namespace SideBySide {
+
+#define DORVAN_KERNEL_IS(name, ...)                                                                          \
+    DORVAN_CLONES void name(FloatTable& distances, const FloatTable& values, std::int32_t m,                 \
+                            const Measure& measure) {                                                        \
+        static_cast<void>(measure);                                                                          \
+        Fill(distances, values, m, __VA_ARGS__);                                                             \
     }
-}
+
+DORVAN_KERNEL_IS(Henzel, MeanLanes<SquareTerm>())
+DORVAN_KERNEL_IS(Czekanowski, MeanLanes<AbsoluteTerm>())
+DORVAN_KERNEL_IS(Euclidean, EuclideanLanes())
+DORVAN_KERNEL_IS(Manhattan, SumLanes<AbsoluteTerm>())
+DORVAN_KERNEL_IS(Chebychev, GreatestLanes())
+DORVAN_KERNEL_IS(Customized, CustomizedLanes(measure))
+DORVAN_KERNEL_IS(DfDD, DfDDLanes(m))
+DORVAN_KERNEL_IS(LanceAndWilliams, LanceAndWilliamsLanes())
+DORVAN_KERNEL_IS(Jaccard, JaccardLanes())
+DORVAN_KERNEL_IS(YulesQ, YulesQLanes())
+
+} // namespace SideBySide
 
 void ComputePairsSideBySide(FloatTable& distances, const FloatTable& values, std::int32_t m,
                             const Measure& measure) {
+    const MeasureRow* row = FindMeasure(std::int16_t(measure.Type));
+    if (!row || !row->FastDistances) return;
     const bool dividesByZero = measure.Type == DistanceType::Customized && measure.Par_R == 0;
     const auto& cells = values.Cells();
     if (dividesByZero || m > MostVariables ||
         !AllFinite(cells.data(), static_cast<std::int64_t>(cells.size())))
         return;
-    FillSideBySide(distances, values, m, measure);
+    row->FastDistances(distances, values, m, measure);
 }
 
 // Square by square, so that both sides stay in the cache.

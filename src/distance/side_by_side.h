@@ -17,6 +17,14 @@ void ComputePairsSideBySide(FloatTable& distances, const FloatTable& values, std
 // A zero diagonal, and below it what stands above it.
 void MirrorUpperTriangle(FloatTable& distances);
 
+// The kernels, for the table of measures. Each fills the cells of the pairs for values that are all finite
+// and not more variables than 16 bits count.
+namespace SideBySide {
+using Kernel = void(FloatTable& distances, const FloatTable& values, std::int32_t m, const Measure& measure);
+Kernel Henzel, Czekanowski, Euclidean, Manhattan, Chebychev, Customized;
+Kernel DfDD, LanceAndWilliams, Jaccard, YulesQ;
+} // namespace SideBySide
+
 bool AllFinite(const float* values, std::int64_t count);
 
 } // namespace dorvan

@@ -128,9 +128,9 @@ template <class Work> int ExcelFile::Caught(const Work& work) {
         return 0;
     } catch (const FileError& error) {
         diskFailure_ = error.what();
-        return FailureOfWriting(error, path_).number();
+        return FailureOfWriting(error, path_).Number();
     } catch (const RuntimeFailure& failure) {
-        return failure.number();
+        return failure.Number();
     } catch (const std::bad_alloc&) {
         return static_cast<int>(Failure::OutOfMemory);
     }
@@ -142,7 +142,7 @@ void ExcelFile::Write(std::string_view record) {
 }
 
 void ExcelFile::WriteText(std::int16_t opcode, const std::string& text) {
-    Write(RecordOf(opcode, Fields().CountedText(text_.Codes.fromUtf8(text))));
+    Write(RecordOf(opcode, Fields().CountedText(text_.Codes.FromUtf8(text))));
 }
 
 int ExcelFile::CreateFile(const std::string& path) {
@@ -208,7 +208,7 @@ double ExcelFile::NumberOf(const CellValue& value) const {
 }
 
 std::string ExcelFile::TextOf(const CellValue& value) const {
-    if (const auto* text = std::get_if<std::string>(&value)) return text_.Codes.fromUtf8(*text);
+    if (const auto* text = std::get_if<std::string>(&value)) return text_.Codes.FromUtf8(*text);
     if (const auto* number = std::get_if<std::int32_t>(&value)) return fmt::format("{}", *number);
     std::string digits = fmt::format("{:.15G}", std::get<double>(value));
     if (const auto point = digits.find('.'); point != std::string::npos)
@@ -249,7 +249,7 @@ int ExcelFile::SetFont(const std::string& name, std::int16_t height, std::int32_
                                   .Word(MultiplyInt16(height, TwipsPerPoint))
                                   .Byte(attributes)
                                   .Byte(0)
-                                  .CountedText(text_.Codes.fromUtf8(name));
+                                  .CountedText(text_.Codes.FromUtf8(name));
         Write(RecordOf(Opcode::Font, fields));
     });
 }
@@ -264,7 +264,7 @@ int ExcelFile::SetFooter(const std::string& text) {
 
 // Without a length of its own.
 int ExcelFile::SetFilePassword(const std::string& text) {
-    return Caught([&] { Write(RecordOf(Opcode::FilePassword, Fields().Text(text_.Codes.fromUtf8(text)))); });
+    return Caught([&] { Write(RecordOf(Opcode::FilePassword, Fields().Text(text_.Codes.FromUtf8(text)))); });
 }
 
 int ExcelFile::PrintGridLines(bool flag) {

@@ -33,7 +33,7 @@ std::string_view BinaryCursor::Take(std::size_t size) {
     return bytes_.substr(offset, size);
 }
 
-std::string BinaryCursor::Text(std::size_t size) { return codes_.toUtf8(Take(size)); }
+std::string BinaryCursor::Text(std::size_t size) { return codes_.ToUtf8(Take(size)); }
 
 std::int16_t BinaryCursor::Int16() {
     const std::string_view two = Take(2);

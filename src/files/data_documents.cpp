@@ -22,8 +22,8 @@ namespace {
 std::string CaptionOf(const std::string& path) { return fmt::format("[DATA]: {}", LowerCase(path)); }
 
 void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
-    session.PendingRecCount = static_cast<std::int16_t>(session.RecordNames.Count());
-    session.PendingVarCount = static_cast<std::int16_t>(session.VariableNames.Count());
+    session.PendingRecCount = static_cast<std::int16_t>(session.tables.RecordNames.Count());
+    session.PendingVarCount = static_cast<std::int16_t>(session.tables.VariableNames.Count());
     session.NewWindowIndex = FindFreeDataSlot(session);
     OpensWithoutFault(session, path, DocumentKind::Data, [&] {
         OpenDocumentWindow<frmNotePad>(
@@ -63,9 +63,9 @@ bool OpensWithEmptyCells(Session& session, SheetWithEmptyCells&& sheet) {
                            .Icon = MessageIcon::Exclamation,
                            .Buttons = MessageButtons::YesNo};
     if (session.platform.messages.show(question) != Answer::Yes) return false;
-    session.RecordNames = std::move(sheet.Tables.RecordNames);
-    session.VariableNames = std::move(sheet.Tables.VariableNames);
-    session.DataValues = std::move(sheet.Tables.DataValues);
+    session.tables.RecordNames = std::move(sheet.Tables.RecordNames);
+    session.tables.VariableNames = std::move(sheet.Tables.VariableNames);
+    session.tables.DataValues = std::move(sheet.Tables.DataValues);
     return true;
 }
 
@@ -87,8 +87,7 @@ void ReadDataFile(Session& session, const std::string& path) {
         const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDataFile(bytes);
         if (!current) return;
-        TablesOfSession transit(session);
-        description = ParseCurrentSheet(bytes, FileTextOf(session), transit.Tables, withEmptyCells, path);
+        description = ParseCurrentSheet(bytes, FileTextOf(session), session.tables, withEmptyCells, path);
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
     if (withEmptyCells && !OpensWithEmptyCells(session, std::move(*withEmptyCells))) return;
@@ -102,8 +101,7 @@ void ReadOldDataFile(Session& session, const std::string& path) {
     std::string description;
     const auto read = [&] {
         const std::string bytes = LoadDocument(path, session.codePage);
-        TablesOfSession transit(session);
-        description = ParseOldDataFile(bytes, FileTextOf(session), transit.Tables);
+        description = ParseOldDataFile(bytes, FileTextOf(session), session.tables);
     };
     if (ReadsWithoutFault(session, path, Wait::Yes, read)) OpenDataWindow(session, path, description);
 }
@@ -111,14 +109,15 @@ void ReadOldDataFile(Session& session, const std::string& path) {
 bool WriteDataFile(Session& session, const std::string& path) {
     const frmNotePad& window = ActiveDataWindow(session);
     const WaitCursor wait(session.platform);
-    session.SilentFailure.clear();
+    std::string& silentFailure = session.Of<FileValues>().SilentFailure;
+    silentFailure.clear();
     try {
-        ReplaceFile(path, ComposeDataFile(window.Grid1, window.OpisText.Text, FileTextOf(session)));
+        ReplaceFile(path, ComposeDataFile(window.Table(), window.OpisText.Text, FileTextOf(session)));
     } catch (const FileError& error) { // silent by design: the document counts as saved all the same
-        session.SilentFailure = error.what();
+        silentFailure = error.what();
     }
     session.DataStates.at(std::size_t(window.Index)).Dirty = false;
-    return session.SilentFailure.empty();
+    return silentFailure.empty();
 }
 
 void SaveData(Session& session) {

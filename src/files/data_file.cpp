@@ -84,20 +84,20 @@ std::string ParseOldDataFile(std::string_view bytes, const FileText& text, Docum
     return std::string(TrimSpaces(description));
 }
 
-std::string ComposeDataFile(const Grid& sheet, std::string_view description, const FileText& text) {
+std::string ComposeDataFile(const SheetTable& sheet, std::string_view description, const FileText& text) {
     LineWriter writer(text);
     writer.Begin("DATA");
     writer.Value("Description", TrimSpaces(description));
-    writer.Value("RecCount", sheet.Rows() - 1);
-    writer.Value("VarCount", sheet.Columns() - 2);
+    writer.Value("RecCount", sheet.RecordCount());
+    writer.Value("VarCount", sheet.VariableCount());
     writer.Section("RECORD_LABEL");
-    for (int row = 1; row < sheet.Rows(); ++row) writer.Line(TrimSpaces(sheet.Text(row, 1)));
+    for (const auto& name : sheet.RecordNames.Cells()) writer.Line(TrimSpaces(name));
     writer.Section("VARIABLE_LABEL");
-    for (int column = 2; column < sheet.Columns(); ++column) writer.Line(TrimSpaces(sheet.Text(0, column)));
+    for (const auto& name : sheet.VariableNames.Cells()) writer.Line(TrimSpaces(name));
     writer.Section("DATA");
-    for (int row = 1; row < sheet.Rows(); ++row) {
-        for (int column = 2; column < sheet.Columns(); ++column)
-            WriteCell(writer, TrimSpaces(sheet.Text(row, column)), text);
+    for (std::int32_t record = 1; record <= sheet.RecordCount(); ++record) {
+        for (std::int32_t variable = 1; variable <= sheet.VariableCount(); ++variable)
+            WriteCell(writer, TrimSpaces(sheet.Cells(record, variable)), text);
         writer.EndRow();
     }
     return writer.Take();

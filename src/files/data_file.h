@@ -1,9 +1,9 @@
 #pragma once
 
-#include "files/document_tables.h"
 #include "files/file_text.h"
 #include "files/line_cursor.h"
-#include "platform/grid.h"
+#include "session/documents.h"
+#include "sheet/sheet_table.h"
 
 #include <string>
 #include <string_view>
@@ -21,8 +21,7 @@ std::string ParseDataFile(std::string_view bytes, const FileText& text, Document
                           EmptyFields empty = EmptyFields::Refused);
 std::string ParseOldDataFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
 
-// `sheet` as frmNotePad holds it: n + 1 rows, m + 2 columns of text. A cell that is neither a number nor
-// "N/A" gives an empty field.
-std::string ComposeDataFile(const Grid& sheet, std::string_view description, const FileText& text);
+// A cell that is neither a number nor "N/A" gives an empty field.
+std::string ComposeDataFile(const SheetTable& sheet, std::string_view description, const FileText& text);
 
 } // namespace dorvan

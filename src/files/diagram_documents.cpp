@@ -1,6 +1,6 @@
 #include "files/diagram_documents.h"
 
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "files/diagram_file.h"
 #include "files/disk.h"
 #include "files/document_bytes.h"
@@ -28,13 +28,13 @@ DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) 
     document.Par_R = header.Par_R;
     document.NoData = header.Type != 0;
     document.SectionLimits = header.SectionLimits;
-    document.Matrix = session.DistanceValues;
-    document.RecordNames = session.RecordNames;
-    document.RecordHasNA = session.RecordHasNA;
+    document.Matrix = session.tables.DistanceValues;
+    document.RecordNames = session.tables.RecordNames;
+    document.RecordHasNA = session.tables.RecordHasNA;
     document.Classes = Array2<std::int16_t>(header.RecCount, header.RecCount);
     if (!document.NoData) {
-        document.Data = session.DataValues;
-        document.VariableNames = session.VariableNames;
+        document.Data = session.tables.DataValues;
+        document.VariableNames = session.tables.VariableNames;
     }
     return document;
 }
@@ -61,7 +61,7 @@ FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) 
                     DistanceBetween(values.Row(i), values.Row(j), values.Columns(), measure);
             } catch (const RuntimeFailure& failure) {
                 throw FileFault::OfWholeFile(fmt::format("The records {} and {} have no distance: {}", i, j,
-                                                         FailureText(failure.failure())));
+                                                         FailureText(failure.Kind())));
             }
     return distances;
 }
@@ -69,15 +69,14 @@ FloatTable DistancesOfRecords(const FloatTable& values, const Measure& measure) 
 // Reads the older format into the working arrays and the analysis options.
 DiagramHeader ReadOldDiagram(Session& session, const std::string& path) {
     const std::string bytes = LoadDocument(path, session.codePage);
-    TablesOfSession transit(session);
-    DiagramHeader header = ParseOldDiagramFile(bytes, FileTextOf(session), transit.Tables);
+    DiagramHeader header = ParseOldDiagramFile(bytes, FileTextOf(session), session.tables);
     session.SectionLimits = header.SectionLimits;
     session.CurrentDistType = header.DistType;
     if (header.DistType == DistanceType::Customized) {
         session.Par_R = header.Par_R;
         session.Par_P = header.Par_P;
     }
-    transit.Tables.DistanceValues = DistancesOfRecords(transit.Tables.DataValues, CurrentMeasure(session));
+    session.tables.DistanceValues = DistancesOfRecords(session.tables.DataValues, CurrentMeasure(session));
     return header;
 }
 
@@ -99,8 +98,7 @@ void ReadDiagramFile(Session& session, const std::string& path) {
         const std::string bytes = LoadDocument(path, session.codePage);
         current = IsCurrentDiagramFile(bytes);
         if (!current) return;
-        TablesOfSession transit(session);
-        header = ParseDiagramFile(bytes, FileTextOf(session), transit.Tables);
+        header = ParseDiagramFile(bytes, FileTextOf(session), session.tables);
     };
     if (!ReadsWithoutFault(session, path, Wait::No, read)) return;
     if (current) return OpenDiagramWindow(session, path, header, false);
@@ -123,15 +121,16 @@ void ReadOldDiagramFile(Session& session, const std::string& path) {
 bool WriteDiagramFile(Session& session, const std::string& path, const DiagramDocument& document,
                       const std::string& description) {
     const WaitCursor wait(session.platform);
-    session.SilentFailure.clear();
+    std::string& silentFailure = session.Of<FileValues>().SilentFailure;
+    silentFailure.clear();
     try {
         ReplaceFile(path, ComposeDiagramFile(document, description, FileTextOf(session)));
     } catch (const FileError& error) {
-        session.SilentFailure = error.what();
+        silentFailure = error.what();
     } catch (const RuntimeFailure& failure) { // a value that no file can hold
-        session.SilentFailure = failure.what();
+        silentFailure = failure.what();
     }
-    return session.SilentFailure.empty();
+    return silentFailure.empty();
 }
 
 } // namespace dorvan

@@ -1,6 +1,6 @@
 #include "files/diagram_file.h"
 
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "files/binary_cursor.h"
 #include "files/label_sizes.h"
 #include "files/line_cursor.h"

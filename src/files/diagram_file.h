@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/document_tables.h"
 #include "files/file_text.h"
 #include "session/documents.h"
 

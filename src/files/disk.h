@@ -9,6 +9,11 @@
 // Whole files in and out.
 namespace dorvan {
 
+// What the files keep in the session.
+struct FileValues {
+    std::string SilentFailure; // why the last writer that tells nothing could not write; empty: it could
+};
+
 // The bytes of a regular file. Fails with a FileFault that says why it cannot be read.
 std::string LoadFile(const std::string& path);
 

@@ -77,10 +77,10 @@ std::string LoadDocument(const std::string& path, const CodePage& codes) {
     if (IsUtf16(bytes))
         throw FileFault::OfWholeFile(fmt::format("The file is text in UTF-16. Save it in the code page "
                                                  "windows-{} or in UTF-8 with a byte order mark",
-                                                 codes.number()));
+                                                 codes.Number()));
     const std::string_view text = std::string_view(bytes).substr(std::min(Utf8Mark.size(), bytes.size()));
     if (!bytes.starts_with(Utf8Mark) || !text.starts_with(FirstWord)) return bytes;
-    if (IsUtf8(text)) return codes.fromUtf8(text);
+    if (IsUtf8(text)) return codes.FromUtf8(text);
     bytes.erase(0, Utf8Mark.size());
     return bytes;
 }

@@ -10,11 +10,6 @@ namespace {
 
 constexpr std::size_t LongestPath = 255; // characters
 
-FileFilters FiltersOf(std::string_view kind, std::string_view extension) {
-    const std::string wildcard = fmt::format("*.{}", extension);
-    return {{fmt::format("{} file ({})", kind, wildcard), wildcard}, {"all (*.*)", "*.*"}};
-}
-
 FileRequest RequestOf(const Session& session, const FileFilters& filters, std::string_view title,
                       std::string_view extension) {
     return {.Title = fmt::format("Dorvan{}", title),
@@ -33,10 +28,15 @@ std::string Accepted(Session& session, std::string path) {
 
 } // namespace
 
-FileFilters DataFileFilters() { return FiltersOf("mdt", "mdt"); }
-FileFilters MatrixFileFilters() { return FiltersOf("mtx", "mtx"); }
-FileFilters DiagramFileFilters() { return FiltersOf("dgr", "dgr"); }
-FileFilters DiagramFileSaveFilters() { return FiltersOf("diagram", "dgr"); }
+FileFilters FileFiltersOf(std::string_view kind, std::string_view extension) {
+    const std::string wildcard = fmt::format("*.{}", extension);
+    return {{fmt::format("{} file ({})", kind, wildcard), wildcard}, {"all (*.*)", "*.*"}};
+}
+
+FileFilters DataFileFilters() { return FileFiltersOf("mdt", "mdt"); }
+FileFilters MatrixFileFilters() { return FileFiltersOf("mtx", "mtx"); }
+FileFilters DiagramFileFilters() { return FileFiltersOf("dgr", "dgr"); }
+FileFilters DiagramFileSaveFilters() { return FileFiltersOf("diagram", "dgr"); }
 
 std::string PickFileToOpen(Session& session, const FileFilters& filters, std::string_view title) {
     return Accepted(session, session.platform.files.toOpen(RequestOf(session, filters, title, {})));

@@ -11,7 +11,8 @@ namespace dorvan {
 
 using FileFilters = std::vector<FileFilter>;
 
-// "mdt file (*.mdt)" and the like, then "all (*.*)".
+// "mdt file (*.mdt)" and the like, then "all (*.*)": of a kind such as "mdt" and its extension.
+FileFilters FileFiltersOf(std::string_view kind, std::string_view extension);
 FileFilters DataFileFilters();
 FileFilters MatrixFileFilters();
 FileFilters DiagramFileFilters();     // of the open dialog

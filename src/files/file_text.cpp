@@ -1,5 +1,7 @@
 #include "files/file_text.h"
 
+#include "session/session.h"
+
 namespace dorvan {
 
 FileText FileTextOf(const Session& session) {

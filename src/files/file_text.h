@@ -1,9 +1,11 @@
 #pragma once
 
 #include "numbers/code_page.h"
-#include "session/session.h"
+#include "session/version.h"
 
 namespace dorvan {
+
+struct Session;
 
 // How this run writes text files and reads them.
 struct FileText {
@@ -12,6 +14,7 @@ struct FileText {
     Version Build;               // major and minor stand in the first line
 };
 
+// As the session writes and reads.
 FileText FileTextOf(const Session& session);
 
 } // namespace dorvan

@@ -11,24 +11,6 @@
 
 namespace dorvan {
 
-namespace {
-
-// A piece of the file as a message can show it: short, and without control characters.
-std::string Quoted(std::string_view bytes, const CodePage& codes) {
-    constexpr std::size_t Longest = 40;
-    std::string shown(bytes.substr(0, Longest));
-    std::replace_if(
-        shown.begin(), shown.end(), [](char sign) { return static_cast<unsigned char>(sign) < ' '; }, '?');
-    return fmt::format("\"{}{}\"", codes.toUtf8(shown), bytes.size() > Longest ? "..." : "");
-}
-
-std::string NoNumber(const RuntimeFailure& failure, std::string_view field, const CodePage& codes) {
-    return fmt::format("{} {}", Quoted(field, codes),
-                       failure.failure() == Failure::Overflow ? "is out of range" : "is not a number");
-}
-
-} // namespace
-
 std::string_view LineCursor::Next() {
     ++line_;
     if (rest_.empty()) throw FileFault::AtLine(line_, "the line is missing, the file ends before it");
@@ -59,7 +41,7 @@ std::optional<std::string_view> SectionReader::Value(std::string_view key) {
 }
 
 std::string SectionReader::Text(std::string_view key) {
-    return text_.Codes.toUtf8(Value(key).value_or(std::string_view()));
+    return text_.Codes.ToUtf8(Value(key).value_or(std::string_view()));
 }
 
 HeaderCount SectionReader::Count(std::string_view key) {
@@ -70,7 +52,7 @@ HeaderCount SectionReader::Count(std::string_view key) {
         count.Value = StrictInt16(*value, text_.DecimalSeparator);
     } catch (const RuntimeFailure& failure) {
         throw FileFault::AtLine(count.Line,
-                                fmt::format("{} {}", key, NoNumber(failure, *value, text_.Codes)));
+                                fmt::format("{} {}", key, WhyNoNumber(failure, text_.Codes.ToUtf8(*value))));
     }
     return count;
 }
@@ -95,7 +77,7 @@ void SectionReader::Labels(const HeaderCount& count, std::size_t mostCharacters,
     labels.Cells().reserve(std::min<std::size_t>(std::size_t(count.Value), lines_.Remaining()));
     for (std::int32_t i = 1; i <= count.Value; ++i) {
         const std::string_view label = NextTrimmed(); // a byte is a character of the code page
-        labels.Append(text_.Codes.toUtf8(TrimSpaces(label.substr(0, mostCharacters))));
+        labels.Append(text_.Codes.ToUtf8(TrimSpaces(label.substr(0, mostCharacters))));
     }
 }
 
@@ -113,7 +95,7 @@ float SectionReader::Number(std::string_view field) const {
     try {
         return ParseSheetNumber(field, text_.DecimalSeparator);
     } catch (const RuntimeFailure& failure) {
-        throw FileFault::AtLine(lines_.LineNumber(), NoNumber(failure, field, text_.Codes));
+        throw FileFault::AtLine(lines_.LineNumber(), WhyNoNumber(failure, text_.Codes.ToUtf8(field)));
     }
 }
 

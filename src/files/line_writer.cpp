@@ -24,11 +24,11 @@ void LineWriter::Section(std::string_view section) {
 
 void LineWriter::Append(std::string_view text) {
     if (text.find_first_of(LineEnd) == std::string_view::npos) {
-        bytes_ += text_.Codes.fromUtf8(text);
+        bytes_ += text_.Codes.FromUtf8(text);
         return;
     }
     const std::string lineFeeds = ReplaceAll(ReplaceAll(text, LineEnd, "\n"), "\r", "\n");
-    bytes_ += text_.Codes.fromUtf8(ReplaceAll(lineFeeds, "\n", " "));
+    bytes_ += text_.Codes.FromUtf8(ReplaceAll(lineFeeds, "\n", " "));
 }
 
 void LineWriter::Line(std::string_view text) {

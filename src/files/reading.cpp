@@ -55,8 +55,4 @@ void TellOlderVersion(Session& session) {
          .Icon = MessageIcon::Exclamation});
 }
 
-void UpdateRecentFiles(Session& session, const std::string& path) {
-    session.commands.Call("UpdateRecentFiles", {.Index = 0, .Path = path});
-}
-
 } // namespace dorvan

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/recent_files.h"
 #include "session/session.h"
 
 #include <functional>
@@ -23,8 +24,5 @@ void OpensWithoutFault(Session& session, const std::string& path, std::string_vi
 
 // Said before a file of an older format is read.
 void TellOlderVersion(Session& session);
-
-// Puts a path that was opened through a dialog on the list of recent files.
-void UpdateRecentFiles(Session& session, const std::string& path);
 
 } // namespace dorvan

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "making/diagram_choices.h"
 #include "session/dialog.h"
+
+#include <string>
+#include <vector>
 
 namespace dorvan {
 
@@ -20,7 +24,12 @@ public:
     CommandButton Command1{"Command1", "O&K"};
     CommandButton Command2{"Command2", "Cancel"};
 
+    // The items of the two lists.
+    static const std::vector<std::string>& Generations();
+    static const std::vector<std::string>& Variants();
+
     void Form_Load() override;
+    void Enter(const GeneticChoices& options);
     void Command1_Click();
     void Command2_Click() { Close(DialogResult::Cancelled); }
     void CancelCommand() override { Command2_Click(); }

@@ -1,5 +1,6 @@
 #include "making/frmGeneticUM.h"
 
+#include "making/ordering_options.h"
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 #include "platform/number_field.h"
@@ -22,6 +23,10 @@ std::array<frmGeneticUM::Row, frmGeneticUM::RowCount> frmGeneticUM::Rows() {
              {&Label11, &Text11, nullptr}}};
 }
 
+void frmGeneticUM::Enter(const std::map<RavelinParameter, std::string>& texts) {
+    for (const auto& [parameter, text] : texts) Rows().at(std::size_t(parameter)).Field->Text = text;
+}
+
 void frmGeneticUM::Text_KeyPress(const TextBox& field, int& keyAscii) {
     FilterNumberKey(session_.platform.keyboard, keyAscii, &field == &Text11 ? "." : "");
 }
@@ -29,11 +34,12 @@ void frmGeneticUM::Text_KeyPress(const TextBox& field, int& keyAscii) {
 // A text that does not convert leaves its value unchanged.
 bool frmGeneticUM::Store(const Row& row) {
     const char separator = session_.DecimalSeparator;
+    auto& options = session_.Of<OrderingOptions>();
     try {
         if (row.Value)
-            session_.ordering.*row.Value = StrictInt16(row.Field->Text, separator);
+            options.*row.Value = StrictInt16(row.Field->Text, separator);
         else
-            session_.ordering.MatrixConversionCoefficient = ParseSheetNumber(row.Field->Text, separator);
+            options.MatrixConversionCoefficient = ParseSheetNumber(row.Field->Text, separator);
         return true;
     } catch (const RuntimeFailure&) {
         return false;
@@ -47,7 +53,7 @@ void frmGeneticUM::Command1_Click() {
         session_.platform.messages.show({.Text = "Parametr error!"});
         return;
     }
-    session_.ordering.WorkCancelled = false;
+    session_.Of<OrderingOptions>().WorkCancelled = false;
     Close(DialogResult::Accepted);
 }
 

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "making/diagram_choices.h"
+#include "making/ordering_options.h"
 #include "session/dialog.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
+#include <string>
 
 namespace dorvan {
 
@@ -48,7 +52,9 @@ public:
         std::int16_t OrderingOptions::*Value;
     };
     static constexpr std::size_t RowCount = 11;
-    std::array<Row, RowCount> Rows();
+    std::array<Row, RowCount> Rows(); // in the order of RavelinParameter
+
+    void Enter(const std::map<RavelinParameter, std::string>& texts);
 
     // Digits and backspace; the field of the coefficient also takes the point. Enter goes to the next field.
     void Text_KeyPress(const TextBox& field, int& keyAscii);

@@ -1,8 +1,10 @@
 #include "making/frmPrzedzal.h"
 
+#include "distance/distance.h"
 #include "distance/frmCustomized.h"
-#include "distance/measure_lists.h"
 #include "distance/measures.h"
+#include "making/making_values.h"
+#include "making/ordering_method.h"
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 #include "platform/number_field.h"
@@ -32,7 +34,8 @@ void frmPrzedzal::Form_Load() {
     cboData.List = DataKinds();
     cboData.ListIndex = 0;
     cboData_Click();
-    chkAuto.Value = chkAuto.Enabled = session_.DiagramRecordCount >= FewestRecordsForAutomatic;
+    chkAuto.Value = chkAuto.Enabled =
+        session_.Of<MakingValues>().DiagramRecordCount >= FewestRecordsForAutomatic;
     EnableLimits(!chkAuto.Value);
 }
 
@@ -48,8 +51,16 @@ void frmPrzedzal::LoadLimits() {
 
 void frmPrzedzal::Form_Show() {
     Frame1.Visible = !session_.DiagramFromMatrix;
-    Option8.Enabled = session_.orderingMethods.contains(3);
-    Option9.Enabled = session_.orderingMethods.contains(4);
+    const auto& methods = session_.Of<OrderingMethods>();
+    Option8.Enabled = methods.contains(3);
+    Option9.Enabled = methods.contains(4);
+}
+
+void frmPrzedzal::Enter(const DiagramChoices& options) {
+    if (options.Measure.Measure) SelectMeasure(*options.Measure.Measure, cboData, Combo1);
+    if (options.DiagType) Choose(TypeOptions(), *TypeOptions().at(std::size_t(*options.DiagType - 1)));
+    if (options.OrderMethod)
+        Choose(OrderOptions(), *OrderOptions().at(std::size_t(*options.OrderMethod - 1)));
 }
 
 void frmPrzedzal::cboData_Click() {
@@ -84,7 +95,7 @@ void frmPrzedzal::Command3_Click() {
     session_.SectionLimits = Array1<float>(4);
     StoreChoices();
     if (chkAuto.Value)
-        session_.AutoLimits = true;
+        session_.Of<MakingValues>().AutoLimits = true;
     else if (!TypedLimitsAccepted())
         return;
     if (!FurtherDialogsAccepted()) return;
@@ -109,7 +120,7 @@ bool frmPrzedzal::TypedLimitsAccepted() {
         return Refuse("Error - all limits = 0!", MessageIcon::Critical);
     if (std::ranges::adjacent_find(limits, std::greater_equal<>()) != limits.end())
         return Refuse("Invalid section limits!", MessageIcon::Critical);
-    session_.AutoLimits = false;
+    session_.Of<MakingValues>().AutoLimits = false;
     return true;
 }
 
@@ -131,8 +142,9 @@ bool frmPrzedzal::ParseLimits() {
 bool frmPrzedzal::FurtherDialogsAccepted() {
     if (!session_.DiagramFromMatrix && session_.CurrentDistType == DistanceType::Customized)
         if (!Accepted<frmCustomized>(session_)) return false;
-    const auto method = session_.orderingMethods.find(session_.CurrentOrderMethod);
-    if (method != session_.orderingMethods.end()) {
+    const auto& methods = session_.Of<OrderingMethods>();
+    const auto method = methods.find(session_.CurrentOrderMethod);
+    if (method != methods.end()) {
         method->second.askOptions(session_);
         if (session_.DialogOutcome == DialogResult::Cancelled) return false;
     }

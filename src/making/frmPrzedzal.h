@@ -1,5 +1,6 @@
 #pragma once
 
+#include "making/diagram_choices.h"
 #include "session/dialog.h"
 
 #include <vector>
@@ -49,6 +50,8 @@ public:
     void Form_Load() override;
     // Without Frame1 (when it is not Visible) all that stands below it moves up by its room.
     void Form_Show() override;
+
+    void Enter(const DiagramChoices& options);
 
     void cboData_Click(); // after a change of its selection
     void chkAuto_Click(); // after a change of its tick

@@ -1,6 +1,7 @@
 #include "making/frmWork.h"
 
 #include "making/elapsed_text.h"
+#include "making/ordering_options.h"
 #include "numbers/number_text.h"
 
 namespace dorvan {
@@ -18,7 +19,7 @@ void frmWork::ShowProgress(const GeneticProgress& progress, float seconds) {
 void frmWork::ShowEnd() { InfoString.Caption = "100 %"; }
 
 void frmWork::Command1_Click() {
-    session_.ordering.WorkCancelled = true;
+    session_.Of<OrderingOptions>().WorkCancelled = true;
     session_.platform.forms.close(*this);
 }
 

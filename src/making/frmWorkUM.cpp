@@ -1,6 +1,7 @@
 #include "making/frmWorkUM.h"
 
 #include "making/elapsed_text.h"
+#include "making/ordering_options.h"
 #include "numbers/number_text.h"
 
 #include <fmt/format.h>
@@ -37,7 +38,7 @@ void frmWorkUM::ShowProgress(const RavelinProgress& progress, float seconds) {
 }
 
 void frmWorkUM::Command1_Click() {
-    session_.ordering.WorkCancelled = true;
+    session_.Of<OrderingOptions>().WorkCancelled = true;
     session_.platform.forms.close(*this);
 }
 

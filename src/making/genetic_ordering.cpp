@@ -66,7 +66,7 @@ private:
         const auto lost = static_cast<std::uint64_t>(n_ - 1);
         for (std::size_t v = 2; v <= fitness_.size(); ++v) {
             if (n_ > 2)
-                random_.skip(lost * static_cast<std::uint64_t>(exchanges_) * DrawsOfExchange);
+                random_.Skip(lost * static_cast<std::uint64_t>(exchanges_) * DrawsOfExchange);
             else
                 for (std::uint64_t repetition = 0; repetition < lost; ++repetition) MakeVariant(Variant(v));
             MakeVariant(Variant(v));

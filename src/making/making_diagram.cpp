@@ -1,9 +1,11 @@
 #include "making/making_diagram.h"
 
+#include "distance/distance.h"
 #include "distance/frmMacierz.h"
 #include "distance/loading.h"
-#include "distance/measures.h"
 #include "making/frmPrzedzal.h"
+#include "making/making_values.h"
+#include "making/ordering_method.h"
 #include "making/orderings.h"
 #include "making/section_limits.h"
 #include "numbers/number_text.h"
@@ -22,9 +24,6 @@
 namespace dorvan {
 
 namespace {
-
-// Measures above this one know no missing values.
-constexpr std::int16_t LastMeasureWithNA = DistanceType::Czekanowski;
 
 // What the diagram is made of: the active sheet of n records by m variables, or the matrix of n records in
 // `MatrixSlot` (m = 0). `Session::DiagramFromMatrix` tells which. A search lets events run, so the copies
@@ -93,7 +92,7 @@ bool OptionsAccepted(Session& session) {
 
 // For a matrix as well, with `DataHasNA` as the last load of a sheet left it.
 bool MeasureAccepted(Session& session) {
-    if (!session.DataHasNA || session.CurrentDistType <= LastMeasureWithNA) return true;
+    if (!session.tables.DataHasNA || KnowsMissingValues(session.CurrentDistType)) return true;
     session.platform.messages.show({.Text = "Nieprawidłowa funkcja odległości dla danych niepełnych!",
                                     .Icon = MessageIcon::Exclamation,
                                     .Title = "Dorvan"});
@@ -103,10 +102,10 @@ bool MeasureAccepted(Session& session) {
 // The cells as numbers of the process's own locale.
 void ReadMatrixCells(Session& session, const Source& source) {
     const auto& cells = DocumentOf(session, source).Cells;
-    session.DistanceValues = FloatTable(source.n, source.n);
+    session.tables.DistanceValues = FloatTable(source.n, source.n);
     for (std::int32_t i = 1; i <= source.n; ++i)
         for (std::int32_t j = 1; j <= source.n; ++j)
-            session.DistanceValues(i, j) = StrictFloat(cells(i, j), session.DecimalSeparator);
+            session.tables.DistanceValues(i, j) = StrictFloat(cells(i, j), session.DecimalSeparator);
 }
 
 void TakeDistances(Session& session, const Source& source) {
@@ -124,36 +123,36 @@ float MaxDistance(const FloatTable& distances) {
 }
 
 Order FindOrder(Session& session, float maxDistance) {
-    if (session.CurrentOrderMethod == 2) return SimpleOrder(session.DistanceValues, maxDistance);
-    const auto method = session.orderingMethods.find(session.CurrentOrderMethod);
-    if (method == session.orderingMethods.end())
-        throw RuntimeFailure(Failure::InvalidProcedureCall, "no such ordering");
-    const FloatTable distances = session.DistanceValues; // a document read meanwhile may replace them
+    if (session.CurrentOrderMethod == 2) return SimpleOrder(session.tables.DistanceValues, maxDistance);
+    const auto& methods = session.Of<OrderingMethods>();
+    const auto method = methods.find(session.CurrentOrderMethod);
+    if (method == methods.end()) throw RuntimeFailure(Failure::InvalidProcedureCall, "no such ordering");
+    const FloatTable distances = session.tables.DistanceValues; // a document read meanwhile may replace them
     return method->second.run(session, distances);
 }
 
 // `RecordHasNA` stays in the order of the sheet.
 void RewriteData(Session& session, const Source& source, const Order& order) {
-    session.DataValues = FloatTable(source.n, source.m);
-    session.RecordNames = Names(source.n);
+    session.tables.DataValues = FloatTable(source.n, source.m);
+    session.tables.RecordNames = Names(source.n);
     for (std::int32_t p = 1; p <= source.n; ++p) {
         for (std::int32_t v = 1; v <= source.m; ++v)
-            session.DataValues(p, v) = source.SavedValues(order(p), v);
-        session.RecordNames(p) = source.SavedNames(order(p));
+            session.tables.DataValues(p, v) = source.SavedValues(order(p), v);
+        session.tables.RecordNames(p) = source.SavedNames(order(p));
     }
-    session.VariableNames = source.SavedVariableNames;
-    session.RecordHasNA = source.SavedHasNA;
+    session.tables.VariableNames = source.SavedVariableNames;
+    session.tables.RecordHasNA = source.SavedHasNA;
     ComputeDistanceMatrix(session, source.n, source.m);
 }
 
 void RewriteMatrix(Session& session, const Source& source, const Order& order) {
     const DistanceMatrix& matrix = MatrixOf(session, source);
-    session.RecordNames = Names(source.n);
-    session.DistanceValues = FloatTable(source.n, source.n);
+    session.tables.RecordNames = Names(source.n);
+    session.tables.DistanceValues = FloatTable(source.n, source.n);
     for (std::int32_t p = 1; p <= source.n; ++p) {
-        session.RecordNames(p) = matrix.Names(order(p));
+        session.tables.RecordNames(p) = matrix.Names(order(p));
         for (std::int32_t q = 1; q <= source.n; ++q)
-            session.DistanceValues(p, q) =
+            session.tables.DistanceValues(p, q) =
                 StrictFloat(matrix.Cells(order(p), order(q)), session.DecimalSeparator);
     }
 }
@@ -178,10 +177,10 @@ void SaveCopies(Session& session, Source& source) {
         source.SavedMatrix = DocumentOf(session, source);
         return;
     }
-    source.SavedValues = session.DataValues;
-    source.SavedNames = session.RecordNames;
-    source.SavedVariableNames = session.VariableNames;
-    source.SavedHasNA = session.RecordHasNA;
+    source.SavedValues = session.tables.DataValues;
+    source.SavedNames = session.tables.RecordNames;
+    source.SavedVariableNames = session.tables.VariableNames;
+    source.SavedHasNA = session.tables.RecordHasNA;
 }
 
 // Distances, limits and order, with `DiagramBusy` at 1: a failure on the way leaves it there.
@@ -189,8 +188,8 @@ void Analyse(Session& session, Source& source) {
     session.DiagramBusy = 1;
     TakeDistances(session, source);
     SaveCopies(session, source);
-    const float maxDistance = MaxDistance(session.DistanceValues);
-    session.SectionLimits = ComputeAutomaticLimits(session.DistanceValues);
+    const float maxDistance = MaxDistance(session.tables.DistanceValues);
+    session.SectionLimits = ComputeAutomaticLimits(session.tables.DistanceValues);
     PutInOrder(session, source, maxDistance);
     session.DiagramBusy = 0;
 }
@@ -203,17 +202,17 @@ void FillDocument(Session& session, const Source& source, DiagramDocument& docum
     document.VarCount = NarrowToInt16(source.m);
     document.NoData = session.DiagramFromMatrix;
     document.DiagType = session.CurrentDiagType;
-    document.Matrix = session.DistanceValues;
+    document.Matrix = session.tables.DistanceValues;
     document.Classes = Array2<std::int16_t>(source.n, source.n);
     if (session.DiagramFromMatrix) {
         document.RecordNames = MatrixOf(session, source).Names;
         document.RecordHasNA = Flags(source.n);
     } else {
         document.DistType = session.CurrentDistType;
-        document.Data = session.DataValues;
-        document.VariableNames = session.VariableNames;
-        document.RecordNames = session.RecordNames;
-        document.RecordHasNA = session.RecordHasNA;
+        document.Data = session.tables.DataValues;
+        document.VariableNames = session.tables.VariableNames;
+        document.RecordNames = session.tables.RecordNames;
+        document.RecordHasNA = session.tables.RecordHasNA;
     }
     document.SectionLimits = session.SectionLimits;
     ClassifyDiagram(document);
@@ -241,7 +240,7 @@ void MakeDiagram(Session& session) {
     if (RefusedWhileBusy(session)) return;
     Source source = ActiveSource(session);
     if (!CountAccepted(session, source.n)) return;
-    session.DiagramRecordCount = source.n;
+    session.Of<MakingValues>().DiagramRecordCount = source.n;
     if (!OptionsAccepted(session)) return;
     // Read only now: the dialog comes before any data error.
     if (!session.DiagramFromMatrix && !LoadWorkingData(session)) return;

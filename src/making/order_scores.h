@@ -1,7 +1,7 @@
 #pragma once
 
+#include "making/ordering_method.h"
 #include "session/documents.h"
-#include "session/ordering_method.h"
 
 #include <cstdint>
 

@@ -5,6 +5,8 @@
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "making/genetic_ordering.h"
+#include "making/ordering_method.h"
+#include "making/ordering_options.h"
 #include "making/paint_pace.h"
 #include "making/ravelin_ordering.h"
 
@@ -61,7 +63,7 @@ private:
 
 Order RunSimpleGenetic(Session& session, const FloatTable& distances) {
     Watch<frmWork> watch(session);
-    auto found = SimpleGeneticOrder(distances, session.ordering, session.random,
+    auto found = SimpleGeneticOrder(distances, session.Of<OrderingOptions>(), session.random,
                                     [&watch](GeneticProgress& progress) { return watch.Yield(progress); });
     watch.window().ShowEnd();
     watch.Update();
@@ -77,14 +79,15 @@ Order RunRavelin(Session& session, const FloatTable& distances) {
                                      session.platform.messages.show({.Text = "Error - Min invalid value"});
                                  },
                              .decimalSeparator = session.DecimalSeparator};
-    return RavelinOrder(distances, session.ordering, session.random, hooks).BestOrder;
+    return RavelinOrder(distances, session.Of<OrderingOptions>(), session.random, hooks).BestOrder;
 }
 
 } // namespace
 
 void AddGeneticOrderings(Session& session) {
-    session.orderingMethods[3] = {.askOptions = AskOptions<frmGenetic>, .run = RunSimpleGenetic};
-    session.orderingMethods[4] = {.askOptions = AskOptions<frmGeneticUM>, .run = RunRavelin};
+    auto& methods = session.Of<OrderingMethods>();
+    methods[3] = {.askOptions = AskOptions<frmGenetic>, .run = RunSimpleGenetic};
+    methods[4] = {.askOptions = AskOptions<frmGeneticUM>, .run = RunRavelin};
 }
 
 } // namespace dorvan

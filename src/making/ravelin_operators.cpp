@@ -51,7 +51,7 @@ void FragmentTransfer(RandomSource& random, OrderRow order) {
 // Between the two places stands a draw that is dropped.
 void SingleTransfer(RandomSource& random, OrderRow order) {
     const std::int32_t a = DrawPlace(random, order);
-    random.skip(1);
+    random.Skip(1);
     MoveElement(order, a, DrawOtherPlace(random, order, a));
 }
 

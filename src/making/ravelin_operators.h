@@ -1,7 +1,7 @@
 #pragma once
 
+#include "making/ordering_options.h"
 #include "numbers/random_source.h"
-#include "session/ordering_options.h"
 
 #include <cstdint>
 #include <span>

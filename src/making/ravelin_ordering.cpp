@@ -36,23 +36,23 @@ public:
     // draw that fails does so when its turn comes.
     void Draw(int count, const Records& mutated, const Records& current, RandomSource& random,
               const OrderingOptions& options) {
-        const std::uint64_t start = random.position();
+        const std::uint64_t start = random.Position();
         next_ = 0;
         positions_.clear();
         for (int k = 0; k < count; ++k) {
             const std::span row = Row(std::size_t(k));
             std::copy_n((k == 0 ? mutated : current).begin(), n_, row.begin());
             if (!Mutate(row, random, options, k == 0)) break;
-            positions_.push_back(random.position());
+            positions_.push_back(random.Position());
         }
-        random.setPosition(start);
+        random.SetPosition(start);
         const std::size_t drawn = positions_.size();
         scorer_.Score(std::span(rows_).first(drawn * n_), std::span(trials_).first(drawn));
     }
 
     // The next mutation: moves the random source behind it; gives the order and its score.
     std::span<const std::int16_t> Take(RandomSource& random, float& trial) {
-        random.setPosition(positions_[next_]);
+        random.SetPosition(positions_[next_]);
         trial = trials_[next_];
         return Row(next_++);
     }

@@ -47,8 +47,8 @@ std::vector<float> BelowTheDiagonal(const FloatTable& distances) {
 
 } // namespace
 
-// Any ascending sort gives what the halved gaps give, since equal distances cannot be told apart. This one
-// takes a digit of the bits at a time, the lowest first.
+// Any ascending sort gives the same, since equal distances cannot be told apart. This one takes a digit of
+// the bits at a time, the lowest first.
 void SortAllButLast(std::vector<float>& values) {
     if (values.size() < 3) return;
     std::vector<std::uint32_t> keys(values.size() - 1);

@@ -10,8 +10,8 @@ namespace dorvan {
 // without interpolation. Fails with SubscriptOutOfRange for n = 2.
 Array1<float> ComputeAutomaticLimits(const FloatTable& distances);
 
-// Shell's sort as the limits use it: ascending, in place, over all elements but the last, which stays.
-// (D. L. Shell, A high-speed sorting procedure, 1959, with halved gaps.)
+// Ascending, in place, over all elements but the last, which stays: a radix sort of the floats' bits, 11 at a
+// time. O(n).
 void SortAllButLast(std::vector<float>& values);
 
 } // namespace dorvan

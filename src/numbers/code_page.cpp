@@ -51,7 +51,7 @@ bool HasModifier(std::string_view localeName, std::string_view modifier) {
 
 CodePage::CodePage(int number) : number_(IsCodePage(number) ? number : Western) {}
 
-std::string CodePage::fromUtf8(std::string_view text) const {
+std::string CodePage::FromUtf8(std::string_view text) const {
     const CodePageTable& table = *FindTable(number_);
     std::string bytes;
     bytes.reserve(text.size());
@@ -66,7 +66,7 @@ std::string CodePage::fromUtf8(std::string_view text) const {
     return bytes;
 }
 
-std::string CodePage::toUtf8(std::string_view bytes) const {
+std::string CodePage::ToUtf8(std::string_view bytes) const {
     const CodePageTable& table = *FindTable(number_);
     std::string text;
     text.reserve(bytes.size());

@@ -11,14 +11,14 @@ class CodePage {
 public:
     explicit CodePage(int number = 1252);
 
-    int number() const { return number_; }
+    int Number() const { return number_; }
 
     // A character outside the page becomes "?". Malformed UTF-8: "?" for each bad byte.
-    std::string fromUtf8(std::string_view text) const;
+    std::string FromUtf8(std::string_view text) const;
 
     // Total: a byte without a character of its own becomes the control character of the same number, and
     // fromUtf8 turns that back.
-    std::string toUtf8(std::string_view bytes) const;
+    std::string ToUtf8(std::string_view bytes) const;
 
 private:
     int number_;

@@ -21,13 +21,13 @@ std::uint64_t Scrambled(std::uint64_t seed) {
 
 RandomSource::RandomSource(std::uint64_t seed) : state_(Scrambled(seed)) {}
 
-float RandomSource::draw() {
+float RandomSource::Draw() {
     state_ = Multiplier * state_ + Increment;
     return static_cast<float>(state_ >> 40) * 0x1p-24F;
 }
 
 // Steps of 1, 2, 4, ... draws are affine as well: the step is composed with itself for each bit of the count.
-void RandomSource::skip(std::uint64_t count) {
+void RandomSource::Skip(std::uint64_t count) {
     std::uint64_t multiplier = Multiplier;
     std::uint64_t increment = Increment;
     for (; count != 0; count >>= 1) {
@@ -39,7 +39,7 @@ void RandomSource::skip(std::uint64_t count) {
 
 std::int32_t RandomInRange(RandomSource& source, std::int32_t low, std::int32_t high) {
     const double span = double(high) - double(low) + 1.0;
-    const double value = double(source.draw()) * span + double(low);
+    const double value = double(source.Draw()) * span + double(low);
     const auto whole = static_cast<std::int32_t>(value); // towards 0
     return whole > value ? whole - 1 : whole;
 }

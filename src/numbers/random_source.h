@@ -11,13 +11,13 @@ public:
     explicit RandomSource(std::uint64_t seed = 0);
 
     // The next draw: k / 2^24 with k from 0 to 2^24 - 1.
-    float draw();
+    float Draw();
 
     // Passes over `count` draws in O(log count).
-    void skip(std::uint64_t count);
+    void Skip(std::uint64_t count);
 
-    std::uint64_t position() const { return state_; }
-    void setPosition(std::uint64_t position) { state_ = position; }
+    std::uint64_t Position() const { return state_; }
+    void SetPosition(std::uint64_t position) { state_ = position; }
 
 private:
     std::uint64_t state_;

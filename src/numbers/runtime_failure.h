@@ -33,8 +33,8 @@ class RuntimeFailure : public std::runtime_error {
 public:
     explicit RuntimeFailure(Failure failure, std::string_view detail = {});
 
-    Failure failure() const { return failure_; }
-    int number() const { return static_cast<int>(failure_); }
+    Failure Kind() const { return failure_; }
+    int Number() const { return static_cast<int>(failure_); }
 
 private:
     Failure failure_;

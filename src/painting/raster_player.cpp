@@ -1,6 +1,7 @@
 #include "painting/raster_player.h"
 
 #include "painting/fonts.h"
+#include "painting/rasterizer.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/drawing_ports.h"
+#include "platform/drawing.h"
 
 #include <QImage>
 
@@ -13,10 +13,5 @@ namespace dorvan::painting {
 // The first sheet of a drawing with `scale` pixels for 15 twips, a size that is no whole number of pixels
 // rounded up. Throws std::bad_alloc for a picture that memory does not hold.
 QImage ImageOf(const Drawing& drawing, double scale = 1);
-
-class QtRasterizer : public Rasterizer {
-public:
-    PixelImage pixelsOf(const Drawing& drawing) override;
-};
 
 } // namespace dorvan::painting

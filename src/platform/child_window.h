@@ -31,7 +31,6 @@ public:
     // False keeps the window open.
     virtual bool Form_QueryUnload() { return true; }
     virtual void Form_Unload() = 0;
-    virtual void Form_Resize() {}
 
     // A command is about to run, or another window comes to the front: a field that has the focus loses it.
     virtual void LeaveField() {}

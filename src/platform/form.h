@@ -25,6 +25,7 @@ public:
 
     virtual void Form_Load() {}              // once, when the form is created
     virtual void Form_Show() {}              // each time it comes up
+    virtual void Form_Resize() {}            // with its showing, and when the user sizes it
     virtual void CancelCommand() { Hide(); } // Esc, or the form's own close control
 
     void SetFocus(const Control& control) { ActiveControl = &control; }

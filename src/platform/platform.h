@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/drawing_ports.h"
 #include "platform/message_boxes.h"
 #include "platform/ports.h"
 
@@ -20,6 +21,9 @@ struct Platform {
     Clock& clock;
     SettingsStore& settings;
     HelpViewer& help;
+    TextMeasure& fonts;
+    Rasterizer& raster;
+    PictureClipboard& clipboard;
 };
 
 // The wait cursor for as long as it lives.

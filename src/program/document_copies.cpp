@@ -8,7 +8,6 @@
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 #include "numbers/text.h"
-#include "session/document_grid.h"
 #include "session/registry.h"
 #include "sheet/expression.h"
 #include "sheet/frmNotePad.h"
@@ -32,32 +31,27 @@ bool Reads(const std::string& cell, char decimalSeparator) {
 }
 
 // The sheet with every value cell a number or "N/A".
-Grid ReadableSheet(const Grid& sheet, char decimalSeparator) {
-    Grid copy = sheet;
-    for (int row = 1; row < copy.Rows(); ++row)
-        for (int column = DocumentGrid::FirstValueColumn; column < copy.Columns(); ++column) {
-            const std::string& cell = copy.Text(row, column);
-            if (Reads(cell, decimalSeparator)) continue;
-            const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;
-            copy.SetText(row, column, FormatPattern(value, "###0.000", decimalSeparator));
-        }
-    return copy;
-}
-
-Grid SheetOf(const DocumentTables& tables, char decimalSeparator) {
-    Grid sheet("");
-    sheet.SetSize(tables.RecordNames.Count() + 1, tables.VariableNames.Count() + 2);
-    for (int j = 1; j <= tables.VariableNames.Count(); ++j) sheet.SetText(0, j + 1, tables.VariableNames(j));
-    for (int i = 1; i <= tables.RecordNames.Count(); ++i) {
-        sheet.SetText(i, 1, tables.RecordNames(i));
-        for (int j = 1; j <= tables.VariableNames.Count(); ++j)
-            sheet.SetText(i, j + 1, CellText(tables.DataValues(i, j), decimalSeparator));
+SheetTable ReadableSheet(SheetTable sheet, char decimalSeparator) {
+    for (std::string& cell : sheet.Cells.Cells()) {
+        if (Reads(cell, decimalSeparator)) continue;
+        const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;
+        cell = FormatPattern(value, "###0.000", decimalSeparator);
     }
     return sheet;
 }
 
+SheetTable SheetOf(const DocumentTables& tables, char decimalSeparator) {
+    SheetTable sheet(tables.RecordNames.Count(), tables.VariableNames.Count());
+    sheet.RecordNames = tables.RecordNames;
+    sheet.VariableNames = tables.VariableNames;
+    for (int i = 1; i <= sheet.RecordCount(); ++i)
+        for (int j = 1; j <= sheet.VariableCount(); ++j)
+            sheet.Cells(i, j) = CellText(tables.DataValues(i, j), decimalSeparator);
+    return sheet;
+}
+
 // The documents of files, as a run that opened them would have them.
-std::string SavedAgain(const Grid&, const std::string& bytes, const FileText& text) {
+std::string SavedAgain(const SheetTable&, const std::string& bytes, const FileText& text) {
     DocumentTables tables;
     const std::string description = IsCurrentDataFile(bytes)
                                         ? ParseDataFile(bytes, text, tables, EmptyFields::Taken)
@@ -96,7 +90,7 @@ std::string SavedAgain(const DiagramDocument&, const std::string& bytes, const F
     return ComposeDiagramFile(document, header.Description, text);
 }
 
-std::string Composed(const Grid& sheet, const DocumentSnapshot& document) {
+std::string Composed(const SheetTable& sheet, const DocumentSnapshot& document) {
     return ComposeDataFile(sheet, document.Description, document.Text);
 }
 
@@ -119,7 +113,7 @@ std::optional<DocumentSnapshot> SnapshotOf(const Session& session, const ChildWi
         document.Kind = DocumentKind::Data;
         document.Path = sheet->NamedFile();
         document.Description = sheet->OpisText.Text;
-        document.Content = sheet->Grid1;
+        document.Content = sheet->Table();
     } else if (const auto* matrix = dynamic_cast<const frmMacierz*>(&window)) {
         document.Kind = DocumentKind::Matrix;
         document.Description = matrix->BottomText.Text;
@@ -145,7 +139,7 @@ std::string ComposeAsSaved(const DocumentSnapshot& document) {
 }
 
 std::string ComposeReadable(const DocumentSnapshot& document) {
-    if (const auto* sheet = std::get_if<Grid>(&document.Content))
+    if (const auto* sheet = std::get_if<SheetTable>(&document.Content))
         return Composed(ReadableSheet(*sheet, document.Text.DecimalSeparator), document);
     return ComposeAsSaved(document);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "files/file_text.h"
-#include "platform/grid.h"
 #include "session/session.h"
+#include "sheet/sheet_table.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +18,7 @@ struct DocumentSnapshot {
     std::string Caption; // of its window
     std::string Path;    // of its own file; empty when it has none
     std::string Description;
-    std::variant<Grid, DistanceMatrix, DiagramDocument> Content = DistanceMatrix();
+    std::variant<SheetTable, DistanceMatrix, DiagramDocument> Content = DistanceMatrix();
     FileText Text;
 };
 

@@ -2,6 +2,7 @@
 #include "files/data_documents.h"
 #include "files/diagram_documents.h"
 #include "files/matrix_documents.h"
+#include "files/recent_document.h"
 #include "program/registering.h"
 #include "view/frmDiagram.h"
 
@@ -11,6 +12,7 @@ void RegisterFilesOperations(Session& session) {
     Register(session, "OpenDataFile", OpenDataFile);
     Register(session, "OpenMatrixFile", OpenMatrixFile);
     Register(session, "OpenDiagramFile", OpenDiagramFile);
+    Register(session, "OpenRecentFile", OpenRecentFile);
     Register(session, "SaveData", SaveData);
     Register(session, "SaveDataAs", SaveDataAs);
     Register(session, "frmMacierz.SaveMatrix", MatrixWindow, &frmMacierz::SaveMatrix);

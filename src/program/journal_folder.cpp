@@ -109,7 +109,7 @@ void JournalFolder::MakeThisRun() {
 void JournalFolder::Keep(std::uint64_t number, const DocumentSnapshot& document) {
     if (IsHeldByFile(document)) return Forget(number);
     const std::string bytes = ComposeReadable(document);
-    const std::string origin = ComposeOrigin(document.Path, document.Caption, document.Text.Codes.number());
+    const std::string origin = ComposeOrigin(document.Path, document.Caption, document.Text.Codes.Number());
     const std::size_t hash = std::hash<std::string>()(bytes + origin);
     Kept& kept = kept_[number];
     if (!kept.File.empty() && kept.Hash == hash) return;
@@ -143,7 +143,7 @@ void JournalFolder::PutClosed(const std::string& bytes, const std::string& exten
 void JournalFolder::KeepClosed(const DocumentSnapshot& document) {
     if (IsHeldByFile(document)) return;
     PutClosed(ComposeReadable(document), fmt::format(".{}", ExtensionOf(document)),
-              ComposeOrigin(document.Path, document.Caption, document.Text.Codes.number()));
+              ComposeOrigin(document.Path, document.Caption, document.Text.Codes.Number()));
 }
 
 std::optional<LeftDocument> JournalFolder::LastClosed() const {

@@ -1,4 +1,5 @@
 #include "program/registering.h"
+#include "view/frmBMP.h"
 #include "view/frmDiagram.h"
 
 namespace dorvan {
@@ -10,6 +11,13 @@ void RegisterViewOperations(Session& session) {
     Register(session, "frmDiagram.Down", DiagramWindow, &frmDiagram::Down);
     Register(session, "frmDiagram.EndRow", DiagramWindow, &frmDiagram::EndRow);
     Register(session, "frmDiagram.Insert", DiagramWindow, &frmDiagram::Insert);
+    Register(session, "frmDiagram.Histogram", DiagramWindow, &frmDiagram::Histogram);
+    Register(session, "frmDiagram.Linear", DiagramWindow, &frmDiagram::Linear);
+    Register(session, "frmDiagram.DiagramType", DiagramWindow, &frmDiagram::DiagramType);
+    Register(session, "frmDiagram.DataOrder", DiagramWindow, &frmDiagram::DataOrder);
+    Register(session, "frmDiagram.Matrix", DiagramWindow, &frmDiagram::Matrix);
+    Register(session, "frmDiagram.BITMAP", DiagramWindow, &frmDiagram::BITMAP);
+    Register(session, "frmBMP.BitmapClip", BitmapWindow, &frmBMP::BitmapClip);
 }
 
 } // namespace dorvan

@@ -298,8 +298,6 @@ constexpr CommandRow ButtonRows[] = {
 constexpr CommandRow InnerRows[] = {
     {.Calls = {.Any = "Save"}},
     {.Calls = {.Any = "SaveAs"}},
-    {.Calls = {.Any = "LoadRecentFiles"}},
-    {.Calls = {.Any = "UpdateRecentFiles"}},
 };
 
 } // namespace

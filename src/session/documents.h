@@ -45,6 +45,17 @@ struct DistanceMatrix {
     std::int16_t Size = 0;     // n
 };
 
+// The tables in which a document travels, all from 1. A reader fills them part by part; on failure they hold
+// what was read so far, the parts that it did not reach as they were.
+struct DocumentTables {
+    Names RecordNames;
+    Names VariableNames;
+    FloatTable DataValues;     // (record, variable)
+    FloatTable DistanceValues; // (record, record)
+    Flags RecordHasNA;
+    bool DataHasNA = false;
+};
+
 // The record behind one diagram.
 struct DiagramDocument {
     std::int16_t RecCount = 0;

@@ -2,6 +2,7 @@
 
 #include "numbers/number_text.h"
 #include "session/menus.h"
+#include "session/recent_files.h"
 #include "session/window_switches.h"
 
 #include <fmt/format.h>
@@ -53,7 +54,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     session.codePage = CodePage(SystemCodePage());
     BuildRegistry(session);
     SetDefaults(session);
-    session.commands.Call("LoadRecentFiles");
+    LoadRecentFiles(session);
     DisableDocumentCommands(session.mainWindow);
     session.mainWindow.TypeOfForm = DocumentKind::Main;
 }

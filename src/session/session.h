@@ -8,8 +8,6 @@
 #include "session/documents.h"
 #include "session/forms.h"
 #include "session/main_window.h"
-#include "session/ordering_method.h"
-#include "session/ordering_options.h"
 #include "session/version.h"
 
 #include <cstdint>
@@ -18,12 +16,13 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <typeindex>
 #include <vector>
 
 namespace dorvan {
 
-// The one state of a run: the arrays through which documents pass, the analysis options, and the registry of
-// open documents. Made once and handed by reference.
+// The one state of a run: the tables through which documents pass, the values that more than one room shares,
+// and the registry of open documents. Made once and handed by reference.
 struct Session {
     explicit Session(Platform& ports) : platform(ports) {}
     Session(const Session&) = delete;
@@ -40,19 +39,10 @@ struct Session {
     std::string AppPath;  // the program's folder, stored at start-up
     std::string HelpFile; // empty: no help file is set
 
-    // Documents in transit, all from 1.
-    Names RecordNames;
-    Names VariableNames;
-    FloatTable DataValues;     // (record, variable)
-    FloatTable DistanceValues; // (record, record)
-    Flags RecordHasNA;
-    bool DataHasNA = false;
-    bool PendingError = false; // the pending-error indicator
-    std::string SilentFailure; // why the last writer that tells nothing could not write; empty: it could
+    DocumentTables tables; // the working arrays: the document in transit
 
     // Analysis options.
     Array1<float> SectionLimits; // four, unset until the first diagram
-    bool AutoLimits = false;     // how the options dialog was accepted last: "Automatic" or typed limits
     std::int16_t CurrentDiagType = 2;
     std::int16_t CurrentDistType = 1;
     std::int16_t Par_P = 0;
@@ -74,8 +64,6 @@ struct Session {
     std::int16_t MaxDiagramRecords = 0;
     bool DiagramFromMatrix = false;
     std::int32_t DiagramBusy = 0; // 1 while a diagram is being made: commands only beep
-    bool SuppressCommit = false;  // set by the deletion of a record: the next commit of a cell is dropped
-    std::int32_t DiagramRecordCount = 0; // records of the document for which a diagram is being made
 
     // The registry. Slot 0 is never used; within one kind all have the same upper bound; they never shrink.
     std::vector<std::shared_ptr<ChildWindow>> DataWindows;
@@ -96,8 +84,18 @@ struct Session {
     // Told of a window that closes, after its questions; null: nobody listens.
     std::function<void(const ChildWindow&)> onClosing;
 
-    OrderingMethods orderingMethods;
-    OrderingOptions ordering; // of the two genetic ones
+    // The values of one room, kept with the room and known to it alone: made at their first use, and as long
+    // as the session from then on.
+    //
+    //     session.Of<OrderingOptions>().WorkCancelled = true;
+    template <class Values> Values& Of() {
+        auto& held = roomValues_[typeid(Values)];
+        if (!held) held = std::make_shared<Values>();
+        return *static_cast<Values*>(held.get());
+    }
+
+private:
+    std::map<std::type_index, std::shared_ptr<void>> roomValues_;
 };
 
 // The session's part of the start-up: caption, folder, the locale's decimal separator and code page of files,

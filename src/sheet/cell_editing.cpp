@@ -8,6 +8,9 @@
 #include "platform/keys.h"
 #include "session/busy.h"
 #include "sheet/expression.h"
+#include "sheet/sheet_values.h"
+
+#include <utility>
 
 namespace dorvan {
 
@@ -34,7 +37,7 @@ Message TooLarge() {
 }
 
 Message Unexpected(const RuntimeFailure& failure) {
-    return {.Text = "Unexpected error #" + SignedText(failure.number()) +
+    return {.Text = "Unexpected error #" + SignedText(failure.Number()) +
                     " in processing that number.  Try again.",
             .Icon = MessageIcon::Exclamation,
             .Title = RefusalTitle};
@@ -172,6 +175,7 @@ void frmNotePad::EditCell_LostFocus() {
     Editing = false;
     if (!EditCell.Text.empty()) CommitCell(key::None);
     EditPanel.Visible = false;
+    if (ActiveControl == &EditCell) SetFocus(Grid1); // no other control of this window has taken it
 }
 
 // A commit lets events run: the window may close then, and another one get its slot.
@@ -180,15 +184,12 @@ std::shared_ptr<ChildWindow> frmNotePad::OwnReference() const {
 }
 
 void frmNotePad::LeaveField() {
-    if (!Editing) return;
-    SetFocus(Grid1);
-    EditCell_LostFocus();
+    if (Editing) EditCell_LostFocus();
 }
 
 void frmNotePad::CommitCell(int key) {
     const auto keepAlive = OwnReference();
-    if (session_.SuppressCommit) {
-        session_.SuppressCommit = false;
+    if (std::exchange(session_.Of<SheetValues>().SuppressCommit, false)) {
         EditCell.Text.clear();
         EditCell.SelStart = 0;
         return;

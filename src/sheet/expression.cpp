@@ -16,7 +16,7 @@ double InRange(double value) {
 
 } // namespace
 
-CellValue EvaluateCellText(std::string_view text) {
+ExpressionValue EvaluateCellText(std::string_view text) {
     bool started = false;
     double accumulator = 0.0;
     for (std::size_t place = 0; place < text.size(); ++place) {

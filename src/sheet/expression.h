@@ -4,7 +4,7 @@
 
 namespace dorvan {
 
-struct CellValue {
+struct ExpressionValue {
     double Value = 0.0;
     bool DividedByZero = false; // evaluation stopped there, with what it had
 };
@@ -12,6 +12,6 @@ struct CellValue {
 // The arithmetic that a cell of numbers accepts: leading numbers joined by + - * /, from left to right, with
 // no precedence and no brackets ("1+2*3" gives 9). The decimal separator is a point. The sign of an exponent
 // is an operator as well. A text without a number gives 0. Fails with Overflow beyond 64-bit floats.
-CellValue EvaluateCellText(std::string_view text);
+ExpressionValue EvaluateCellText(std::string_view text);
 
 } // namespace dorvan

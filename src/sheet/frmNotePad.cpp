@@ -33,6 +33,18 @@ std::string frmNotePad::NamedFile() const {
     return LowerCase(FilePath) == path ? FilePath : path;
 }
 
+SheetTable frmNotePad::Table() const {
+    SheetTable table(RecordCount(), VariableCount());
+    for (int variable = 1; variable <= VariableCount(); ++variable)
+        table.VariableNames(variable) = Grid1.Text(HeaderRow, ValueColumn(variable));
+    for (int record = 1; record <= RecordCount(); ++record) {
+        table.RecordNames(record) = Grid1.Text(record, NameColumn);
+        for (int variable = 1; variable <= VariableCount(); ++variable)
+            table.Cells(record, variable) = Grid1.Text(record, ValueColumn(variable));
+    }
+    return table;
+}
+
 void frmNotePad::LayOut(int recordCount, int variableCount) {
     DocumentGrid::SetSize(Grid1, recordCount, variableCount);
     Grid1.Clear();
@@ -50,13 +62,13 @@ void frmNotePad::LayOut(int recordCount, int variableCount) {
 }
 
 void frmNotePad::Present(const std::string& description) {
-    const auto& values = session_.DataValues;
-    LayOut(session_.RecordNames.Count(), session_.VariableNames.Count());
+    const auto& values = session_.tables.DataValues;
+    LayOut(session_.tables.RecordNames.Count(), session_.tables.VariableNames.Count());
     OpisText.Text = description;
     for (int variable = 1; variable <= VariableCount(); ++variable)
-        Grid1.SetText(HeaderRow, ValueColumn(variable), session_.VariableNames(variable));
+        Grid1.SetText(HeaderRow, ValueColumn(variable), session_.tables.VariableNames(variable));
     for (int row = 1; row <= RecordCount(); ++row) {
-        Grid1.SetText(row, NameColumn, session_.RecordNames(row));
+        Grid1.SetText(row, NameColumn, session_.tables.RecordNames(row));
         for (int variable = 1; variable <= VariableCount(); ++variable) {
             Grid1.SetText(row, ValueColumn(variable),
                           CellText(values(row, variable), session_.DecimalSeparator));

@@ -4,6 +4,7 @@
 #include "platform/grid.h"
 #include "session/document_grid.h"
 #include "session/session.h"
+#include "sheet/sheet_table.h"
 
 #include <cstdint>
 #include <memory>
@@ -45,6 +46,9 @@ public:
 
     int RecordCount() const { return DocumentGrid::RecordCount(Grid1); }
     int VariableCount() const { return DocumentGrid::ValueCount(Grid1); }
+
+    // What the grid holds.
+    SheetTable Table() const;
 
     // Sizes the grid for n records by m variables, with the headers "Number" and "Record Name", the column
     // widths and alignments, and the records' numbers in column 0. Clears all cells.

@@ -54,6 +54,22 @@ public:
     // names a place outside 1 to n.
     void ApplyRowOrder();
 
+    // A histogram of the distances; its OK sets the section limits. The linear graph of the order. The choice
+    // of another type. None of them marks the document as changed.
+    void Histogram();
+    void Linear();
+    void DiagramType();
+
+    // Open a new document: a sheet of the data as they stand, a matrix in the diagram's order, a bitmap,
+    // which ends the run with SubscriptOutOfRange where a cell has no section.
+    void DataOrder();
+    void Matrix();
+    void BITMAP();
+
+    // Asks for a path and writes the dots form of the diagram as a placeable metafile over the start of that
+    // file, of which a longer one keeps its tail.
+    void Metafile();
+
     // Switches the five moving buttons of toolDiagram.
     void SetIcons(bool enabled);
 
@@ -82,6 +98,8 @@ private:
     void PaintCross(std::int16_t row, bool selected);
 
     void Beep();
+    void RepaintInPlace();
+    void RefreshActiveWindow();
     void SelectCurrentRow();
     void DropSelection();
     void StartOrder();

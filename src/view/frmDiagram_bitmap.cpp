@@ -19,7 +19,7 @@ void frmDiagram::BITMAP() {
                                                  "It's going to be illegible!"});
     const WaitCursor waiting(session_.platform);
     OpenDocumentWindow<frmBMP>(session_, {}, [this](frmBMP& window) {
-        window.ShowPicture(BitmapDrawing(Document(), session_.platform.text, session_.DecimalSeparator));
+        window.ShowPicture(BitmapDrawing(Document(), session_.platform.fonts, session_.DecimalSeparator));
     });
 }
 

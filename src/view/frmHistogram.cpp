@@ -40,7 +40,7 @@ void frmHistogram::Form_Load() {
 void frmHistogram::Draw(const Array1<float>& limits) {
     Counts = CountSections(Document(), limits);
     if (Option2.Value) Counts.Accumulate();
-    Picture1.Show(HistogramDrawing(BarHeights(Counts), Option2.Value, session_.platform.text));
+    Picture1.Show(HistogramDrawing(BarHeights(Counts), Option2.Value, session_.platform.fonts));
 }
 
 bool frmHistogram::Refuse(const char* text, MessageIcon icon) {

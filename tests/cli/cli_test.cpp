@@ -210,7 +210,8 @@ TEST_F(CommandLine, WrongUsageIsStatusTwo) {
 }
 
 TEST_F(CommandLine, HelpShowsExamplesForEachSubcommand) {
-    for (const std::string command : {"matrix", "diagram", "convert", "info", "picture"}) {
+    for (const std::string command :
+         {"matrix", "diagram", "convert", "info", "derive", "retype", "export", "picture"}) {
         const Outcome outcome = runCli({command, "--help"});
         EXPECT_EQ(outcome.status, 0);
         EXPECT_NE(outcome.out.find("dorvan-cli " + command + " "), std::string::npos) << outcome.out;
@@ -461,6 +462,99 @@ TEST_F(CommandLinePicture, ThatCannotBeMadeIsRefused) {
 TEST_F(CommandLinePicture, ThatCannotBeWrittenIsTold) {
     expectRefusal({"picture", diagram, out("missing/d.png")}, "missing/d.png", "No such file",
                   out("missing/d.png"));
+}
+
+class CommandLineDiagram : public CommandLinePicture {};
+
+TEST_F(CommandLineDiagram, MatrixIsDerivedInItsOrder) {
+    ASSERT_EQ(runCli({"diagram", sheet, diagram, "--order", "simple"}).status, 0);
+    const Outcome outcome = runCli({"derive", "matrix", diagram, out("m.mtx")});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const std::string matrix = fileBytes(out("m.mtx"));
+    EXPECT_NE(matrix.find("[RECORD_LABEL]\r\nA\r\nC\r\nB\r\n"), std::string::npos) << matrix;
+    EXPECT_NE(matrix.find("[MATRIX]\r\n0.000;1.000;10.000\r\n1.000;0.000;9.000\r\n10.000;9.000;0.000\r\n"),
+              std::string::npos);
+}
+
+TEST_F(CommandLineDiagram, DataAreDerivedInItsOrder) {
+    ASSERT_EQ(runCli({"diagram", sheet, diagram, "--order", "simple"}).status, 0);
+    EXPECT_EQ(runCli({"derive", "data", diagram, out("d.mdt")}).status, 0);
+    const std::string data = fileBytes(out("d.mdt"));
+    EXPECT_NE(data.find("[RECORD_LABEL]\r\nA\r\nC\r\nB\r\n"), std::string::npos) << data;
+    EXPECT_NE(data.find("[DATA]\r\n0.000\r\n1.000\r\n10.000\r\n"), std::string::npos) << data;
+}
+
+TEST_F(CommandLineDiagram, DataOfADiagramWithoutDataAreRefused) {
+    ASSERT_EQ(runCli({"matrix", sheet, out("m.mtx")}).status, 0);
+    ASSERT_EQ(runCli({"diagram", out("m.mtx"), diagram}).status, 0);
+    expectRefusal({"derive", "data", diagram, out("d.mdt")}, "d.dgr", "no data behind it", out("d.mdt"));
+    EXPECT_EQ(runCli({"derive", "matrix", diagram, out("again.mtx")}).status, 0);
+}
+
+TEST_F(CommandLineDiagram, DerivedDocumentNeedsANameOfItsKind) {
+    EXPECT_EQ(runCli({"derive", "data", diagram, out("d.mtx")}).status, 2);
+    EXPECT_EQ(runCli({"derive", "matrix", diagram, out("d.mdt")}).status, 2);
+    EXPECT_EQ(runCli({"derive", "names", diagram, out("d.mdt")}).status, 2);
+    EXPECT_FALSE(fs::exists(out("d.mtx")));
+}
+
+TEST_F(CommandLineDiagram, TypeAndLimitsAreChangedAlone) {
+    const std::string before = fileBytes(diagram);
+    ASSERT_EQ(runCli({"retype", diagram, out("t.dgr"), "--type", "classic"}).status, 0);
+    const std::string retyped = fileBytes(out("t.dgr"));
+    EXPECT_NE(retyped.find("DiagType=3\r\n"), std::string::npos);
+    EXPECT_EQ(retyped.substr(retyped.find("[RECORD_LABEL]")), before.substr(before.find("[RECORD_LABEL]")));
+    const Outcome outcome = runCli({"retype", diagram, out("l.dgr"), "--limits", "0.5,2,9.5,20"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const std::string limited = fileBytes(out("l.dgr"));
+    EXPECT_NE(limited.find("SecLimit_1=0.5"), std::string::npos) << limited;
+    EXPECT_NE(limited.find("SecLimit_4=20"), std::string::npos);
+    EXPECT_NE(limited.find("DiagType=2\r\n"), std::string::npos);
+    ASSERT_EQ(runCli({"retype", diagram, out("n.dgr")}).status, 0);
+    EXPECT_EQ(fileBytes(out("n.dgr")), before);
+}
+
+TEST_F(CommandLineDiagram, LimitsAreRefusedInTheDialogsWords) {
+    for (const auto& [limits, refusal] :
+         std::vector<std::pair<std::string, std::string>>{{"1,1,2,3", "Invalid section limits!"},
+                                                          {"0,0,0,0", "Error - all limits = 0!"},
+                                                          {"1,x,2,3", "Invalid number!"}})
+        expectRefusal({"retype", diagram, out("l.dgr"), "--limits", limits}, "d.dgr", refusal, out("l.dgr"));
+    EXPECT_EQ(runCli({"retype", diagram, out("l.dgr"), "--limits", "1,2,3"}).status, 2);
+    ASSERT_EQ(runCli({"diagram", sample("quakes250.mdt"), out("q.dgr")}).status, 0);
+    expectRefusal({"retype", out("q.dgr"), out("l.dgr"), "--limits", "1,2,3,4"}, "q.dgr", "Overflow",
+                  out("l.dgr"));
+}
+
+TEST_F(CommandLineDiagram, ImageIsWrittenInTheFormatOfItsName) {
+    for (const auto& [name, start] : std::vector<std::pair<std::string, std::string>>{
+             {"d.bmp", "BM"}, {"D.TIF", "II"}, {"d.png", "\x89PNG"}}) {
+        const Outcome outcome = runCli({"export", "image", diagram, out(name)});
+        EXPECT_EQ(outcome.status, 0) << outcome.err;
+        EXPECT_EQ(fileBytes(out(name)).substr(0, start.size()), start);
+    }
+    EXPECT_EQ(sizeOfPng(fileBytes(out("d.png"))), (std::pair{527, 140}));
+    EXPECT_EQ(fileBytes(out("d.png")).at(24), 8); // bits a pixel
+}
+
+TEST_F(CommandLineDiagram, ImageThatCannotBeWrittenIsTold) {
+    expectRefusal({"export", "image", diagram, out("missing/d.png")}, "missing/d.png", "No such file",
+                  out("missing/d.png"));
+    for (const std::string name : {"d.jpg", "d.tiff"})
+        EXPECT_EQ(runCli({"export", "image", diagram, out(name)}).status, 2);
+    EXPECT_EQ(runCli({"export"}).status, 2);
+}
+
+TEST_F(CommandLineDiagram, MetafileIsWrittenOverTheStartOfTheFile) {
+    const Outcome outcome = runCli({"export", "metafile", diagram, out("d.wmf")});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    const std::string metafile = fileBytes(out("d.wmf"));
+    EXPECT_EQ(metafile.substr(0, 4), "\xD7\xCD\xC6\x9A");
+    writeFile(out("old.wmf"), std::string(100'000, 'x'));
+    ASSERT_EQ(runCli({"export", "metafile", diagram, out("old.wmf")}).status, 0);
+    EXPECT_EQ(fileBytes(out("old.wmf")), metafile + std::string(100'000 - metafile.size(), 'x'));
+    expectRefusal({"export", "metafile", diagram, out("missing/d.wmf")}, "missing/d.wmf", "No such file",
+                  out("missing/d.wmf"));
 }
 
 } // namespace

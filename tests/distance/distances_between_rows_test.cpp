@@ -1,4 +1,4 @@
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "distance/plain_measures.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
@@ -51,7 +51,7 @@ Outcome OutcomeOf(const std::function<FloatTable()>& compute) {
         const FloatTable distances = compute();
         for (const float cell : distances.Cells()) outcome.Bits.push_back(std::bit_cast<std::uint32_t>(cell));
     } catch (const RuntimeFailure& failure) {
-        outcome.FailureNumber = failure.number();
+        outcome.FailureNumber = failure.Number();
     }
     return outcome;
 }
@@ -62,9 +62,9 @@ bool ExpectLikePlain(const FloatTable& values, std::int32_t n, std::int32_t m, c
     const Outcome fast = OutcomeOf([&] { return DistancesBetweenRows(values, n, m, measure); });
     const Outcome plain = OutcomeOf([&] { return test::plainDistances(values, n, m, measure); });
     EXPECT_EQ(fast.FailureNumber, plain.FailureNumber)
-        << what << ", measure " << measure.Type << ", n " << n << ", m " << m;
+        << what << ", measure " << int(measure.Type) << ", n " << n << ", m " << m;
     EXPECT_TRUE(fast.Bits == plain.Bits)
-        << what << ", measure " << measure.Type << ", n " << n << ", m " << m;
+        << what << ", measure " << int(measure.Type) << ", n " << n << ", m " << m;
     return fast.FailureNumber == 0;
 }
 
@@ -83,7 +83,7 @@ const SheetKind SheetKinds[] = {{"decimals", Decimal},
 
 class EachMeasure : public ::testing::TestWithParam<int> {
 protected:
-    Measure measure{static_cast<std::int16_t>(GetParam()), 3, 3};
+    Measure measure{DistanceType(GetParam()), 3, 3};
 };
 
 INSTANTIATE_TEST_SUITE_P(DistancesBetweenRows, EachMeasure, ::testing::Range(1, 11));
@@ -193,7 +193,7 @@ TEST(DistancesBetweenRows, CustomizedDecidesNearTiesAsThePlainDefinitionDoes) {
 TEST(DistancesBetweenRows, IsSymmetricWithAZeroDiagonalForEveryMeasure) {
     const FloatTable values = RandomSheet(70, 20, 37u, Score);
     for (std::int16_t type = 0; type <= 11; ++type) {
-        const FloatTable distances = DistancesBetweenRows(values, 70, 20, {type, 2, 2});
+        const FloatTable distances = DistancesBetweenRows(values, 70, 20, {DistanceType(type), 2, 2});
         for (std::int32_t i = 1; i <= 70; ++i) {
             EXPECT_EQ(std::bit_cast<std::uint32_t>(distances(i, i)), 0u);
             for (std::int32_t j = 1; j < i; ++j) ASSERT_EQ(distances(i, j), distances(j, i));
@@ -211,7 +211,7 @@ TEST(DistancesBetweenRows, TheDiagonalIsZeroWhereTheMeasureWouldFailForARecordAg
 }
 
 TEST(DistancesBetweenRows, AMeasureOutsideOneToTenGivesZeros) {
-    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {11}), FloatTable(5, 5));
+    EXPECT_EQ(DistancesBetweenRows(RandomSheet(5, 4, 41u, Decimal), 5, 4, {DistanceType(11)}), FloatTable(5, 5));
 }
 
 // The pair (1, 40) comes before (2, 3), although it lies in a later block of lanes.
@@ -228,30 +228,30 @@ TEST(DistancesBetweenRows, ThrowsTheFailureOfTheFirstPairInTheOrderOfThePairs) {
 
 TEST(DistancesBetweenRows, FailsOutsideTheTable) {
     const FloatTable values(3, 2);
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 4, 2, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, 3, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, -1, 2, {3}));
-    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, -1, {3}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 4, 2, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, 3, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, -1, 2, {DistanceType(3)}));
+    EXPECT_FAILURE(Failure::SubscriptOutOfRange, DistancesBetweenRows(values, 3, -1, {DistanceType(3)}));
 }
 
 TEST(ComputeDistanceMatrix, ReplacesTheDistancesByThoseOfTheMeasureInForce) {
     test::TestSession test;
-    test.session.DataValues = RandomSheet(33, 10, 43u, Decimal);
-    test.session.DistanceValues = FloatTable(99, 99, 1.0f);
+    test.session.tables.DataValues = RandomSheet(33, 10, 43u, Decimal);
+    test.session.tables.DistanceValues = FloatTable(99, 99, 1.0f);
     for (std::int16_t type = 0; type <= 10; ++type) {
         test.session.CurrentDistType = type;
         test.session.Par_P = 3;
         test.session.Par_R = 2;
         if (type == DistanceType::LanceAndWilliams || type == DistanceType::Jaccard) continue;
         EXPECT_TRUE(ComputeDistanceMatrix(test.session, 33, 10));
-        EXPECT_EQ(test.session.DistanceValues,
-                  test::plainDistances(test.session.DataValues, 33, 10, {type, 3, 2}));
+        EXPECT_EQ(test.session.tables.DistanceValues,
+                  test::plainDistances(test.session.tables.DataValues, 33, 10, {DistanceType(type), 3, 2}));
     }
 }
 
 TEST(ComputeDistanceMatrix, ShowsTheWaitCursorAndSetsItBack) {
     test::TestSession test;
-    test.session.DataValues = FloatTable(2, 1);
+    test.session.tables.DataValues = FloatTable(2, 1);
     ComputeDistanceMatrix(test.session, 2, 1);
     EXPECT_EQ(test.signals.cursors, (std::vector{Cursor::Wait, Cursor::Default}));
 }

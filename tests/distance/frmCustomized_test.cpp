@@ -38,6 +38,20 @@ TEST_F(frmCustomizedTest, StartsWithTwoInBothFields) {
     EXPECT_EQ(dialog.Command2.Caption, "Cancel");
 }
 
+TEST_F(frmCustomizedTest, EnteredChoicesStandInTheFields) {
+    dialog.Enter({.P = "3", .R = ""});
+    EXPECT_EQ(dialog.Text1.Text, "3");
+    EXPECT_EQ(dialog.Text2.Text, "2");
+    dialog.Enter({.P = "", .R = "x"});
+    EXPECT_EQ(dialog.Text1.Text, "3");
+    EXPECT_EQ(dialog.Text2.Text, "x");
+}
+
+TEST_F(frmCustomizedTest, ItsFieldsHaveLabels) {
+    EXPECT_EQ(dialog.Label1.Caption, "p = ");
+    EXPECT_EQ(dialog.Label2.Caption, "r = ");
+}
+
 TEST_F(frmCustomizedTest, DigitsPassUntilThreeCharactersStandInTheField) {
     for (TextBox* field : {&dialog.Text1, &dialog.Text2}) {
         for (const char* text : {"", "1", "12"}) {

@@ -1,7 +1,7 @@
 #include "distance/frmCustomized.h"
 #include "distance/frmOpcjeMacierzy.h"
 #include "distance/matrix_session.h"
-#include "distance/measure_lists.h"
+#include "distance/measures.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +59,16 @@ TEST_F(frmOpcjeMacierzyTest, AChangeOfTheDataKindFillsTheMeasuresAnew) {
         EXPECT_EQ(dialog.Combo1.List, MeasuresOfKind(kind));
         EXPECT_EQ(dialog.Combo1.ListIndex, 0);
     }
+}
+
+TEST_F(frmOpcjeMacierzyTest, EnteredChoicesSelectTheMeasureInItsLists) {
+    for (std::int16_t code = 1; code <= 10; ++code) {
+        dialog.Enter({.Measure = code});
+        EXPECT_EQ(MeasureCode(dialog.cboData.ListIndex, dialog.Combo1.ListIndex), code);
+        EXPECT_EQ(dialog.Combo1.List, MeasuresOfKind(dialog.cboData.ListIndex));
+    }
+    dialog.Enter({});
+    EXPECT_EQ(MeasureCode(dialog.cboData.ListIndex, dialog.Combo1.ListIndex), 10) << "nothing was said";
 }
 
 TEST_F(frmOpcjeMacierzyTest, OKPutsTheMeasureInForceAndRedrawsTheActiveWindow) {

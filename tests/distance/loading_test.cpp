@@ -1,5 +1,6 @@
 #include "distance/loading.h"
 #include "distance/matrix_session.h"
+#include "sheet/sheet_values.h"
 #include "support/expect_failure.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ struct Loading : ::testing::Test, MatrixSession {
     float ValueOf(const std::string& text) {
         OpenSheet({{text}});
         EXPECT_TRUE(LoadWorkingData(session));
-        return session.DataValues(1, 1);
+        return session.tables.DataValues(1, 1);
     }
 };
 
@@ -23,18 +24,18 @@ using LoadWorkingDataTest = Loading;
 
 TEST_F(LoadWorkingDataTest, FillsTheArraysWithTheSheet) {
     OpenSheet({{"1", "2", "3"}, {"4.5", "-5", "0.000"}});
-    session.RecordNames = Names(9, "old");
-    session.DataValues = FloatTable(9, 9, 7.0f);
-    session.RecordHasNA = Flags(9, true);
-    session.DataHasNA = true;
+    session.tables.RecordNames = Names(9, "old");
+    session.tables.DataValues = FloatTable(9, 9, 7.0f);
+    session.tables.RecordHasNA = Flags(9, true);
+    session.tables.DataHasNA = true;
     ASSERT_TRUE(LoadWorkingData(session));
-    EXPECT_EQ(session.RecordNames.Cells(), (std::vector<std::string>{"r1", "r2"}));
-    EXPECT_EQ(session.VariableNames.Cells(), (std::vector<std::string>{"v1", "v2", "v3"}));
-    ASSERT_EQ(session.DataValues.Rows(), 2);
-    ASSERT_EQ(session.DataValues.Columns(), 3);
-    EXPECT_EQ(session.DataValues.Cells(), (std::vector<float>{1, 2, 3, 4.5f, -5, 0}));
-    EXPECT_EQ(session.RecordHasNA.Cells(), (std::vector<bool>{false, false}));
-    EXPECT_FALSE(session.DataHasNA);
+    EXPECT_EQ(session.tables.RecordNames.Cells(), (std::vector<std::string>{"r1", "r2"}));
+    EXPECT_EQ(session.tables.VariableNames.Cells(), (std::vector<std::string>{"v1", "v2", "v3"}));
+    ASSERT_EQ(session.tables.DataValues.Rows(), 2);
+    ASSERT_EQ(session.tables.DataValues.Columns(), 3);
+    EXPECT_EQ(session.tables.DataValues.Cells(), (std::vector<float>{1, 2, 3, 4.5f, -5, 0}));
+    EXPECT_EQ(session.tables.RecordHasNA.Cells(), (std::vector<bool>{false, false}));
+    EXPECT_FALSE(session.tables.DataHasNA);
 }
 
 TEST_F(LoadWorkingDataTest, CutsSpacesFromTheEndsOfNamesOnly) {
@@ -43,9 +44,9 @@ TEST_F(LoadWorkingDataTest, CutsSpacesFromTheEndsOfNamesOnly) {
     sheet.Grid1.SetText(2, 1, "   ");
     sheet.Grid1.SetText(0, 2, " a variable  ");
     ASSERT_TRUE(LoadWorkingData(session));
-    EXPECT_EQ(session.RecordNames(1), "a  name");
-    EXPECT_EQ(session.RecordNames(2), "");
-    EXPECT_EQ(session.VariableNames(1), "a variable");
+    EXPECT_EQ(session.tables.RecordNames(1), "a  name");
+    EXPECT_EQ(session.tables.RecordNames(2), "");
+    EXPECT_EQ(session.tables.VariableNames(1), "a variable");
     EXPECT_EQ(sheet.Grid1.Text(1, 1), "  a  name ");
 }
 
@@ -69,34 +70,34 @@ TEST_F(LoadWorkingDataTest, ReadsTheLongestLeadingNumber) {
 
 TEST_F(LoadWorkingDataTest, AMissingValueIsTheTextNAInCapitals) {
     EXPECT_EQ(ValueOf("N/A"), NaValue);
-    EXPECT_TRUE(session.DataHasNA);
+    EXPECT_TRUE(session.tables.DataHasNA);
     EXPECT_EQ(ValueOf("  N/A "), NaValue);
-    EXPECT_TRUE(session.RecordHasNA(1));
+    EXPECT_TRUE(session.tables.RecordHasNA(1));
     EXPECT_EQ(ValueOf("n/a"), 0.0f);
-    EXPECT_FALSE(session.DataHasNA);
-    EXPECT_FALSE(session.RecordHasNA(1));
+    EXPECT_FALSE(session.tables.DataHasNA);
+    EXPECT_FALSE(session.tables.RecordHasNA(1));
     EXPECT_EQ(ValueOf("N/A."), 0.0f);
 }
 
 TEST_F(LoadWorkingDataTest, MarksTheRecordsThatMissAValue) {
     OpenSheet({{"1", "2"}, {"N/A", "N/A"}, {"3", "N/A"}});
     ASSERT_TRUE(LoadWorkingData(session));
-    EXPECT_EQ(session.RecordHasNA.Cells(), (std::vector<bool>{false, true, true}));
-    EXPECT_TRUE(session.DataHasNA);
-    EXPECT_EQ(session.DataValues.Cells(), (std::vector<float>{1, 2, NaValue, NaValue, 3, NaValue}));
+    EXPECT_EQ(session.tables.RecordHasNA.Cells(), (std::vector<bool>{false, true, true}));
+    EXPECT_TRUE(session.tables.DataHasNA);
+    EXPECT_EQ(session.tables.DataValues.Cells(), (std::vector<float>{1, 2, NaValue, NaValue, 3, NaValue}));
 }
 
 TEST_F(LoadWorkingDataTest, ATypedMarkerIsTheSameValueButMarksNoRecord) {
     EXPECT_EQ(ValueOf("-9999999"), NaValue);
-    EXPECT_FALSE(session.RecordHasNA(1));
-    EXPECT_FALSE(session.DataHasNA);
+    EXPECT_FALSE(session.tables.RecordHasNA(1));
+    EXPECT_FALSE(session.tables.DataHasNA);
 }
 
 TEST_F(LoadWorkingDataTest, WritesZerosIntoEmptyCellsAndChangesNothingElse) {
     auto& sheet = OpenSheet({{"", "   ", " 1,5 ", "abc", "N/A"}});
     session.DataStates.at(1).Dirty = false;
     ASSERT_TRUE(LoadWorkingData(session));
-    EXPECT_EQ(session.DataValues.Cells(), (std::vector<float>{0, 0, 1.5f, 0, NaValue}));
+    EXPECT_EQ(session.tables.DataValues.Cells(), (std::vector<float>{0, 0, 1.5f, 0, NaValue}));
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "0.00");
     EXPECT_EQ(sheet.Grid1.Text(1, 3), "0.00");
     EXPECT_EQ(sheet.Grid1.Text(1, 4), " 1,5 ");
@@ -115,11 +116,11 @@ TEST_F(LoadWorkingDataTest, LeavesTheFocusInTheGridAndTheCurrentCellAtTheEnd) {
 
 TEST_F(LoadWorkingDataTest, StopsAtAPendingErrorAndNamesRecordAndVariable) {
     auto& sheet = OpenSheet({{"", "2"}, {"3", "4"}});
-    session.PendingError = true;
+    session.Of<SheetValues>().PendingError = true;
     EXPECT_FALSE(LoadWorkingData(session));
     EXPECT_EQ(messages.shown,
               (std::vector<Message>{{.Text = "Data Error. Row= 1, Col= 1", .Icon = MessageIcon::Critical}}));
-    EXPECT_EQ(session.RecordNames(2), "r2");
+    EXPECT_EQ(session.tables.RecordNames(2), "r2");
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "") << "the load stops before an empty cell is written";
 }
 
@@ -130,10 +131,10 @@ TEST(DataErrorText, NamesTheRecordAsTheRowAndTheVariableAsTheColumn) {
 TEST_F(LoadWorkingDataTest, LoadsASheetWithoutVariables) {
     OpenSheet({{}, {}, {}});
     ASSERT_TRUE(LoadWorkingData(session));
-    EXPECT_EQ(session.RecordNames.Count(), 3);
-    EXPECT_EQ(session.VariableNames.Count(), 0);
-    EXPECT_EQ(session.DataValues.Rows(), 3);
-    EXPECT_EQ(session.DataValues.Columns(), 0);
+    EXPECT_EQ(session.tables.RecordNames.Count(), 3);
+    EXPECT_EQ(session.tables.VariableNames.Count(), 0);
+    EXPECT_EQ(session.tables.DataValues.Rows(), 3);
+    EXPECT_EQ(session.tables.DataValues.Columns(), 0);
 }
 
 TEST_F(LoadWorkingDataTest, ANumberOutsideTheRangeOverflows) {

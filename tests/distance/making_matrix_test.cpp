@@ -1,7 +1,9 @@
 #include "distance/frmCustomized.h"
+#include "distance/loading.h"
 #include "distance/making_matrix.h"
 #include "distance/matrix_session.h"
 #include "numbers/number_text.h"
+#include "sheet/sheet_values.h"
 #include "support/expect_failure.h"
 
 #include <gtest/gtest.h>
@@ -65,20 +67,20 @@ TEST_F(MakeMatrixTest, TakesOneHundredAndFiftyRecordsAndTwo) {
 
 TEST_F(MakeMatrixTest, CancelInTheDialogEndsTheCommandBeforeAnythingIsLoaded) {
     auto& sheet = OpenSheet({{""}, {"2"}});
-    session.PendingError = true;
+    session.Of<SheetValues>().PendingError = true;
     CancelDialog();
     MakeMatrix(session);
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "");
-    EXPECT_TRUE(session.PendingError);
+    EXPECT_TRUE(session.Of<SheetValues>().PendingError);
     EXPECT_TRUE(signals.cursors.empty());
     ExpectNoMatrix();
 }
 
 TEST_F(MakeMatrixTest, ClearsThePendingErrorAfterTheDialog) {
     OpenSheet({{"1"}, {"2"}});
-    session.PendingError = true;
+    session.Of<SheetValues>().PendingError = true;
     Make();
-    EXPECT_FALSE(session.PendingError);
+    EXPECT_FALSE(session.Of<SheetValues>().PendingError);
     EXPECT_TRUE(messages.shown.empty());
     EXPECT_FALSE(session.MatrixStates.at(1).Deleted);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "distance/measures.h"
+#include "distance/distance.h"
 #include "numbers/rounding.h"
 #include "numbers/runtime_failure.h"
 
@@ -26,7 +26,7 @@ inline float plainDistance(const float* x, const float* y, std::int32_t m, const
     std::int16_t c = 0;
     std::int16_t e = 0;
     std::int32_t shared = 0;
-    switch (measure.Type) {
+    switch (int(measure.Type)) {
     case 1:
         for (std::int32_t k = 0; k < m; ++k) {
             if (x[k] == NaValue || y[k] == NaValue) continue;

@@ -17,9 +17,9 @@ protected:
 
     // An untitled, changed sheet of one record and one variable with this value.
     frmNotePad& newSheet(const std::string& value = "1.5") {
-        session.RecordNames = Names(1, "R");
-        session.VariableNames = Names(1, "V");
-        session.DataValues = FloatTable(1, 1, 0);
+        session.tables.RecordNames = Names(1, "R");
+        session.tables.VariableNames = Names(1, "V");
+        session.tables.DataValues = FloatTable(1, 1, 0);
         const std::int16_t slot = session.NewWindowIndex = FindFreeDataSlot(session);
         PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
         window(slot).Caption = UntitledCaption(DocumentKind::Data, slot);
@@ -136,10 +136,10 @@ TEST_F(DataDocuments, OtherFaultsGiveOneMessageThatNamesLineAndFile) {
 }
 
 TEST_F(DataDocuments, AFaultKeepsTheWorkingArraysReadSoFar) {
-    session.VariableNames = Names(7, "old");
+    session.tables.VariableNames = Names(7, "old");
     ReadDataFile(session, file("f.mdt", with(golden("sheet.mdt"), "[VARIABLE_LABEL]", "x")));
-    EXPECT_EQ(session.RecordNames.Cells(), (std::vector<std::string>{"First", "Café", "Third one"}));
-    EXPECT_EQ(session.VariableNames.Count(), 7);
+    EXPECT_EQ(session.tables.RecordNames.Cells(), (std::vector<std::string>{"First", "Café", "Third one"}));
+    EXPECT_EQ(session.tables.VariableNames.Count(), 7);
 }
 
 TEST_F(DataDocuments, FilesThatCannotBeReadGiveOneMessage) {

@@ -10,14 +10,17 @@ namespace dorvan::test {
 
 namespace {
 
-// A grid as a data window holds it.
-Grid SheetOf(const std::vector<std::vector<std::string>>& rows) {
-    Grid grid("Grid1");
-    grid.SetSize(static_cast<int>(rows.size()), static_cast<int>(rows[0].size()) + 1);
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        for (std::size_t column = 0; column < rows[row].size(); ++column)
-            grid.SetText(static_cast<int>(row), static_cast<int>(column) + 1, rows[row][column]);
-    return grid;
+// The first row holds the variables' names, the first column the records'.
+SheetTable SheetOf(const std::vector<std::vector<std::string>>& rows) {
+    SheetTable sheet(static_cast<int>(rows.size()) - 1, static_cast<int>(rows[0].size()) - 1);
+    for (std::size_t column = 1; column < rows[0].size(); ++column)
+        sheet.VariableNames(static_cast<int>(column)) = rows[0][column];
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+        sheet.RecordNames(static_cast<int>(row)) = rows[row][0];
+        for (std::size_t column = 1; column < rows[row].size(); ++column)
+            sheet.Cells(static_cast<int>(row), static_cast<int>(column)) = rows[row][column];
+    }
+    return sheet;
 }
 
 const std::vector<std::vector<std::string>> Pots = {{"Record Name", "Length ", " Width"},
@@ -54,7 +57,7 @@ TEST(DataFile, WritesTheGoldenFile) {
 }
 
 TEST(DataFile, WritesTheGoldenFileOfACommaLocaleInItsCodePage) {
-    const Grid sheet = SheetOf(
+    const SheetTable sheet = SheetOf(
         {{"Record Name", "Długość", "Źródło"}, {"Łódź", "1", "-2,5"}, {"Świdnica", "N/A", "1234,5678"}});
     EXPECT_TRUE(matchesGolden(ComposeDataFile(sheet, "Żółw i gęś", CommaText()), "files/sheet_comma.mdt"));
 }
@@ -85,14 +88,14 @@ TEST(DataFile, ADescriptionKeepsItsEqualsSigns) {
 }
 
 TEST(DataFile, ACellThatIsNoNumberGivesAnEmptyFieldAndThatFileFailsOnReading) {
-    const Grid sheet = SheetOf({{"Record Name", "A", "B", "C"}, {"R", "abc", "1e39", "2"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "A", "B", "C"}, {"R", "abc", "1e39", "2"}});
     const std::string bytes = ComposeDataFile(sheet, "", PointText());
     EXPECT_TRUE(bytes.ends_with("\r\n;;2.000\r\n")) << bytes;
     EXPECT_EQ(FaultOfData(bytes), "Line 17: \"\" is not a number. File: f");
 }
 
 TEST(DataFile, EmptyFieldsReadAsEmptyCellsWhereTheyAreTaken) {
-    const Grid sheet =
+    const SheetTable sheet =
         SheetOf({{"Record Name", "A", "B"}, {"R", "", " "}, {"S", "N/A", "x"}, {"T", "1", ""}});
     const std::string bytes = ComposeDataFile(sheet, "", PointText());
     for (const std::string& whole :
@@ -120,22 +123,22 @@ TEST(DataFile, WhatIsNoNumberIsAFaultWhereEmptyFieldsAreTakenToo) {
 }
 
 TEST(DataFile, AValueReadsBackWithThreeDecimals) {
-    const Grid sheet = SheetOf({{"Record Name", "A"}, {"R", "1234.5678"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "A"}, {"R", "1234.5678"}});
     EXPECT_EQ(Parsed(ComposeDataFile(sheet, "", PointText())).DataValues(1, 1), 1234.568f);
 }
 
 TEST(DataFile, ACellWithTheOtherSeparatorIsANumberToo) {
-    const Grid sheet = SheetOf({{"Record Name", "A"}, {"R", "1,5"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "A"}, {"R", "1,5"}});
     EXPECT_TRUE(ComposeDataFile(sheet, "", PointText()).ends_with("\r\n1.500\r\n"));
 }
 
 TEST(DataFile, WritesLargeNumbersWithoutGroupingOrExponent) {
-    const Grid sheet = SheetOf({{"Record Name", "A", "B"}, {"R", "12345678", "-1e10"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "A", "B"}, {"R", "12345678", "-1e10"}});
     EXPECT_TRUE(ComposeDataFile(sheet, "", PointText()).ends_with("\r\n12345678.000;-10000000000.000\r\n"));
 }
 
 TEST(DataFile, ACharacterOutsideTheCodePageBecomesAQuestionMark) {
-    const Grid sheet = SheetOf({{"Record Name", "Ж"}, {"Łódź", "1"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "Ж"}, {"Łódź", "1"}});
     const std::string bytes = ComposeDataFile(sheet, "日本", PointText());
     EXPECT_NE(bytes.find("Description=??\r\n"), std::string::npos);
     EXPECT_NE(bytes.find("\r\n?\xF3"
@@ -144,7 +147,7 @@ TEST(DataFile, ACharacterOutsideTheCodePageBecomesAQuestionMark) {
 }
 
 TEST(DataFile, ADescriptionOfSeveralLinesStaysOneLine) {
-    const Grid sheet = SheetOf({{"Record Name", "A"}, {"R\nS", "1"}});
+    const SheetTable sheet = SheetOf({{"Record Name", "A"}, {"R\nS", "1"}});
     DocumentTables tables;
     EXPECT_EQ(
         ParseDataFile(ComposeDataFile(sheet, "one\r\ntwo\nthree\rfour", PointText()), PointText(), tables),
@@ -153,7 +156,7 @@ TEST(DataFile, ADescriptionOfSeveralLinesStaysOneLine) {
 }
 
 TEST(DataFile, ASheetWithoutVariablesIsWrittenAndFailsAtSizing) {
-    const Grid sheet = SheetOf({{"Record Name"}, {"R"}});
+    const SheetTable sheet = SheetOf({{"Record Name"}, {"R"}});
     const std::string bytes = ComposeDataFile(sheet, "", PointText());
     EXPECT_NE(bytes.find("VarCount=0\r\n"), std::string::npos);
     EXPECT_EQ(FaultOfData(bytes), "Line 6: the count 0 is below 1. File: f");

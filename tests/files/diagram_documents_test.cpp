@@ -47,11 +47,11 @@ TEST_F(DiagramDocuments, ReadingFillsTheWholeDocument) {
     EXPECT_EQ(document().VariableNames(2), "Width");
     EXPECT_EQ(document().RecordHasNA.Cells(), (std::vector<bool>{false, true, false}));
     EXPECT_EQ(document().Classes.Cells(), (std::vector<std::int16_t>{5, 5, 1, 5, 5, 2, 1, 2, 5}));
-    EXPECT_TRUE(session.DataHasNA);
+    EXPECT_TRUE(session.tables.DataHasNA);
 }
 
 TEST_F(DiagramDocuments, ReadingADiagramWithoutData) {
-    session.VariableNames = Names(9);
+    session.tables.VariableNames = Names(9);
     ReadDiagramFile(session, goldenFile("diagram_without_data.dgr"));
     EXPECT_TRUE(document().NoData);
     EXPECT_EQ(document().VarCount, 0);
@@ -176,12 +176,12 @@ TEST_F(DiagramDocuments, OtherFaultsGiveOneMessageThatNamesLineAndFile) {
 }
 
 TEST_F(DiagramDocuments, AFaultKeepsTheWorkingArraysReadSoFar) {
-    session.DistanceValues = FloatTable(7, 7);
+    session.tables.DistanceValues = FloatTable(7, 7);
     ReadDiagramFile(session, file("f.dgr", with(golden("diagram.dgr"), "[MATRIX]", "x")));
-    EXPECT_EQ(session.RecordNames(1), "Third one");
-    EXPECT_EQ(session.DataValues.Rows(), 3);
-    EXPECT_TRUE(session.RecordHasNA(2));
-    EXPECT_EQ(session.DistanceValues.Rows(), 7);
+    EXPECT_EQ(session.tables.RecordNames(1), "Third one");
+    EXPECT_EQ(session.tables.DataValues.Rows(), 3);
+    EXPECT_TRUE(session.tables.RecordHasNA(2));
+    EXPECT_EQ(session.tables.DistanceValues.Rows(), 7);
 }
 
 TEST_F(DiagramDocuments, AFileCutOffAtAnyByteReadsOrGivesOneFault) {

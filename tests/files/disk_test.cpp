@@ -352,7 +352,7 @@ TEST(FailureOfWriting, NamesTheRunTimeErrorOfAnErrorNumber) {
         {EIO, Failure::DeviceInputOutputError},
     };
     for (const auto& [number, failure] : table)
-        EXPECT_EQ(FailureOfWriting(FileError(number), "f").failure(), failure) << number;
+        EXPECT_EQ(FailureOfWriting(FileError(number), "f").Kind(), failure) << number;
     EXPECT_STREQ(FailureOfWriting(FileError(ENOSPC), "f.mtx").what(),
                  "Run-time error '61': Disk full: f.mtx (No space left on device)");
 }

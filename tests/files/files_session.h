@@ -33,17 +33,17 @@ inline std::string with(std::string_view bytes, std::string_view piece, std::str
     return ReplaceAll(bytes, piece, other);
 }
 
-// A session with a folder for files, and a log of the commands that the openers reach through the command
-// table.
+// A session with a folder for files, and a log of what the openers put on the list of recent files.
 class FilesSession : public ::testing::Test, protected TestSession {
 protected:
     TemporaryFolder folder;
     std::vector<std::string> log;
 
     FilesSession() {
-        session.commands.Set("UpdateRecentFiles", [this](const CommandCall& call) {
-            log.push_back(fmt::format("recent {} {}", call.Path, messages.shown.size() + windows()));
-        });
+        settings.onWrite = [this](const std::string& key, const std::string& path) {
+            if (key == "RecentFile1")
+                log.push_back(fmt::format("recent {} {}", path, messages.shown.size() + windows()));
+        };
     }
     ~FilesSession() override { expectScriptsUsedUp(); }
 

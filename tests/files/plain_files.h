@@ -1,7 +1,6 @@
 #pragma once
 
 #include "files/diagram_file.h"
-#include "files/document_tables.h"
 #include "platform/grid.h"
 #include "session/documents.h"
 
@@ -129,21 +128,20 @@ private:
     std::ostringstream stream_;
 };
 
-inline std::string plainDataBytes(const Grid& sheet, const std::string& description) {
+inline std::string plainDataBytes(const SheetTable& sheet, const std::string& description) {
     PlainWriter writer;
     writer.out() << "Dorvan DATA 3.3\r\n\r\n[HEADER]\r\nDescription=" << description
-                 << "\r\nRecCount=" << sheet.Rows() - 1 << "\r\nVarCount=" << sheet.Columns() - 2
+                 << "\r\nRecCount=" << sheet.RecordCount() << "\r\nVarCount=" << sheet.VariableCount()
                  << "\r\n\r\n[RECORD_LABEL]\r\n";
-    for (int row = 1; row < sheet.Rows(); ++row) writer.out() << sheet.Text(row, 1) << "\r\n";
+    writer.labels(sheet.RecordNames);
     writer.out() << "\r\n[VARIABLE_LABEL]\r\n";
-    for (int column = 2; column < sheet.Columns(); ++column) writer.out() << sheet.Text(0, column) << "\r\n";
+    writer.labels(sheet.VariableNames);
     writer.out() << "\r\n[DATA]\r\n";
-    FloatTable values(sheet.Rows() - 1, sheet.Columns() - 2);
-    for (int row = 1; row < sheet.Rows(); ++row)
-        for (int column = 2; column < sheet.Columns(); ++column) {
-            const std::string& cell = sheet.Text(row, column);
-            values(row, column - 1) = cell == "N/A" ? NaValue : std::stof(cell);
-        }
+    FloatTable values(sheet.RecordCount(), sheet.VariableCount());
+    for (std::size_t cell = 0; cell < values.Cells().size(); ++cell) {
+        const std::string& text = sheet.Cells.Cells()[cell];
+        values.Cells()[cell] = text == "N/A" ? NaValue : std::stof(text);
+    }
     writer.table(values);
     return writer.bytes();
 }
@@ -189,7 +187,7 @@ struct RandomDocuments {
 
     DiagramDocument Diagram;
     DistanceMatrix Matrix;
-    Grid Sheet{"Grid1"};
+    SheetTable Sheet;
 
 private:
     float thousandths(std::uint32_t most) {
@@ -223,13 +221,11 @@ private:
             Matrix.Cells.Cells()[cell] = threeDecimals(Diagram.Matrix.Cells()[cell]);
     }
     void fillSheet() {
-        Sheet.SetSize(Diagram.RecCount + 1, Diagram.VarCount + 2);
-        for (int j = 1; j <= Diagram.VarCount; ++j) Sheet.SetText(0, j + 1, Diagram.VariableNames(j));
-        for (int i = 1; i <= Diagram.RecCount; ++i) {
-            Sheet.SetText(i, 1, Diagram.RecordNames(i));
-            for (int j = 1; j <= Diagram.VarCount; ++j)
-                Sheet.SetText(i, j + 1, threeDecimals(Diagram.Data(i, j)));
-        }
+        Sheet = SheetTable(Diagram.RecCount, Diagram.VarCount);
+        Sheet.RecordNames = Diagram.RecordNames;
+        Sheet.VariableNames = Diagram.VariableNames;
+        for (std::size_t cell = 0; cell < Sheet.Cells.Cells().size(); ++cell)
+            Sheet.Cells.Cells()[cell] = threeDecimals(Diagram.Data.Cells()[cell]);
     }
 
     std::mt19937 random_;

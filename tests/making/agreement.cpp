@@ -16,7 +16,7 @@ namespace dorvan {
 namespace {
 
 float DistanceOf(Distances kind, RandomSource& random) {
-    const float draw = random.draw();
+    const float draw = random.Draw();
     switch (kind) {
     case Distances::Ties: return std::floor(draw * 4);
     case Distances::Wide: return draw * 1000;
@@ -43,7 +43,7 @@ public:
     float Seconds() const { return 0.3F * static_cast<float>(trace.yields.size()); }
 
     int Yield(std::string shown) {
-        trace.yields.push_back({random.position(), std::move(shown)});
+        trace.yields.push_back({random.Position(), std::move(shown)});
         const auto now = static_cast<int>(trace.yields.size());
         if (now == plan_.cancelAt) options.WorkCancelled = true;
         return now == plan_.noWindowAt || (plan_.noWindowFrom != 0 && now >= plan_.noWindowFrom) ? 0 : 1;
@@ -57,9 +57,9 @@ public:
                 trace.found.push_back({order, score, options.WorkCancelled});
             }
         } catch (const RuntimeFailure& failure) {
-            trace.failure = failure.failure();
+            trace.failure = failure.Kind();
         }
-        trace.position = random.position();
+        trace.position = random.Position();
         trace.weights = options.UmWeightTotal;
         return trace;
     }

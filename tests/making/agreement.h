@@ -1,9 +1,9 @@
 #pragma once
 
+#include "making/ordering_method.h"
+#include "making/ordering_options.h"
 #include "numbers/runtime_failure.h"
 #include "session/documents.h"
-#include "session/ordering_method.h"
-#include "session/ordering_options.h"
 
 #include <cstdint>
 #include <optional>

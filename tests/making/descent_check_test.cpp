@@ -9,7 +9,7 @@ FloatTable FewDistances() {
     RandomSource random(2);
     FloatTable distances(8, 8);
     for (std::int32_t i = 1; i <= 8; ++i)
-        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 50 * random.draw();
+        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 50 * random.Draw();
     return distances;
 }
 

@@ -1,6 +1,9 @@
 #include "making/frmPrzedzal.h"
 
 #include "distance/frmCustomized.h"
+#include "distance/measures.h"
+#include "making/making_values.h"
+#include "making/ordering_method.h"
 #include "platform/keys.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
@@ -29,7 +32,7 @@ class DiagramOptions : public ::testing::Test, public test::TestSession {
 protected:
     frmPrzedzal dialog{session};
 
-    DiagramOptions() { session.DiagramRecordCount = 10; }
+    DiagramOptions() { session.Of<MakingValues>().DiagramRecordCount = 10; }
 
     // Loaded (the first time) and on the screen, with typed limits.
     void Open(const Texts& limits = {"15", "30", "45", "60"}) {
@@ -60,8 +63,8 @@ protected:
 
     // A method whose dialog answers with the outcomes in turn.
     void Register(std::int16_t number, std::vector<std::int16_t> outcomes) {
-        session.orderingMethods[number].askOptions = [this, number, outcomes,
-                                                      next = std::size_t(0)](Session& owner) mutable {
+        session.Of<OrderingMethods>()[number].askOptions = [this, number, outcomes,
+                                                            next = std::size_t(0)](Session& owner) mutable {
             asked.push_back(number);
             owner.DialogOutcome = outcomes.at(next++);
         };
@@ -200,7 +203,7 @@ TEST_F(DiagramOptions, LoadFillsTheListsWithTheirFirstEntriesSelected) {
 
 TEST_F(DiagramOptions, LoadTicksAutomaticFromSixRecordsOn) {
     for (const auto& [records, automatic] : {std::pair{2, false}, {5, false}, {6, true}, {250, true}}) {
-        session.DiagramRecordCount = records;
+        session.Of<MakingValues>().DiagramRecordCount = records;
         frmPrzedzal fresh(session);
         fresh.Form_Load();
         EXPECT_EQ(fresh.chkAuto.Value, automatic) << records;
@@ -212,10 +215,10 @@ TEST_F(DiagramOptions, LoadTicksAutomaticFromSixRecordsOn) {
 
 TEST_F(DiagramOptions, LoadedOnceSoThatAutomaticStaysAsTheFirstDocumentLeftIt) {
     const auto cancel = [](Form& form) { form.CancelCommand(); };
-    session.DiagramRecordCount = 5;
+    session.Of<MakingValues>().DiagramRecordCount = 5;
     forms.scripts.assign(2, cancel);
     ShowDiagramOptions(session);
-    session.DiagramRecordCount = 100;
+    session.Of<MakingValues>().DiagramRecordCount = 100;
     ShowDiagramOptions(session);
     const auto& shown = session.forms.Load<frmPrzedzal>(session);
     EXPECT_FALSE(shown.chkAuto.Value);
@@ -357,6 +360,23 @@ TEST_F(DiagramOptions, OkStoresTheMeasureOfEachPosition) {
     expectScriptsUsedUp();
 }
 
+TEST_F(DiagramOptions, EnteredChoicesSelectMeasureTypeAndOrder) {
+    Open();
+    for (std::int16_t measure = 1; measure <= 10; ++measure)
+        for (std::int16_t type = 1; type <= 3; ++type)
+            for (std::int16_t order = 1; order <= 4; ++order) {
+                if (measure == DistanceType::Customized) continue; // has a dialog of its own
+                dialog.Visible = true;
+                dialog.Enter({.Measure = {.Measure = measure}, .DiagType = type, .OrderMethod = order});
+                dialog.Enter({});
+                session.Of<OrderingMethods>().clear();
+                dialog.Command3_Click();
+                EXPECT_EQ(session.CurrentDistType, measure);
+                EXPECT_EQ(session.CurrentDiagType, type);
+                EXPECT_EQ(session.CurrentOrderMethod, order);
+            }
+}
+
 TEST_F(DiagramOptions, OkStoresTypeAndOrder) {
     Register(3, std::vector<std::int16_t>(12, 1));
     Register(4, std::vector<std::int16_t>(12, 1));
@@ -389,15 +409,15 @@ TEST_F(DiagramOptions, AutomaticLimitsAreFourZerosWhateverTheFieldsHold) {
     dialog.chkAuto_Click();
     ExpectAccepted();
     EXPECT_EQ(SessionLimits(), Limits(4, 0.0f));
-    EXPECT_TRUE(session.AutoLimits);
+    EXPECT_TRUE(session.Of<MakingValues>().AutoLimits);
 }
 
 TEST_F(DiagramOptions, TypedLimitsThatRiseAreAccepted) {
-    session.AutoLimits = true;
+    session.Of<MakingValues>().AutoLimits = true;
     Open({"0", "1", "2", "3"});
     ExpectAccepted();
     EXPECT_EQ(SessionLimits(), (Limits{0, 1, 2, 3}));
-    EXPECT_FALSE(session.AutoLimits);
+    EXPECT_FALSE(session.Of<MakingValues>().AutoLimits);
 }
 
 TEST_F(DiagramOptions, NegativeLimitsAreAccepted) {
@@ -419,10 +439,10 @@ TEST_F(DiagramOptions, EmptyOrSingleBlankLimitIsRefused) {
             Texts texts{"1", "x", "3", "4"};
             texts[place] = blank;
             Open(texts);
-            session.AutoLimits = true;
+            session.Of<MakingValues>().AutoLimits = true;
             ExpectRefused(AllNeeded);
             EXPECT_EQ(SessionLimits(), Limits(4, 0.0f));
-            EXPECT_TRUE(session.AutoLimits);
+            EXPECT_TRUE(session.Of<MakingValues>().AutoLimits);
         }
 }
 
@@ -450,9 +470,9 @@ TEST_F(DiagramOptions, LimitsThatDoNotRiseStrictlyAreRefused) {
                                                  {"10", "21", "20", "30"},
                                                  {"10", "20", "31", "30"}}) {
         Open(texts);
-        session.AutoLimits = true;
+        session.Of<MakingValues>().AutoLimits = true;
         ExpectRefused(InvalidLimits);
-        EXPECT_TRUE(session.AutoLimits);
+        EXPECT_TRUE(session.Of<MakingValues>().AutoLimits);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "making/frmGenetic.h"
 #include "making/frmGeneticUM.h"
+#include "making/ordering_options.h"
 #include "platform/keys.h"
 #include "support/test_platform.h"
 
@@ -51,20 +52,29 @@ TEST_F(GeneticDialog, OkStoresTheNumbersOfEverySelectedItem) {
             dialog.cboGen.ListIndex = gen;
             dialog.cboVar.ListIndex = var;
             dialog.Command1_Click();
-            EXPECT_EQ(std::to_string(session.ordering.GeneticGenerations), dialog.cboGen.Text());
-            EXPECT_EQ(std::to_string(session.ordering.GeneticVariants), dialog.cboVar.Text());
+            EXPECT_EQ(std::to_string(session.Of<OrderingOptions>().GeneticGenerations), dialog.cboGen.Text());
+            EXPECT_EQ(std::to_string(session.Of<OrderingOptions>().GeneticVariants), dialog.cboVar.Text());
             EXPECT_EQ(session.DialogOutcome, 1);
             EXPECT_FALSE(dialog.Visible);
         }
 }
 
+TEST_F(GeneticDialog, EnteredChoicesSelectItemsOfTheLists) {
+    dialog.Enter({.Generations = "750", .Variants = "50"});
+    EXPECT_EQ(dialog.cboGen.Text(), "750");
+    EXPECT_EQ(dialog.cboVar.Text(), "50");
+    dialog.Enter({.Generations = "", .Variants = "7"});
+    EXPECT_EQ(dialog.cboGen.Text(), "750");
+    EXPECT_EQ(dialog.cboVar.Text(), "50") << "no item";
+}
+
 TEST_F(GeneticDialog, CancelStoresNothing) {
-    const OrderingOptions before = session.ordering;
+    const OrderingOptions before = session.Of<OrderingOptions>();
     dialog.cboGen.ListIndex = 0;
     dialog.CancelCommand();
     EXPECT_EQ(session.DialogOutcome, -99);
     EXPECT_FALSE(dialog.Visible);
-    EXPECT_EQ(session.ordering.GeneticGenerations, before.GeneticGenerations);
+    EXPECT_EQ(session.Of<OrderingOptions>().GeneticGenerations, before.GeneticGenerations);
 }
 
 class RavelinDialog : public ::testing::Test, public test::TestSession {
@@ -76,8 +86,8 @@ protected:
         session.DialogOutcome = 0;
     }
 
-    std::vector<int> Stored() const {
-        const auto& o = session.ordering;
+    std::vector<int> Stored() {
+        const auto& o = session.Of<OrderingOptions>();
         return {o.SequenceChange,           o.FragmentTransfer,      o.SomeSingleTransfers,
                 o.SingleTransfer,           o.SomeRemoteConversions, o.RemoteConversion,
                 o.SomeNeighbourConversions, o.NeighbourConversion,   o.CriticalMutationNumber,
@@ -117,27 +127,53 @@ TEST_F(RavelinDialog, ShowsItsTextsAndDefaults) {
 TEST_F(RavelinDialog, OkStoresEachFieldInItsOwnValue) {
     for (std::size_t row = 0; row < 10; ++row) dialog.Rows()[row].Field->Text = std::to_string(row + 11);
     dialog.Text11.Text = "2.5";
-    session.ordering.WorkCancelled = true;
+    session.Of<OrderingOptions>().WorkCancelled = true;
     dialog.Command1_Click();
     EXPECT_EQ(Stored(), (std::vector<int>{11, 12, 13, 14, 15, 16, 17, 18, 19, 20}));
-    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 2.5F);
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 2.5F);
     EXPECT_EQ(session.DialogOutcome, 1);
-    EXPECT_FALSE(session.ordering.WorkCancelled);
+    EXPECT_FALSE(session.Of<OrderingOptions>().WorkCancelled);
     EXPECT_FALSE(dialog.Visible);
     EXPECT_TRUE(messages.shown.empty());
+}
+
+TEST_F(RavelinDialog, EnteredChoicesArriveInTheirOwnValues) {
+    const std::pair<RavelinParameter, std::int16_t OrderingOptions::*> values[] = {
+        {RavelinParameter::SequenceChange, &OrderingOptions::SequenceChange},
+        {RavelinParameter::FragmentTransfer, &OrderingOptions::FragmentTransfer},
+        {RavelinParameter::SomeSingleTransfers, &OrderingOptions::SomeSingleTransfers},
+        {RavelinParameter::SingleTransfer, &OrderingOptions::SingleTransfer},
+        {RavelinParameter::SomeRemoteConversions, &OrderingOptions::SomeRemoteConversions},
+        {RavelinParameter::RemoteConversion, &OrderingOptions::RemoteConversion},
+        {RavelinParameter::SomeNeighbourConversions, &OrderingOptions::SomeNeighbourConversions},
+        {RavelinParameter::NeighbourConversion, &OrderingOptions::NeighbourConversion},
+        {RavelinParameter::CriticalMutationNumber, &OrderingOptions::CriticalMutationNumber},
+        {RavelinParameter::CriticalGenerationNumber, &OrderingOptions::CriticalGenerationNumber}};
+    std::int16_t number = 600;
+    for (const auto& [parameter, value] : values) {
+        ++number;
+        dialog.Enter({{parameter, std::to_string(number)}});
+        dialog.Command1_Click();
+        EXPECT_EQ(session.Of<OrderingOptions>().*value, number);
+    }
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 1.0F);
+    dialog.Enter({{RavelinParameter::MatrixConversionCoefficient, "2.5"}});
+    dialog.Command1_Click();
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 2.5F);
+    EXPECT_EQ(session.Of<OrderingOptions>().SequenceChange, 601) << "what was not said stays";
 }
 
 TEST_F(RavelinDialog, DefaultsAddUpTo371) {
     dialog.Command1_Click();
     const auto stored = Stored();
     EXPECT_EQ(std::accumulate(stored.begin(), stored.begin() + 8, 0), 371);
-    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 1.0F);
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 1.0F);
 }
 
 TEST_F(RavelinDialog, AFieldThatDoesNotConvertKeepsItsValueAndTheOthersAreStored) {
     for (const std::string bad : {"", "32768", "1-2"}) {
         for (std::size_t row = 0; row < 11; ++row) {
-            session.ordering = {};
+            session.Of<OrderingOptions>() = {};
             messages.shown.clear();
             for (std::size_t other = 0; other < 10; ++other) dialog.Rows()[other].Field->Text = "7";
             dialog.Text11.Text = "7";
@@ -149,7 +185,7 @@ TEST_F(RavelinDialog, AFieldThatDoesNotConvertKeepsItsValueAndTheOthersAreStored
             const std::vector<int> defaults = {1, 5, 20, 50, 15, 30, 50, 200, 100, 10};
             for (std::size_t other = 0; other < 10; ++other)
                 EXPECT_EQ(Stored()[other], other == row ? defaults[other] : 7);
-            EXPECT_EQ(session.ordering.MatrixConversionCoefficient, row == 10 ? 1.0F : 7.0F);
+            EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, row == 10 ? 1.0F : 7.0F);
         }
     }
 }
@@ -157,7 +193,7 @@ TEST_F(RavelinDialog, AFieldThatDoesNotConvertKeepsItsValueAndTheOthersAreStored
 TEST_F(RavelinDialog, CoefficientReadsUnderACommaLocale) {
     session.DecimalSeparator = ',';
     dialog.Command1_Click();
-    EXPECT_EQ(session.ordering.MatrixConversionCoefficient, 1.0F);
+    EXPECT_EQ(session.Of<OrderingOptions>().MatrixConversionCoefficient, 1.0F);
     EXPECT_EQ(session.DialogOutcome, 1);
 }
 
@@ -165,7 +201,7 @@ TEST_F(RavelinDialog, CancelStoresNothing) {
     dialog.Text1.Text = "9";
     dialog.CancelCommand();
     EXPECT_EQ(session.DialogOutcome, -99);
-    EXPECT_EQ(session.ordering.SequenceChange, 1);
+    EXPECT_EQ(session.Of<OrderingOptions>().SequenceChange, 1);
     EXPECT_FALSE(dialog.Visible);
 }
 

@@ -54,9 +54,9 @@ TEST(SimpleGenetic, MakesATenthOfTheRecordsExchangesAndAtLeastOne) {
     for (const auto& [n, exchanges] : cases) {
         RandomSource random(3);
         RandomSource behind = random;
-        behind.skip(DrawsOf(n, exchanges));
+        behind.Skip(DrawsOf(n, exchanges));
         Genetic(MakeDistances(Distances::Fractions, n, 1), 2, 1, random);
-        EXPECT_EQ(random.position(), behind.position()) << n;
+        EXPECT_EQ(random.Position(), behind.Position()) << n;
     }
 }
 
@@ -64,9 +64,9 @@ TEST(SimpleGenetic, EveryVariantButTheFirstUsesDraws) {
     for (const int variants : {1, 2, 10}) {
         RandomSource random(3);
         RandomSource behind = random;
-        behind.skip(DrawsOf(8, 1) * std::uint64_t(variants - 1) * 4);
+        behind.Skip(DrawsOf(8, 1) * std::uint64_t(variants - 1) * 4);
         Genetic(MakeDistances(Distances::Fractions, 8, 1), variants, 4, random);
-        EXPECT_EQ(random.position(), behind.position()) << variants;
+        EXPECT_EQ(random.Position(), behind.Position()) << variants;
     }
 }
 
@@ -77,7 +77,7 @@ TEST(SimpleGenetic, OnlyTheLastRepetitionLeavesATrace) {
     for (std::uint64_t seed = 1; seed <= 100; ++seed) {
         RandomSource random(seed);
         RandomSource last = random;
-        last.skip(DrawsOf(n - 1, 1));
+        last.Skip(DrawsOf(n - 1, 1));
         const bool anywhere = RandomInRange(last, 1, 2) == 1;
         const std::int32_t a = anywhere ? RandomInRange(last, 1, n) : RandomInRange(last, 2, n - 1);
         const std::int32_t b = anywhere ? RandomInRange(last, 1, n) : RandomInRange(last, a - 1, a + 1);

@@ -1,12 +1,16 @@
 #include "making/making_diagram.h"
 
 #include "distance/frmMacierz.h"
+#include "distance/loading.h"
 #include "making/frmPrzedzal.h"
+#include "making/making_values.h"
+#include "making/ordering_method.h"
 #include "making/plain_making.h"
 #include "numbers/number_text.h"
 #include "session/children.h"
 #include "session/registry.h"
 #include "sheet/frmNotePad.h"
+#include "sheet/sheet_values.h"
 #include "support/expect_failure.h"
 #include "support/test_platform.h"
 #include "view/frmDiagram.h"
@@ -130,7 +134,7 @@ TEST_F(MakingDiagram, BeepsAndEndsWhileADiagramIsBeingMade) {
     EXPECT_EQ(signals.beeps, 1);
     EXPECT_TRUE(forms.log.empty());
     EXPECT_TRUE(messages.shown.empty());
-    EXPECT_EQ(session.DiagramRecordCount, 0);
+    EXPECT_EQ(session.Of<MakingValues>().DiagramRecordCount, 0);
     EXPECT_EQ(session.DiagramBusy, 1);
 }
 
@@ -149,7 +153,7 @@ TEST_F(MakingDiagram, OnlyAFlagOfOneIsBusy) {
 TEST_F(MakingDiagram, FewerThanTwoRecordsAreRefused) {
     const Message refusal{.Text = "The number of records is less than 2. How make diagram?",
                           .Icon = MessageIcon::Critical};
-    session.DiagramRecordCount = 77;
+    session.Of<MakingValues>().DiagramRecordCount = 77;
     OpenSheet(Line(1));
     MakeDiagram(session);
     OpenSheet({});
@@ -157,7 +161,7 @@ TEST_F(MakingDiagram, FewerThanTwoRecordsAreRefused) {
     OpenMatrix(MatrixRows(1));
     MakeDiagram(session);
     EXPECT_EQ(messages.shown, std::vector<Message>(3, refusal));
-    EXPECT_EQ(session.DiagramRecordCount, 77);
+    EXPECT_EQ(session.Of<MakingValues>().DiagramRecordCount, 77);
     EXPECT_TRUE(forms.log.empty());
     EXPECT_EQ(session.DiagramBusy, 0);
 }
@@ -169,7 +173,7 @@ TEST_F(MakingDiagram, MoreRecordsThanTheLimitAreRefused) {
     OpenMatrix(MatrixRows(251));
     MakeDiagram(session);
     EXPECT_EQ(messages.shown, std::vector<Message>(2, refusal));
-    EXPECT_EQ(session.DiagramRecordCount, 0);
+    EXPECT_EQ(session.Of<MakingValues>().DiagramRecordCount, 0);
     EXPECT_TRUE(forms.log.empty());
 }
 
@@ -198,21 +202,21 @@ TEST_F(MakingDiagram, TwoHundredAndFiftyRecordsPass) {
 TEST_F(MakingDiagram, CountIsKnownToTheDialog) {
     OpenSheet(Zigzag);
     Options([&](frmPrzedzal& dialog) {
-        EXPECT_EQ(session.DiagramRecordCount, 5);
+        EXPECT_EQ(session.Of<MakingValues>().DiagramRecordCount, 5);
         EXPECT_FALSE(dialog.chkAuto.Enabled);
     });
     MakeDiagram(session);
-    EXPECT_EQ(session.DiagramRecordCount, 5);
+    EXPECT_EQ(session.Of<MakingValues>().DiagramRecordCount, 5);
     expectScriptsUsedUp();
 }
 
 TEST_F(MakingDiagram, CancelledOptionsEndItWithNothingChanged) {
     auto& sheet = OpenSheet({{"a", ""}, {"b", "1"}, {"c", "2"}});
-    session.RecordNames = ArrayOf<std::string>({"kept"});
+    session.tables.RecordNames = ArrayOf<std::string>({"kept"});
     forms.scripts.push_back([](Form& form) { form.CancelCommand(); });
     MakeDiagram(session);
     EXPECT_EQ(session.DialogOutcome, -99);
-    EXPECT_EQ(session.RecordNames, ArrayOf<std::string>({"kept"}));
+    EXPECT_EQ(session.tables.RecordNames, ArrayOf<std::string>({"kept"}));
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "");
     EXPECT_EQ(events.runs, 0);
     EXPECT_FALSE(AnyDiagram());
@@ -224,7 +228,7 @@ TEST_F(MakingDiagram, PendingEventsRunOnceAfterTheOptions) {
     Options();
     events.onRun = [&](int) {
         EXPECT_EQ(session.DiagramBusy, 0);
-        EXPECT_EQ(session.RecordNames.Count(), 0);
+        EXPECT_EQ(session.tables.RecordNames.Count(), 0);
         EXPECT_EQ(session.DialogOutcome, 1);
     };
     MakeDiagram(session);
@@ -240,7 +244,7 @@ TEST_F(MakingDiagram, DataAreReadOnlyAfterTheDialog) {
 
 TEST_F(MakingDiagram, DataErrorEndsItAfterTheDialog) {
     OpenSheet(Zigzag);
-    session.PendingError = true;
+    session.Of<SheetValues>().PendingError = true;
     Options([&](frmPrzedzal&) { EXPECT_TRUE(messages.shown.empty()); });
     MakeDiagram(session);
     EXPECT_EQ(messages.shown, std::vector<Message>{(Message{.Text = "Data Error. Row= 1, Col= 1",
@@ -285,7 +289,7 @@ TEST_F(MakingDiagram, MissingValuesPassWithTheMeasuresThatKnowThem) {
 
 TEST_F(MakingDiagram, MatrixIsRefusedForTheMissingValuesOfTheSheetLoadedLast) {
     OpenMatrix(ZigzagMatrix);
-    session.DataHasNA = true;
+    session.tables.DataHasNA = true;
     session.CurrentDistType = 3;
     Options();
     MakeDiagram(session);
@@ -305,7 +309,7 @@ TEST_F(MakingDiagram, TwoRecordsAreASubscriptOutOfRangeWithTheFlagLeftOn) {
     EXPECT_EQ(session.DiagramBusy, 1);
     EXPECT_FALSE(AnyDiagram());
     EXPECT_TRUE(session.DiagramStates.at(1).Deleted);
-    EXPECT_EQ(session.DistanceValues(1, 2), 1);
+    EXPECT_EQ(session.tables.DistanceValues(1, 2), 1);
 
     session.DiagramBusy = 0;
     OpenMatrix(MatrixRows(2));
@@ -343,9 +347,9 @@ TEST_F(MakingDiagram, SimpleOrderRewritesTheDataAndTheDistances) {
     EXPECT_EQ(document.RecordNames, ArrayOf<std::string>({"a", "c", "e", "b", "d"}));
     EXPECT_EQ(document.Data.Cells(), (Floats{0, 1, 2, 10, 11}));
     EXPECT_EQ(document.Matrix.Cells(), ZigzagInOrder);
-    EXPECT_EQ(session.DataValues, document.Data);
-    EXPECT_EQ(session.RecordNames, document.RecordNames);
-    EXPECT_EQ(session.DistanceValues, document.Matrix);
+    EXPECT_EQ(session.tables.DataValues, document.Data);
+    EXPECT_EQ(session.tables.RecordNames, document.RecordNames);
+    EXPECT_EQ(session.tables.DistanceValues, document.Matrix);
 }
 
 TEST_F(MakingDiagram, LimitsComeFromTheDistancesBeforeTheOrdering) {
@@ -397,20 +401,20 @@ TEST_F(MakingDiagram, MatrixInOrderKeepsItsLabelsInTheOldOrder) {
     EXPECT_EQ(document.RecordNames, ArrayOf<std::string>({"a", "b", "c", "d", "e"}));
     EXPECT_EQ(document.RecordHasNA, Flags(5));
     EXPECT_EQ(document.SectionLimits.Cells(), (Floats{1, 2, 9, 10}));
-    EXPECT_EQ(session.RecordNames, ArrayOf<std::string>({"a", "c", "e", "b", "d"}));
-    EXPECT_EQ(session.DistanceValues.Cells(), ZigzagInOrder);
+    EXPECT_EQ(session.tables.RecordNames, ArrayOf<std::string>({"a", "c", "e", "b", "d"}));
+    EXPECT_EQ(session.tables.DistanceValues.Cells(), ZigzagInOrder);
 }
 
 TEST_F(MakingDiagram, MatrixWithoutOrderLeavesTheWorkingNamesAlone) {
     OpenMatrix(ZigzagMatrix);
-    session.RecordNames = ArrayOf<std::string>({"kept"});
-    session.DataValues = FloatTable(1, 1, 4);
+    session.tables.RecordNames = ArrayOf<std::string>({"kept"});
+    session.tables.DataValues = FloatTable(1, 1, 4);
     session.DiagramFromMatrix = true;
     Options();
     MakeDiagram(session);
-    EXPECT_EQ(session.RecordNames, ArrayOf<std::string>({"kept"}));
-    EXPECT_EQ(session.DataValues, FloatTable(1, 1, 4));
-    EXPECT_EQ(Document().Matrix, session.DistanceValues);
+    EXPECT_EQ(session.tables.RecordNames, ArrayOf<std::string>({"kept"}));
+    EXPECT_EQ(session.tables.DataValues, FloatTable(1, 1, 4));
+    EXPECT_EQ(Document().Matrix, session.tables.DistanceValues);
     EXPECT_EQ(Document().Matrix(1, 4), 11);
 }
 
@@ -588,7 +592,7 @@ TEST_F(MakingDiagram, RegisteredMethodsRunOnTheDistancesWithTheFlagOn) {
     auto& sheet = OpenSheet(Zigzag);
     for (const std::int16_t number : {3, 4}) {
         int runs = 0;
-        session.orderingMethods[number] = {
+        session.Of<OrderingMethods>()[number] = {
             .askOptions = [](Session& owner) { owner.DialogOutcome = 1; },
             .run =
                 [&](Session& owner, const FloatTable& distances) {
@@ -614,24 +618,24 @@ TEST_F(MakingDiagram, RegisteredMethodsRunOnTheDistancesWithTheFlagOn) {
 class MakingDiagramMeanwhile : public MakingDiagram {
 protected:
     void MakeWith(std::function<void()> meanwhile) {
-        session.orderingMethods[3] = {.askOptions = [](Session& owner) { owner.DialogOutcome = 1; },
-                                      .run =
-                                          [meanwhile](Session&, const FloatTable& distances) {
-                                              meanwhile();
-                                              EXPECT_EQ(distances(1, 4), 11);
-                                              return ArrayOf<std::int16_t>({5, 4, 3, 2, 1});
-                                          }};
+        session.Of<OrderingMethods>()[3] = {.askOptions = [](Session& owner) { owner.DialogOutcome = 1; },
+                                            .run =
+                                                [meanwhile](Session&, const FloatTable& distances) {
+                                                    meanwhile();
+                                                    EXPECT_EQ(distances(1, 4), 11);
+                                                    return ArrayOf<std::int16_t>({5, 4, 3, 2, 1});
+                                                }};
         Options([](frmPrzedzal& dialog) { dialog.Option8_Click(); });
         MakeDiagram(session);
     }
 
     // What a document that is opened during the search leaves in the working arrays.
     void LoadAnother() {
-        session.RecordNames = ArrayOf<std::string>({"x"});
-        session.VariableNames = ArrayOf<std::string>({"y"});
-        session.DataValues = FloatTable(1, 1, 77.0f);
-        session.DistanceValues = FloatTable(1, 1);
-        session.RecordHasNA = Flags(1, true);
+        session.tables.RecordNames = ArrayOf<std::string>({"x"});
+        session.tables.VariableNames = ArrayOf<std::string>({"y"});
+        session.tables.DataValues = FloatTable(1, 1, 77.0f);
+        session.tables.DistanceValues = FloatTable(1, 1);
+        session.tables.RecordHasNA = Flags(1, true);
     }
 
     void ExpectReversedSheet() {
@@ -758,8 +762,8 @@ TEST_F(MakingDiagram, AgreesWithThePlainMakingForTheMeasuresOfNumbers) {
                     for (std::int32_t v = 1; v <= 7; ++v)
                         values(i, v) = StrictFloat(rows[std::size_t(i - 1)][std::size_t(v)], '.');
                 }
-                const auto plain = test::PlainDiagram(values, names, session.VariableNames,
-                                                      {.Type = static_cast<std::int16_t>(type)}, ordered);
+                const auto plain = test::PlainDiagram(values, names, session.tables.VariableNames,
+                                                      {.Type = static_cast<DistanceType>(type)}, ordered);
                 const auto& document = Document(slot);
                 ASSERT_EQ(document.Matrix, plain.Matrix) << n << " records, measure " << type;
                 ASSERT_EQ(document.Data, plain.Data);

@@ -26,7 +26,7 @@ enum class Denominators {
 };
 
 float DenominatorOf(Denominators kind, RandomSource& random) {
-    const float draw = random.draw();
+    const float draw = random.Draw();
     const auto whole = static_cast<int>(draw * 256);
     switch (kind) {
     case Denominators::Whole: return float(1 + whole % 9);
@@ -137,7 +137,7 @@ TEST(OrderScorer, ZeroThatCountsIsADivisionByZeroOnTheDiagonalItDoesNot) {
         OrderScorer(denominators).Score(order, {&score, 1});
         FAIL();
     } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::DivisionByZero);
+        EXPECT_EQ(failure.Kind(), Failure::DivisionByZero);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
+#include "making/ordering_method.h"
+#include "making/ordering_options.h"
 #include "making/ordering_runs.h"
 #include "support/test_platform.h"
 
@@ -18,7 +20,7 @@ FloatTable RandomDistances(std::int32_t n, std::uint64_t seed) {
     RandomSource random(seed);
     FloatTable distances(n, n, 0.0F);
     for (std::int32_t i = 1; i <= n; ++i)
-        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 100 * random.draw();
+        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 100 * random.Draw();
     return distances;
 }
 
@@ -35,14 +37,16 @@ protected:
 
     OrderingRun() {
         AddGeneticOrderings(session);
-        session.ordering.GeneticGenerations = 4;
-        session.ordering.GeneticVariants = 10;
-        session.ordering.CriticalMutationNumber = 5;
-        session.ordering.CriticalGenerationNumber = 2;
+        session.Of<OrderingOptions>().GeneticGenerations = 4;
+        session.Of<OrderingOptions>().GeneticVariants = 10;
+        session.Of<OrderingOptions>().CriticalMutationNumber = 5;
+        session.Of<OrderingOptions>().CriticalGenerationNumber = 2;
         clock.step = 1;
     }
 
-    Order Run(std::int16_t method) { return session.orderingMethods.at(method).run(session, distances); }
+    Order Run(std::int16_t method) {
+        return session.Of<OrderingMethods>().at(method).run(session, distances);
+    }
     frmWork& Work() { return session.forms.Load<frmWork>(session); }
     frmWorkUM& WorkUM() { return session.forms.Load<frmWorkUM>(session); }
 };
@@ -87,22 +91,23 @@ TEST_F(OrderingRun, CancelInTheFirstGenerationGivesTheSheetOrderAndTakesTheFlagB
     events.onRun = [&](int) { Work().Command1_Click(); };
     EXPECT_EQ(Run(3), SheetOrder(12));
     EXPECT_EQ(events.runs, 1);
-    EXPECT_FALSE(session.ordering.WorkCancelled);
+    EXPECT_FALSE(session.Of<OrderingOptions>().WorkCancelled);
     EXPECT_EQ(forms.log, (Texts{"show frmWork", "close frmWork"}));
 }
 
 TEST_F(OrderingRun, CancelLaterGivesTheBestSoFar) {
     test::TestSession same;
-    const auto whole =
-        SimpleGeneticOrder(distances, session.ordering, same.session.random, [&](GeneticProgress& p) {
-            if (p.Generation == 2) session.ordering.WorkCancelled = true;
-            return 1;
-        });
+    const auto whole = SimpleGeneticOrder(distances, session.Of<OrderingOptions>(), same.session.random,
+                                          [&](GeneticProgress& p) {
+                                              if (p.Generation == 2)
+                                                  session.Of<OrderingOptions>().WorkCancelled = true;
+                                              return 1;
+                                          });
     events.onRun = [&](int run) {
         if (run == 3) Work().CancelCommand();
     };
     EXPECT_EQ(Run(3), whole.BestOrder);
-    EXPECT_EQ(session.random.position(), same.session.random.position());
+    EXPECT_EQ(session.random.Position(), same.session.random.Position());
 }
 
 TEST_F(OrderingRun, SimpleGeneticEndsWhenNoWindowIsLeft) {
@@ -180,21 +185,21 @@ TEST_F(OrderingRun, CancelOfRavelinInTheFirstGenerationGivesTheSheetOrder) {
         if (run == 5) WorkUM().Command1_Click();
     };
     EXPECT_EQ(Run(4), SheetOrder(12));
-    EXPECT_TRUE(session.ordering.WorkCancelled);
+    EXPECT_TRUE(session.Of<OrderingOptions>().WorkCancelled);
     EXPECT_FALSE(forms.log.empty());
     EXPECT_EQ(forms.log.back(), "close frmWorkUM");
 }
 
 TEST_F(OrderingRun, ASecondRunOfRavelinDrawsFromTwiceTheSum) {
     Run(4);
-    EXPECT_EQ(session.ordering.UmWeightTotal, 371);
+    EXPECT_EQ(session.Of<OrderingOptions>().UmWeightTotal, 371);
     Run(4);
-    EXPECT_EQ(session.ordering.UmWeightTotal, 742);
+    EXPECT_EQ(session.Of<OrderingOptions>().UmWeightTotal, 742);
 }
 
 TEST_F(OrderingRun, WindowsArePaintedAtMostSixtyTimesASecond) {
     clock.step = 0.001;
-    session.ordering.GeneticGenerations = 100;
+    session.Of<OrderingOptions>().GeneticGenerations = 100;
     Run(3);
     EXPECT_EQ(events.runs, 100); // events run all the same
     const auto updates = std::count(forms.log.begin(), forms.log.end(), "update frmWork");
@@ -204,10 +209,10 @@ TEST_F(OrderingRun, WindowsArePaintedAtMostSixtyTimesASecond) {
 
 TEST_F(OrderingRun, OptionsAreAskedInTheirDialogs) {
     forms.scripts.push_back([](Form& form) { form.CancelCommand(); });
-    session.orderingMethods.at(3).askOptions(session);
+    session.Of<OrderingMethods>().at(3).askOptions(session);
     EXPECT_EQ(session.DialogOutcome, -99);
     forms.scripts.push_back([](Form& form) { form.CancelCommand(); });
-    session.orderingMethods.at(4).askOptions(session);
+    session.Of<OrderingMethods>().at(4).askOptions(session);
     EXPECT_EQ(forms.log, (Texts{"modal frmGenetic", "modal frmGeneticUM"}));
 }
 

@@ -91,7 +91,7 @@ DiagramDocument PlainDiagram(const FloatTable& values, const Names& recordNames,
     DiagramDocument document;
     document.RecCount = static_cast<std::int16_t>(values.Rows());
     document.VarCount = static_cast<std::int16_t>(values.Columns());
-    document.DistType = measure.Type;
+    document.DistType = std::int16_t(measure.Type);
     document.Data = values;
     document.RecordNames = recordNames;
     document.VariableNames = variableNames;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "distance/measures.h"
-#include "session/ordering_method.h"
+#include "distance/distance.h"
+#include "making/ordering_method.h"
 
 // The making of a diagram as one plain loop after another: what the program's own has to agree with, to the
 // bit.

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "making/elapsed_text.h"
+#include "making/ordering_method.h"
+#include "making/ordering_options.h"
 #include "numbers/arrays.h"
 #include "numbers/number_text.h"
 #include "numbers/random_source.h"
 #include "numbers/rounding.h"
-#include "session/ordering_method.h"
-#include "session/ordering_options.h"
 
 #include <cmath>
 #include <cstdint>

@@ -26,7 +26,7 @@ constexpr std::int32_t Any = -1;
 // A random source whose next draws are these; a far jump ahead in the stream until one is found.
 RandomSource Drawing(const std::vector<Draw>& draws) {
     RandomSource start(1);
-    for (;; start.skip(7)) {
+    for (;; start.Skip(7)) {
         RandomSource random = start;
         if (std::all_of(draws.begin(), draws.end(), [&random](const Draw& draw) {
                 const std::int32_t value = RandomInRange(random, draw.low, draw.high);
@@ -47,9 +47,9 @@ Records After(int which, std::int32_t n, const std::vector<Draw>& draws) {
     Records records = InOrder(n);
     RandomSource random = Drawing(draws);
     RandomSource behind = random;
-    behind.skip(draws.size());
+    behind.Skip(draws.size());
     ApplyOperator(which, random, records);
-    EXPECT_EQ(random.position(), behind.position());
+    EXPECT_EQ(random.Position(), behind.Position());
     return records;
 }
 
@@ -159,7 +159,7 @@ TEST(Shake, Is500BurstsOfMovesWithADroppedDrawEach) {
         for (int burst = 0; burst < 500; ++burst)
             for (int left = RandomInRange(again, 1, 20); left > 0; --left) {
                 const std::int32_t a = RandomInRange(again, 1, n);
-                again.draw();
+                again.Draw();
                 std::int32_t b = RandomInRange(again, 1, n);
                 while (a == b) b = RandomInRange(again, 1, n);
                 const std::int16_t moved = expected[std::size_t(a - 1)];
@@ -167,7 +167,7 @@ TEST(Shake, Is500BurstsOfMovesWithADroppedDrawEach) {
                 expected.insert(expected.begin() + (b - 1), moved);
             }
         EXPECT_EQ(shaken, expected);
-        EXPECT_EQ(random.position(), again.position());
+        EXPECT_EQ(random.Position(), again.Position());
     }
 }
 
@@ -185,9 +185,9 @@ OrderingOptions Weights(const std::vector<std::int16_t>& weights, std::int32_t t
 int Chosen(const OrderingOptions& options, std::int32_t r) {
     RandomSource random = Drawing({{1, options.UmWeightTotal, r}});
     RandomSource behind = random;
-    behind.skip(1);
+    behind.Skip(1);
     const int which = ChooseOperator(random, options);
-    EXPECT_EQ(random.position(), behind.position());
+    EXPECT_EQ(random.Position(), behind.Position());
     return which;
 }
 
@@ -225,7 +225,7 @@ TEST(BaseOfGeneration, IsTheUmCoefficientOfTheSheetOrderForEveryOrder) {
     RandomSource random(8);
     FloatTable distances(20, 20);
     for (std::int32_t i = 1; i <= 20; ++i)
-        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 300 * random.draw();
+        for (std::int32_t j = 1; j < i; ++j) distances(i, j) = distances(j, i) = 300 * random.Draw();
     const ByteTable bytes = MakeByteMatrix(distances, 1);
     Order order;
     order.Cells() = InOrder(20);

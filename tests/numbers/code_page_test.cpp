@@ -24,10 +24,10 @@ std::string AllBytes() {
 
 TEST(CodePage, PolishInItsOwnPage) {
     const CodePage page(1250);
-    EXPECT_EQ(page.fromUtf8("ąćęłńóśźż"), "\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF");
-    EXPECT_EQ(page.fromUtf8("ĄĆĘŁŃÓŚŹŻ"), "\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF");
-    EXPECT_EQ(page.toUtf8("\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF"), "ąćęłńóśźż");
-    EXPECT_EQ(page.toUtf8("\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF"), "ĄĆĘŁŃÓŚŹŻ");
+    EXPECT_EQ(page.FromUtf8("ąćęłńóśźż"), "\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF");
+    EXPECT_EQ(page.FromUtf8("ĄĆĘŁŃÓŚŹŻ"), "\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF");
+    EXPECT_EQ(page.ToUtf8("\xB9\xE6\xEA\xB3\xF1\xF3\x9C\x9F\xBF"), "ąćęłńóśźż");
+    EXPECT_EQ(page.ToUtf8("\xA5\xC6\xCA\xA3\xD1\xD3\x8C\x8F\xAF"), "ĄĆĘŁŃÓŚŹŻ");
 }
 
 TEST(CodePage, LettersOfEachPage) {
@@ -44,59 +44,59 @@ TEST(CodePage, LettersOfEachPage) {
         {1258, "đơư₫", "\xF0\xF5\xFD\xFE"},
     };
     for (const auto& [number, text, bytes] : texts) {
-        EXPECT_EQ(CodePage(number).fromUtf8(text), bytes) << number;
-        EXPECT_EQ(CodePage(number).toUtf8(bytes), text) << number;
+        EXPECT_EQ(CodePage(number).FromUtf8(text), bytes) << number;
+        EXPECT_EQ(CodePage(number).ToUtf8(bytes), text) << number;
     }
 }
 
 TEST(CodePage, CharacterOutsideThePageIsAQuestionMark) {
-    EXPECT_EQ(CodePage(1252).fromUtf8("Łódź"), "?\xF3"
+    EXPECT_EQ(CodePage(1252).FromUtf8("Łódź"), "?\xF3"
                                                "d?");
-    EXPECT_EQ(CodePage(1250).fromUtf8("a€Ω😀b"), "a\x80??b");
-    EXPECT_EQ(CodePage(1252).fromUtf8("\u0080"), "?"); // that byte is the euro sign
+    EXPECT_EQ(CodePage(1250).FromUtf8("a€Ω😀b"), "a\x80??b");
+    EXPECT_EQ(CodePage(1252).FromUtf8("\u0080"), "?"); // that byte is the euro sign
 }
 
 TEST(CodePage, EachMalformedByteIsAQuestionMark) {
-    EXPECT_EQ(CodePage(1250).fromUtf8("a\xFF"
+    EXPECT_EQ(CodePage(1250).FromUtf8("a\xFF"
                                       "b"),
               "a?b");
-    EXPECT_EQ(CodePage(1250).fromUtf8("\xE2\x82"), "??");
-    EXPECT_EQ(CodePage(1250).fromUtf8("\xC5"), "?");
-    EXPECT_EQ(CodePage(1250).fromUtf8("\xED\xA0\x80"), "???");
+    EXPECT_EQ(CodePage(1250).FromUtf8("\xE2\x82"), "??");
+    EXPECT_EQ(CodePage(1250).FromUtf8("\xC5"), "?");
+    EXPECT_EQ(CodePage(1250).FromUtf8("\xED\xA0\x80"), "???");
 }
 
 TEST(CodePage, EveryByteOfEveryPageRoundTrips) {
     const std::string bytes = AllBytes();
     for (const int number : CodePages) {
-        const std::string text = CodePage(number).toUtf8(bytes);
+        const std::string text = CodePage(number).ToUtf8(bytes);
         EXPECT_EQ(CharacterCount(text), 256U) << number;
-        EXPECT_EQ(CodePage(number).fromUtf8(text), bytes) << number;
+        EXPECT_EQ(CodePage(number).FromUtf8(text), bytes) << number;
     }
 }
 
 TEST(CodePage, AsciiStaysAsItIs) {
     const std::string ascii = AllBytes().substr(0, 128);
     for (const int number : CodePages) {
-        EXPECT_EQ(CodePage(number).toUtf8(ascii), ascii) << number;
-        EXPECT_EQ(CodePage(number).fromUtf8(ascii), ascii) << number;
+        EXPECT_EQ(CodePage(number).ToUtf8(ascii), ascii) << number;
+        EXPECT_EQ(CodePage(number).FromUtf8(ascii), ascii) << number;
     }
 }
 
 TEST(CodePage, ByteWithoutACharacterIsTheControlCharacterOfItsNumber) {
-    EXPECT_EQ(CodePage(1250).toUtf8("\x81\x83\x88\x90\x98"), "\u0081\u0083\u0088\u0090\u0098");
-    EXPECT_EQ(CodePage(1252).toUtf8("\x81\x8D\x8F\x90\x9D"), "\u0081\u008D\u008F\u0090\u009D");
-    EXPECT_EQ(CodePage(1252).fromUtf8("\u0081\u008D\u008F\u0090\u009D"), "\x81\x8D\x8F\x90\x9D");
-    EXPECT_EQ(CodePage(1251).toUtf8("\x98"), "\u0098");
-    EXPECT_EQ(CodePage(1253).toUtf8("\xAA\xD2\xFF"), "\u00AA\u00D2\u00FF");
-    EXPECT_EQ(CodePage(874).fromUtf8("\u00DB\u00FF"), "\xDB\xFF");
+    EXPECT_EQ(CodePage(1250).ToUtf8("\x81\x83\x88\x90\x98"), "\u0081\u0083\u0088\u0090\u0098");
+    EXPECT_EQ(CodePage(1252).ToUtf8("\x81\x8D\x8F\x90\x9D"), "\u0081\u008D\u008F\u0090\u009D");
+    EXPECT_EQ(CodePage(1252).FromUtf8("\u0081\u008D\u008F\u0090\u009D"), "\x81\x8D\x8F\x90\x9D");
+    EXPECT_EQ(CodePage(1251).ToUtf8("\x98"), "\u0098");
+    EXPECT_EQ(CodePage(1253).ToUtf8("\xAA\xD2\xFF"), "\u00AA\u00D2\u00FF");
+    EXPECT_EQ(CodePage(874).FromUtf8("\u00DB\u00FF"), "\xDB\xFF");
 }
 
 TEST(CodePage, NumberThatIsNoneIsWestern) {
-    EXPECT_EQ(CodePage().number(), 1252);
-    EXPECT_EQ(CodePage(65001).number(), 1252);
-    EXPECT_EQ(CodePage(0).number(), 1252);
-    EXPECT_EQ(CodePage(1250).number(), 1250);
-    EXPECT_EQ(CodePage(437).fromUtf8("é"), "\xE9");
+    EXPECT_EQ(CodePage().Number(), 1252);
+    EXPECT_EQ(CodePage(65001).Number(), 1252);
+    EXPECT_EQ(CodePage(0).Number(), 1252);
+    EXPECT_EQ(CodePage(1250).Number(), 1250);
+    EXPECT_EQ(CodePage(437).FromUtf8("é"), "\xE9");
 }
 
 TEST(IsCodePage, KnowsTheTenPages) {

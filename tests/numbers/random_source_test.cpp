@@ -14,12 +14,12 @@ namespace {
 
 TEST(RandomSource, DrawIsTheUpperBitsOfTheNextState) {
     RandomSource source;
-    source.setPosition(0);
-    EXPECT_EQ(source.draw(), static_cast<float>(1442695040888963407U >> 40) / 16777216.0F);
-    EXPECT_EQ(source.position(), 1442695040888963407U);
+    source.SetPosition(0);
+    EXPECT_EQ(source.Draw(), static_cast<float>(1442695040888963407U >> 40) / 16777216.0F);
+    EXPECT_EQ(source.Position(), 1442695040888963407U);
     const std::uint64_t next = 1442695040888963407U * 6364136223846793005U + 1442695040888963407U;
-    EXPECT_EQ(source.draw(), static_cast<float>(next >> 40) / 16777216.0F);
-    EXPECT_EQ(source.position(), next);
+    EXPECT_EQ(source.Draw(), static_cast<float>(next >> 40) / 16777216.0F);
+    EXPECT_EQ(source.Position(), next);
 }
 
 TEST(RandomSource, DrawReachesBothEndsAndNeverOne) {
@@ -27,10 +27,10 @@ TEST(RandomSource, DrawReachesBothEndsAndNeverOne) {
     std::uint64_t inverse = 6364136223846793005U;
     for (int step = 0; step < 5; ++step) inverse *= 2 - 6364136223846793005U * inverse;
     RandomSource source;
-    source.setPosition((0 - 1442695040888963407U) * inverse);
-    EXPECT_EQ(source.draw(), 0.0F);
-    source.setPosition((std::numeric_limits<std::uint64_t>::max() - 1442695040888963407U) * inverse);
-    EXPECT_EQ(source.draw(), 16777215.0F / 16777216.0F);
+    source.SetPosition((0 - 1442695040888963407U) * inverse);
+    EXPECT_EQ(source.Draw(), 0.0F);
+    source.SetPosition((std::numeric_limits<std::uint64_t>::max() - 1442695040888963407U) * inverse);
+    EXPECT_EQ(source.Draw(), 16777215.0F / 16777216.0F);
 }
 
 TEST(RandomSource, DrawsFillTheUnitIntervalEvenly) {
@@ -38,7 +38,7 @@ TEST(RandomSource, DrawsFillTheUnitIntervalEvenly) {
     std::vector<int> counts(16);
     constexpr int Draws = 160000;
     for (int draw = 0; draw < Draws; ++draw) {
-        const float value = source.draw();
+        const float value = source.Draw();
         ASSERT_GE(value, 0.0F);
         ASSERT_LT(value, 1.0F);
         ++counts[static_cast<std::size_t>(value * 16)];
@@ -49,7 +49,7 @@ TEST(RandomSource, DrawsFillTheUnitIntervalEvenly) {
 TEST(RandomSource, SameSeedGivesTheSameStream) {
     RandomSource first(42);
     RandomSource second(42);
-    for (int draw = 0; draw < 100; ++draw) EXPECT_EQ(first.draw(), second.draw());
+    for (int draw = 0; draw < 100; ++draw) EXPECT_EQ(first.Draw(), second.Draw());
 }
 
 TEST(RandomSource, NeighbouringSeedsGiveUnrelatedStreams) {
@@ -58,9 +58,9 @@ TEST(RandomSource, NeighbouringSeedsGiveUnrelatedStreams) {
     for (std::uint64_t seed = 0; seed < 2000; ++seed) {
         RandomSource source(seed);
         RandomSource neighbour(seed + 1);
-        const float draw = source.draw();
+        const float draw = source.Draw();
         firstDraws.insert(draw);
-        correlation += (draw - 0.5) * (neighbour.draw() - 0.5) * 12;
+        correlation += (draw - 0.5) * (neighbour.Draw() - 0.5) * 12;
     }
     EXPECT_GT(firstDraws.size(), 1990U);
     EXPECT_NEAR(correlation / 2000, 0, 0.12);
@@ -68,47 +68,47 @@ TEST(RandomSource, NeighbouringSeedsGiveUnrelatedStreams) {
 
 TEST(RandomSource, CopyContinuesTheSameStream) {
     RandomSource source(9);
-    source.draw();
+    source.Draw();
     RandomSource copy = source;
-    EXPECT_EQ(copy.draw(), source.draw());
-    EXPECT_EQ(copy.position(), source.position());
+    EXPECT_EQ(copy.Draw(), source.Draw());
+    EXPECT_EQ(copy.Position(), source.Position());
 }
 
 TEST(RandomSource, PositionCanBeSetBack) {
     RandomSource source(9);
-    const std::uint64_t position = source.position();
-    const float draw = source.draw();
-    source.draw();
-    source.setPosition(position);
-    EXPECT_EQ(source.draw(), draw);
+    const std::uint64_t position = source.Position();
+    const float draw = source.Draw();
+    source.Draw();
+    source.SetPosition(position);
+    EXPECT_EQ(source.Draw(), draw);
 }
 
 TEST(RandomSource, SkipPassesOverThatManyDraws) {
     RandomSource walking(77);
     for (std::uint64_t count = 0; count <= 1000; ++count) {
         RandomSource skipping(77);
-        skipping.skip(count);
-        ASSERT_EQ(skipping.position(), walking.position()) << count;
-        walking.draw();
+        skipping.Skip(count);
+        ASSERT_EQ(skipping.Position(), walking.Position()) << count;
+        walking.Draw();
     }
 }
 
 TEST(RandomSource, SkipsAddUp) {
     RandomSource atOnce(3);
     RandomSource inParts(3);
-    atOnce.skip(5000000000U + 12345678901234567U);
-    inParts.skip(5000000000U);
-    inParts.skip(12345678901234567U);
-    EXPECT_EQ(atOnce.position(), inParts.position());
+    atOnce.Skip(5000000000U + 12345678901234567U);
+    inParts.Skip(5000000000U);
+    inParts.Skip(12345678901234567U);
+    EXPECT_EQ(atOnce.Position(), inParts.Position());
 }
 
 TEST(RandomSource, PeriodIsTwoToTheSixtyFour) {
     RandomSource source(3);
-    const std::uint64_t position = source.position();
-    source.skip(std::numeric_limits<std::uint64_t>::max());
-    EXPECT_NE(source.position(), position);
-    source.draw();
-    EXPECT_EQ(source.position(), position);
+    const std::uint64_t position = source.Position();
+    source.Skip(std::numeric_limits<std::uint64_t>::max());
+    EXPECT_NE(source.Position(), position);
+    source.Draw();
+    EXPECT_EQ(source.Position(), position);
 }
 
 TEST(RandomInRange, ReachesBothEndsAndNothingElse) {
@@ -122,7 +122,7 @@ TEST(RandomInRange, IsTheFloorOfTheScaledDraw) {
     RandomSource source(13);
     for (int round = 0; round < 1000; ++round) {
         RandomSource before = source;
-        const double draw = before.draw();
+        const double draw = before.Draw();
         EXPECT_EQ(RandomInRange(source, 1, 250), static_cast<std::int32_t>(std::floor(draw * 250 + 1)));
     }
 }
@@ -161,8 +161,8 @@ TEST(RandomInRange, UsesOneDrawAlways) {
     for (const auto& [low, high] : {std::pair(1, 2), std::pair(1, 1), std::pair(1, 0), std::pair(5, 1)}) {
         RandomSource other = source;
         RandomInRange(source, low, high);
-        other.draw();
-        EXPECT_EQ(source.position(), other.position());
+        other.Draw();
+        EXPECT_EQ(source.Position(), other.Position());
     }
 }
 

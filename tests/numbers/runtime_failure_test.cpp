@@ -28,16 +28,16 @@ TEST(RuntimeFailure, HasTheClassicNumbersAndTexts) {
     for (const auto& [failure, message] : messages) {
         const RuntimeFailure thrown(failure);
         EXPECT_EQ(thrown.what(), message);
-        EXPECT_EQ(thrown.failure(), failure);
-        EXPECT_EQ(thrown.number(), static_cast<int>(failure));
-        EXPECT_NE(message.find("'" + std::to_string(thrown.number()) + "'"), std::string::npos);
+        EXPECT_EQ(thrown.Kind(), failure);
+        EXPECT_EQ(thrown.Number(), static_cast<int>(failure));
+        EXPECT_NE(message.find("'" + std::to_string(thrown.Number()) + "'"), std::string::npos);
     }
 }
 
 TEST(RuntimeFailure, PutsTheDetailBehindTheText) {
     const RuntimeFailure thrown(Failure::FileNotFound, "iris.mdt");
     EXPECT_STREQ(thrown.what(), "Run-time error '53': File not found: iris.mdt");
-    EXPECT_EQ(thrown.number(), 53);
+    EXPECT_EQ(thrown.Number(), 53);
 }
 
 TEST(RuntimeFailure, TextStandsWithoutTheNumber) {

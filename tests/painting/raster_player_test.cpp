@@ -1,6 +1,7 @@
 #include "painting/raster_player.h"
 
 #include "golden_picture.h"
+#include "painting/rasterizer.h"
 #include "support/drawings.h"
 #include "view/bitmap_drawing.h"
 #include "view/histogram_drawing.h"

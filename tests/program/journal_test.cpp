@@ -291,7 +291,7 @@ TEST_F(JournalTest, TheCodePageOfTheRunComesWithTheDocument) {
     made.messages.answers = {Answer::Yes};
     EXPECT_TRUE(OfferLeftDocuments(made.session, run->folder));
     EXPECT_EQ(ActiveDataWindow(made.session).OpisText.Text, "Świa");
-    EXPECT_EQ(made.session.codePage.number(), 1252);
+    EXPECT_EQ(made.session.codePage.Number(), 1252);
 }
 
 TEST_F(JournalTest, ADiskThatFailsIsTheWorksOwnFailure) {

@@ -25,16 +25,16 @@ protected:
         session.NewWindowIndex = FindFreeDataSlot(session);
         PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
         auto& window = DataWindow(session, session.NewWindowIndex);
-        session.RecordNames = Names(3);
-        session.VariableNames = Names(2);
-        session.DataValues = FloatTable(3, 2);
+        session.tables.RecordNames = Names(3);
+        session.tables.VariableNames = Names(2);
+        session.tables.DataValues = FloatTable(3, 2);
         for (int record = 1; record <= 3; ++record) {
-            session.RecordNames(record) = std::string("rec") + char('0' + record);
+            session.tables.RecordNames(record) = std::string("rec") + char('0' + record);
             for (int variable = 1; variable <= 2; ++variable)
-                session.DataValues(record, variable) = float(record * variable);
+                session.tables.DataValues(record, variable) = float(record * variable);
         }
-        session.VariableNames(1) = "a";
-        session.VariableNames(2) = "b";
+        session.tables.VariableNames(1) = "a";
+        session.tables.VariableNames(2) = "b";
         window.Caption = UntitledCaption(DocumentKind::Data, session.NewWindowIndex);
         window.Present("some towns");
         ShowChild(session, window);

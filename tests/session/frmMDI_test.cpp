@@ -412,7 +412,7 @@ TEST(About, OnlyBeepsWhileADiagramIsMade) {
     EXPECT_TRUE(test.forms.log.empty());
 }
 
-TEST(RecentFiles, AreOpenedWithoutATestForADiagramInTheMaking) {
+TEST(RecentFileItems, AreOpenedWithoutATestForADiagramInTheMaking) {
     MainWindowTest test;
     test.session.DiagramBusy = 1;
     EXPECT_EQ(test.Click("mnuRecentFile(2)"), "OpenRecentFile(2, )");
@@ -430,7 +430,7 @@ TEST(FormLoad, EntersTheProgramsFolderAndStartsTheSession) {
     EXPECT_TRUE(std::filesystem::equivalent(entered, folder));
     EXPECT_EQ(test.session.AppPath, folder.string());
     RandomSource expected(5);
-    EXPECT_EQ(test.session.random.draw(), expected.draw());
+    EXPECT_EQ(test.session.random.Draw(), expected.Draw());
     EXPECT_TRUE(test.session.commands.Has("Save"));
     EXPECT_TRUE(test.session.commands.Has("SaveAs"));
 }

@@ -89,7 +89,7 @@ TEST(FindFreeSlot, OverflowsPastTheLastSixteenBitIndex) {
         FindFreeDataSlot(session);
         FAIL() << "slot 32768 must not exist";
     } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::Overflow);
+        EXPECT_EQ(failure.Kind(), Failure::Overflow);
     }
     EXPECT_EQ(session.DataStates.size(), 32768u);
     EXPECT_EQ(session.DataWindows.size(), 32768u);

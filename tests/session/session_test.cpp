@@ -22,7 +22,7 @@ TEST(StartSession, SeedsTheRandomSource) {
     TestSession test;
     StartSession(test.session, 77, "");
     RandomSource expected(77);
-    EXPECT_EQ(test.session.random.draw(), expected.draw());
+    EXPECT_EQ(test.session.random.Draw(), expected.Draw());
 }
 
 TEST(StartSession, ShowsTheMainToolbarAloneAndChecksItsMenuItem) {
@@ -65,12 +65,12 @@ TEST(StartSession, TakesSeparatorAndCodePageFromTheLocale) {
         const Locale polish("pl_PL.UTF-8");
         StartSession(test.session, 1, "");
         EXPECT_EQ(test.session.DecimalSeparator, ',');
-        EXPECT_EQ(test.session.codePage.number(), 1250);
+        EXPECT_EQ(test.session.codePage.Number(), 1250);
     }
     const Locale plain("C");
     StartSession(test.session, 1, "");
     EXPECT_EQ(test.session.DecimalSeparator, '.');
-    EXPECT_EQ(test.session.codePage.number(), 1252);
+    EXPECT_EQ(test.session.codePage.Number(), 1252);
 }
 
 TEST(StartSession, SetsTheDefaults) {
@@ -107,13 +107,13 @@ TEST(StartSession, LeavesTheOtherValuesAtZero) {
     EXPECT_EQ(session.NewWindowIndex, 0);
     EXPECT_EQ(session.DiagramBusy, 0);
     EXPECT_FALSE(session.DiagramFromMatrix);
-    EXPECT_FALSE(session.DataHasNA);
+    EXPECT_FALSE(session.tables.DataHasNA);
     EXPECT_EQ(session.SectionLimits.Count(), 0);
-    EXPECT_EQ(session.RecordNames.Count(), 0);
-    EXPECT_EQ(session.VariableNames.Count(), 0);
-    EXPECT_EQ(session.RecordHasNA.Count(), 0);
-    EXPECT_EQ(session.DataValues.Rows(), 0);
-    EXPECT_EQ(session.DistanceValues.Rows(), 0);
+    EXPECT_EQ(session.tables.RecordNames.Count(), 0);
+    EXPECT_EQ(session.tables.VariableNames.Count(), 0);
+    EXPECT_EQ(session.tables.RecordHasNA.Count(), 0);
+    EXPECT_EQ(session.tables.DataValues.Rows(), 0);
+    EXPECT_EQ(session.tables.DistanceValues.Rows(), 0);
 }
 
 TEST(StartSession, BuildsARegistryWhoseSlotOneIsFree) {
@@ -141,21 +141,18 @@ TEST(StartSession, TurnsOffWhatNeedsADocument) {
 TEST(StartSession, LoadsTheRecentFilesBeforeTheCommandsGoOff) {
     TestSession test;
     auto& session = test.session;
-    bool loaded = false;
     session.mainWindow.EnableMenu("mnuSave", true);
     session.mainWindow.TypeOfForm.clear();
-    session.commands.Set("LoadRecentFiles", [&](const CommandCall&) {
-        loaded = true;
+    test.settings.onRead = [&] {
         EXPECT_EQ(session.MaxDiagramRecords, 250);
         EXPECT_TRUE(session.mainWindow.MenuEnabled("mnuSave"));
         EXPECT_EQ(session.mainWindow.TypeOfForm, "");
-        session.mainWindow.ShowMenu(RecentFileItem(1), true);
-    });
+    };
+    test.settings.sections["Recent Files"]["RecentFile1"] = "a.mdt";
     StartSession(session, 1, "");
-    EXPECT_TRUE(loaded);
     EXPECT_FALSE(session.mainWindow.MenuEnabled("mnuSave"));
-    EXPECT_FALSE(session.mainWindow.MenuShown(RecentFileItem(0)));
-    EXPECT_TRUE(session.mainWindow.MenuShown(RecentFileItem(1)));
+    EXPECT_TRUE(session.mainWindow.MenuShown(RecentFileItem(0)));
+    EXPECT_FALSE(session.mainWindow.MenuShown(RecentFileItem(1)));
 }
 
 TEST(DecimalSeparator, IsTheFirstOfPointAndCommaInTheLocalesNumber) {
@@ -183,7 +180,7 @@ TEST(ParseSheetNumber, RefusesWhatIsNoNumber) {
         ParseSheetNumber("stone", '.');
         FAIL();
     } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.failure(), Failure::TypeMismatch);
+        EXPECT_EQ(failure.Kind(), Failure::TypeMismatch);
     }
 }
 
@@ -192,6 +189,23 @@ TEST(NaValue, IsOneExactFloat) {
     EXPECT_EQ(static_cast<float>(static_cast<double>(NaValue)), NaValue);
     EXPECT_EQ(ParseSheetNumber("-9999999", '.'), NaValue);
     EXPECT_EQ(NaText, "N/A");
+}
+
+struct OneRoom {
+    int Value = 3;
+};
+struct OtherRoom {
+    int Value = 4;
+};
+
+TEST(SessionOf, MakesTheValuesOfARoomOnceForEachSession) {
+    TestSession test;
+    TestSession other;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 3);
+    test.session.Of<OneRoom>().Value = 5;
+    EXPECT_EQ(test.session.Of<OneRoom>().Value, 5);
+    EXPECT_EQ(test.session.Of<OtherRoom>().Value, 4);
+    EXPECT_EQ(other.session.Of<OneRoom>().Value, 3);
 }
 
 } // namespace

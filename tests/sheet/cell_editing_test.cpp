@@ -2,6 +2,7 @@
 #include "numbers/utf8.h"
 #include "platform/keys.h"
 #include "session/frmMDI.h"
+#include "sheet/sheet_values.h"
 #include "sheet_session.h"
 
 #include <gtest/gtest.h>
@@ -591,10 +592,10 @@ TEST(CommitCell, IntoARowThatIsGoneFailsInAMessage) {
 TEST(CommitCell, IsDroppedOnceAfterTheDeletionOfARecord) {
     EditTest test;
     test.Type("5");
-    test.session.SuppressCommit = true;
+    test.session.Of<SheetValues>().SuppressCommit = true;
     test.signals.cursors.clear();
     test.window.CommitCell(key::Down);
-    EXPECT_FALSE(test.session.SuppressCommit);
+    EXPECT_FALSE(test.session.Of<SheetValues>().SuppressCommit);
     EXPECT_EQ(test.field.Text, "");
     EXPECT_TRUE(test.window.EditPanel.Visible);
     EXPECT_EQ(test.Current(), "1,2");
@@ -624,6 +625,16 @@ TEST(LossOfFocus, ByACommandGivesTheGridTheFocusAndCommits) {
     EXPECT_FALSE(test.window.Editing);
     EXPECT_FALSE(test.window.EditPanel.Visible);
     EXPECT_EQ(test.window.ActiveControl, &test.grid);
+}
+
+TEST(LossOfFocus, ToAnotherWindowLeavesTheGridToHaveItOnTheWayBack) {
+    for (const bool emptied : {false, true}) {
+        EditTest test;
+        test.KeyDown(key::F2);
+        if (emptied) test.SetField("");
+        test.window.EditCell_LostFocus();
+        EXPECT_EQ(test.window.ActiveControl, &test.grid);
+    }
 }
 
 TEST(LossOfFocus, ByACommandWithoutAnEditChangesNothing) {
@@ -726,7 +737,7 @@ TEST(LossOfFocus, OfAnEmptiedFieldLeavesTheCellEmpty) {
 TEST(LossOfFocus, AfterTheDeletionOfARecordDropsTheEdit) {
     EditTest test;
     test.Type("5");
-    test.session.SuppressCommit = true;
+    test.session.Of<SheetValues>().SuppressCommit = true;
     test.grid.RemoveRow(1);
     test.Leave();
     EXPECT_EQ(test.grid.Text(1, 2), "0.000");

@@ -83,7 +83,7 @@ TEST(EvaluateCellText, OverflowsBeyondDoubles) {
             EvaluateCellText(text);
             ADD_FAILURE() << text;
         } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.failure(), Failure::Overflow) << text;
+            EXPECT_EQ(failure.Kind(), Failure::Overflow) << text;
         }
 }
 

@@ -172,17 +172,17 @@ TEST(DataSheetResize, LeavesLargerAndMinimizedWindowsAlone) {
 TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
     SheetSession test;
     auto& session = test.session;
-    session.RecordNames = Names(2);
-    session.RecordNames(1) = "Biskupin";
-    session.RecordNames(2) = "Kraków";
-    session.VariableNames = Names(2);
-    session.VariableNames(1) = "length";
-    session.VariableNames(2) = "width";
-    session.DataValues = FloatTable(2, 2);
-    session.DataValues(1, 1) = 1.5f;
-    session.DataValues(1, 2) = NaValue;
-    session.DataValues(2, 1) = -12.3456f;
-    session.DataValues(2, 2) = 1000.0f;
+    session.tables.RecordNames = Names(2);
+    session.tables.RecordNames(1) = "Biskupin";
+    session.tables.RecordNames(2) = "Kraków";
+    session.tables.VariableNames = Names(2);
+    session.tables.VariableNames(1) = "length";
+    session.tables.VariableNames(2) = "width";
+    session.tables.DataValues = FloatTable(2, 2);
+    session.tables.DataValues(1, 1) = 1.5f;
+    session.tables.DataValues(1, 2) = NaValue;
+    session.tables.DataValues(2, 1) = -12.3456f;
+    session.tables.DataValues(2, 2) = 1000.0f;
     session.NewWindowIndex = FindFreeDataSlot(session);
     PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
     auto& window = DataWindow(session, session.NewWindowIndex);
@@ -196,6 +196,12 @@ TEST(DataSheetPresent, FillsTheWindowFromTheWorkingArrays) {
         for (int column = 0; column < 4; ++column)
             EXPECT_EQ(window.Grid1.Text(row, column), cells[row][column]) << row << "," << column;
     EXPECT_EQ(window.OpisText.Text, "two places");
+    const SheetTable table = window.Table();
+    EXPECT_EQ(table.RecordCount(), 2);
+    EXPECT_EQ(table.VariableCount(), 2);
+    EXPECT_EQ(table.RecordNames.Cells(), (std::vector<std::string>{"Biskupin", "Kraków"}));
+    EXPECT_EQ(table.VariableNames.Cells(), (std::vector<std::string>{"length", "width"}));
+    EXPECT_EQ(table.Cells.Cells(), (std::vector<std::string>{"1.500", "N/A", "-12.346", "1000.000"}));
     session.DecimalSeparator = ',';
     window.Present("");
     EXPECT_EQ(window.Grid1.Text(1, 2), "1,500");

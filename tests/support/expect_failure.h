@@ -10,7 +10,7 @@ template <class Action>::testing::AssertionResult endsInFailure(Failure expected
     try {
         action();
     } catch (const RuntimeFailure& failure) {
-        if (failure.failure() == expected) return ::testing::AssertionSuccess();
+        if (failure.Kind() == expected) return ::testing::AssertionSuccess();
         return ::testing::AssertionFailure() << failure.what();
     }
     return ::testing::AssertionFailure() << "no failure";

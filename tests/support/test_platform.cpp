@@ -45,6 +45,7 @@ void ScriptedForms::showModal(Form& form) {
     scripts.pop_front();
     form.Visible = true;
     form.Form_Show();
+    form.Form_Resize();
     script(form);
     if (form.Visible) {
         ADD_FAILURE() << "the script leaves " << form.Name << " open";
@@ -79,6 +80,23 @@ int ScriptedEvents::run() {
     return windows;
 }
 
+PixelImage BlankRasterizer::pixelsOf(const Drawing& drawing) {
+    if (empty) return {};
+    const int width = static_cast<int>((drawing.Width + 14) / 15);
+    const int height = static_cast<int>((drawing.Height + 14) / 15);
+    return {width, height, std::vector<std::uint32_t>(std::size_t(width) * std::size_t(height), 0xFFFFFF)};
+}
+
+void RecordingClipboard::clear() {
+    if (fails) throw std::runtime_error("the clipboard is another program's");
+    log.push_back("clear");
+}
+
+void RecordingClipboard::put(const Drawing& drawing) {
+    log.push_back("put");
+    held = drawing;
+}
+
 void RecordingKeyboard::send(const std::string& keys) {
     sent.push_back(keys);
     if (onSend) onSend(keys);
@@ -86,12 +104,14 @@ void RecordingKeyboard::send(const std::string& keys) {
 
 std::string MemorySettings::read(const std::string& section, const std::string& key,
                                  const std::string& missing) {
+    if (onRead) onRead();
     const auto found = sections[section].find(key);
     return found == sections[section].end() ? missing : found->second;
 }
 
 void MemorySettings::write(const std::string& section, const std::string& key, const std::string& value) {
     sections[section][key] = value;
+    if (onWrite) onWrite(key, value);
 }
 
 std::vector<std::pair<std::string, std::string>> MemorySettings::readSection(const std::string& section) {

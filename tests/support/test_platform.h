@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "session/session.h"
+#include "support/drawings.h"
 
 #include <deque>
 #include <functional>
@@ -93,6 +94,8 @@ public:
 class MemorySettings : public SettingsStore {
 public:
     std::map<std::string, std::map<std::string, std::string>> sections;
+    std::function<void()> onRead = {};
+    std::function<void(const std::string& key, const std::string& value)> onWrite = {};
     std::string read(const std::string& section, const std::string& key, const std::string& missing) override;
     void write(const std::string& section, const std::string& key, const std::string& value) override;
     std::vector<std::pair<std::string, std::string>> readSection(const std::string& section) override;
@@ -103,6 +106,22 @@ public:
     std::vector<std::pair<std::string, int>> shown;
     std::string error; // thrown when not empty
     void show(const std::string& file, int command) override;
+};
+
+// A white picture of one pixel for 15 twips, or none.
+class BlankRasterizer : public Rasterizer {
+public:
+    bool empty = false;
+    PixelImage pixelsOf(const Drawing& drawing) override;
+};
+
+class RecordingClipboard : public PictureClipboard {
+public:
+    std::vector<std::string> log; // "clear", "put"
+    Drawing held;
+    bool fails = false;
+    void clear() override;
+    void put(const Drawing& drawing) override;
 };
 
 struct TestPlatform {
@@ -117,6 +136,9 @@ struct TestPlatform {
     ManualClock clock;
     MemorySettings settings;
     RecordingHelp help;
+    FixedMeasure fonts;
+    BlankRasterizer raster;
+    RecordingClipboard clipboard;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -127,7 +149,10 @@ struct TestPlatform {
                       .screen = screen,
                       .clock = clock,
                       .settings = settings,
-                      .help = help};
+                      .help = help,
+                      .fonts = fonts,
+                      .raster = raster,
+                      .clipboard = clipboard};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;

@@ -306,7 +306,7 @@ TEST(DiagramMoves, DownEndAndInsertWithoutASelectionFailBeforeAnythingShows) {
             (window.*move)();
             ADD_FAILURE() << "no failure";
         } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.failure(), Failure::SubscriptOutOfRange);
+            EXPECT_EQ(failure.Kind(), Failure::SubscriptOutOfRange);
         }
         EXPECT_EQ(window.Siatka.Revision(), revision);
         EXPECT_EQ(NamesOf(window), "ABCD");

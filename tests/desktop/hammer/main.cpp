@@ -93,6 +93,7 @@ private:
     }
 
     void Step() {
+        desktop_.dispatch.RunWaiting();
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
         const std::size_t most = replay_.empty() ? std::size_t(options_.actions) : replay_.size();

@@ -1,39 +1,20 @@
 """One analysis from the sample to the saved diagram, with keyboard and mouse on the built program; then the
 two ends of a run that nobody asked for. Usage: journey.py PROGRAM SAMPLES GOLDEN"""
 
-import os
 import pathlib
 import shutil
 import signal
+import subprocess
 import sys
 import tempfile
 import time
 
+from files import expect_bytes, expect_golden
 from screen import Failed, Program, keys, screenshot, type_text, wait_for
 
 program_path, samples, golden = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
 folder = pathlib.Path(tempfile.mkdtemp())
 documents = pathlib.Path.home() / "Documents" / "Dorvan rescued documents"
-
-
-def expect_bytes(path, expected):
-    wait_for(f"file {path}", path.exists)
-    time.sleep(0.2)
-    actual = path.read_bytes()
-    if actual == expected:
-        return
-    place = next((i for i, (a, b) in enumerate(zip(actual, expected)) if a != b),
-                 min(len(actual), len(expected)))
-    raise Failed(f"{path.name} differs at offset {place}: {actual[place:place + 40]!r}, "
-                 f"not {expected[place:place + 40]!r}")
-
-
-def expect_golden(path):
-    wait_for(f"file {path}", path.exists)
-    time.sleep(0.2)
-    if os.environ.get("JOURNEY_ACCEPT"):
-        shutil.copy(path, golden / path.name)
-    expect_bytes(path, (golden / path.name).read_bytes())
 
 
 def edits_the_sheet(dorvan):
@@ -79,7 +60,7 @@ def makes_a_matrix(dorvan):
     screenshot("matrix.png")
     keys("ctrl+s")
     dorvan.choose_file("Dorvan - Save matrix As", str(folder / "towns.mtx"))
-    expect_golden(folder / "towns.mtx")
+    expect_golden(folder / "towns.mtx", golden)
     keys("alt+f", "c")  # a saved matrix asks all the same
     wait_for("question", lambda: dorvan.has_label("The matrix in ["))
     keys("alt+n")
@@ -111,7 +92,7 @@ def makes_a_diagram(dorvan):
         dorvan.expect_cell("Diagram", row, 1, name)
     keys("ctrl+s")
     dorvan.choose_file("Dorvan - Save diagram As", str(folder / "towns.dgr"))
-    expect_golden(folder / "towns.dgr")
+    expect_golden(folder / "towns.dgr", golden)
 
 
 def closes_and_reopens(dorvan):
@@ -200,8 +181,42 @@ def a_termination():
         (documents / rescued()[0]).unlink()
 
 
+def kind_of_image(path):
+    return subprocess.run(["identify", "-format", "%m %wx%h %z", str(path)], capture_output=True, text=True).stdout
+
+
+def pictures_of_a_diagram():
+    """Histogram, linear graph and bitmap; what is saved opens in another program."""
+    dorvan = Program(program_path, str(folder / "towns.dgr"))
+    try:
+        dorvan.expect_cell("Diagram", 0, 1, "Name")
+        dorvan.push("Histogram")
+        dorvan.wait_for_window("Histogram")
+        dorvan.push("Check")
+        screenshot("histogram.png")
+        dorvan.push("OK")
+        dorvan.wait_for_no_window("Histogram")
+        dorvan.push("Linear")
+        dorvan.wait_for_window("Linear graph")
+        screenshot("linear.png")
+        dorvan.push("OK")
+        dorvan.wait_for_no_window("Linear graph")
+        dorvan.push("Export bitmap graphic")
+        screenshot("bitmap.png")
+        for name, kind in (("towns.bmp", "BMP3"), ("towns.tif", "TIFF"), ("towns.png", "PNG")):
+            dorvan.push("SaveAs")
+            dorvan.choose_file("Dorvan - Save bitmap As", str(folder / name))
+            wait_for(f"image {name}", (folder / name).exists)
+            time.sleep(0.3)
+            if kind_of_image(folder / name) != f"{kind} 527x400 8":
+                raise Failed(f"{name} is {kind_of_image(folder / name)!r}")
+    finally:
+        dorvan.kill()
+
+
 try:
     one_analysis()
+    pictures_of_a_diagram()
     a_run_time_failure()
     a_termination()
 except Failed as failure:

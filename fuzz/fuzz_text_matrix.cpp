@@ -1,0 +1,9 @@
+#include "imports.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    dorvan::fuzz::checkTextMatrix({reinterpret_cast<const char*>(data), size});
+    return 0;
+}

@@ -1,0 +1,36 @@
+#include "cli/subcommands.h"
+
+namespace dorvan::cli {
+
+// Each in a file of its own, <name>_subcommand.cpp.
+Subcommand MatrixSubcommand();
+Subcommand DiagramSubcommand();
+Subcommand ConvertSubcommand();
+Subcommand InfoSubcommand();
+Subcommand PictureSubcommand();
+Subcommand DeriveSubcommand();
+Subcommand RetypeSubcommand();
+Subcommand ExportSubcommand();
+Subcommand ImportSubcommand();
+Subcommand StandardizeSubcommand();
+
+std::vector<Subcommand> Subcommands() {
+    return {
+        // making
+        MatrixSubcommand(),
+        DiagramSubcommand(),
+        // documents
+        ConvertSubcommand(),
+        InfoSubcommand(),
+        StandardizeSubcommand(),
+        DeriveSubcommand(),
+        RetypeSubcommand(),
+        // input
+        ImportSubcommand(),
+        // output
+        ExportSubcommand(),
+        PictureSubcommand(),
+    };
+}
+
+} // namespace dorvan::cli

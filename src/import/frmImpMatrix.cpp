@@ -1,0 +1,42 @@
+#include "import/frmImpMatrix.h"
+
+#include "import/separators.h"
+#include "numbers/number_text.h"
+#include "numbers/runtime_failure.h"
+
+namespace dorvan {
+
+void frmImpMatrix::Form_Load() {
+    chkFirstCol.Value = ImpMatrixFirstColumn;
+    optDist.Value = true;
+}
+
+void frmImpMatrix::Form_Show() {
+    optSep1.Value = ImpMatrixSeparator == SemicolonSeparator;
+    optSep2.Value = ImpMatrixSeparator == TabSeparator;
+}
+
+void frmImpMatrix::Command3_Click() {
+    ChooseFile(Label1, FileFiltersOf("txt", "txt"), " - Select txt matrix file");
+}
+
+// False when the text is no number of 16 bits.
+bool frmImpMatrix::TakePrecision() {
+    try {
+        ImpMatrixPrecision = StrictInt16(txtPrecision.Text, session_.DecimalSeparator);
+        return true;
+    } catch (const RuntimeFailure&) {
+        Tell("Invalid precision");
+        return false;
+    }
+}
+
+void frmImpMatrix::Command1_Click() {
+    if (!HasFile(Label1) || !TakePrecision()) return;
+    ImpMatrixSeparator = optSep2.Value ? TabSeparator : SemicolonSeparator;
+    ImpMatrixFirstColumn = chkFirstCol.Value;
+    ImpMatrixPath = Label1.Caption;
+    Close(DialogResult::Accepted);
+}
+
+} // namespace dorvan

@@ -1,0 +1,26 @@
+#include "import/frmImportText.h"
+
+#include "import/separators.h"
+
+namespace dorvan {
+
+void frmImportText::Form_Load() {
+    Option1.Value = true;
+    Check1.Value = true;
+    Check2.Value = true;
+}
+
+void frmImportText::Command3_Click() {
+    ChooseFile(Label1, FileFiltersOf("text csv", "csv"), " - Select csv/txt file");
+}
+
+void frmImportText::Command2_Click() {
+    if (!HasFile(Label1)) return;
+    session_.MatrixTextSeparator = Option3.Value ? TabSeparator : SemicolonSeparator;
+    ImportFirstRowNames = Check1.Value;
+    ImportFirstColumnNames = Check2.Value;
+    ImportPath = Label1.Caption;
+    Close(DialogResult::Accepted);
+}
+
+} // namespace dorvan

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "session/session.h"
+
+// What the commands and dialogs that change the shape of a sheet share. They work on the names of the
+// variables in the session's `VariableNames`.
+namespace dorvan {
+
+// Takes the names out of the header of the active sheet, without the spaces at both ends.
+void TakeVariableNames(Session& session);
+
+// The list shows the names, the one at `selected` selected, from 0.
+void ShowVariableNames(const Session& session, ListBox& list, int selected);
+
+// Writes the names into the header, without the spaces at both ends.
+void WriteVariableNames(Session& session);
+
+// The document of the active sheet has changed.
+void MarkSheetChanged(Session& session);
+
+} // namespace dorvan

@@ -1,0 +1,129 @@
+#include "sheet/sheet_values.h"
+#include "sheet/structure_commands.h"
+
+#include "numbers/text.h"
+#include "session/busy.h"
+#include "sheet/add_dialogs.h"
+#include "sheet/frmDeleteVar.h"
+#include "sheet/frmNotePad.h"
+#include "sheet/frmVar.h"
+#include "sheet/sheet_structure.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace dorvan {
+
+using namespace DocumentGrid;
+
+namespace {
+
+// Only equality is refused: a larger sheet, which a file or the dialog makes, is not.
+constexpr int RecordsRefused = 150;
+constexpr int VariablesRefused = 100;
+
+template <class Dialog> bool AskForCount(Session& session, int& count) {
+    auto& dialog = session.forms.Load<Dialog>(session);
+    dialog.PendingAddCount = 0;
+    const bool accepted = Accepted<Dialog>(session);
+    count = dialog.PendingAddCount;
+    return accepted;
+}
+
+void GiveEmptyColumn(Grid& grid, int variable) {
+    const int column = ValueColumn(variable);
+    grid.SetText(HeaderRow, column, "VAR" + SignedText(variable));
+    grid.SetColumnWidth(column, grid.ColumnWidth(column - 1));
+    grid.SetHeaderAlignment(column, Alignment::Centre);
+    grid.SetColumnAlignment(column, Alignment::Centre);
+}
+
+bool AsksToDelete(Session& session, int record) {
+    return session.platform.messages.show(
+               {.Text = fmt::format("Delete record number {}?", SignedText(record)),
+                .Buttons = MessageButtons::YesNo,
+                .Title = "Delete"}) == Answer::Yes;
+}
+
+void RemoveRecord(frmNotePad& sheet, int record) {
+    Grid& grid = sheet.Grid1;
+    if (sheet.RecordCount() == 1) {
+        for (int column = NameColumn; column < grid.Columns(); ++column) grid.SetText(record, column, {});
+        return;
+    }
+    grid.RemoveRow(record);
+    for (int row = 1; row <= sheet.RecordCount(); ++row) grid.SetText(row, NumberColumn, SignedText(row));
+}
+
+} // namespace
+
+void AddRecord(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    frmNotePad& sheet = ActiveDataWindow(session);
+    if (sheet.RecordCount() == RecordsRefused) {
+        session.platform.signals.beep();
+        session.platform.messages.show({.Text = "Max. 150 records!"});
+        return;
+    }
+    int count = 0;
+    if (!AskForCount<frmAddRec>(session, count)) return;
+    const int before = sheet.RecordCount();
+    DocumentGrid::SetSize(sheet.Grid1, before + count, sheet.VariableCount());
+    for (int record = before + 1; record <= before + count; ++record)
+        sheet.Grid1.SetText(record, NumberColumn, SignedText(record));
+    if (count > 0) sheet.Grid1.SetCurrent(before + count, NumberColumn);
+    MarkSheetChanged(session);
+}
+
+void AddVariable(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    frmNotePad& sheet = ActiveDataWindow(session);
+    if (sheet.VariableCount() == VariablesRefused) {
+        session.platform.signals.beep();
+        session.platform.messages.show({.Text = "You cannot define more than 100 variables in a data sheet!",
+                                        .Icon = MessageIcon::Critical});
+        return;
+    }
+    int count = 0;
+    if (!AskForCount<frmAddVar>(session, count)) return;
+    const int before = sheet.VariableCount();
+    DocumentGrid::SetSize(sheet.Grid1, sheet.RecordCount(), before + count);
+    for (int variable = before + 1; variable <= before + count; ++variable)
+        GiveEmptyColumn(sheet.Grid1, variable);
+    if (count > 0) sheet.Grid1.SetCurrent(HeaderRow, ValueColumn(before + count));
+    MarkSheetChanged(session);
+}
+
+void DeleteRecord(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    frmNotePad& sheet = ActiveDataWindow(session);
+    Grid& grid = sheet.Grid1;
+    const int row = grid.Row();
+    if (row < 1) session.platform.signals.beep();
+    if (sheet.RecordCount() >= 1 && row > 0) {
+        if (AsksToDelete(session, row)) {
+            session.Of<SheetValues>().SuppressCommit = true;
+            RemoveRecord(sheet, row);
+            grid.SetCurrent(grid.Row(), std::min(FirstValueColumn, grid.Columns() - 1));
+            MarkSheetChanged(session);
+        }
+    } else {
+        session.platform.messages.show({.Text = "Brak wierszy do usunięcia"});
+    }
+    sheet.SetFocus(grid);
+}
+
+void EditVariables(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    session.platform.forms.showModal(session.forms.Load<frmVar>(session));
+    session.forms.Unload<frmVar>();
+}
+
+void DeleteVariable(Session& session) {
+    if (RefusedWhileBusy(session)) return;
+    session.platform.forms.showModal(session.forms.Load<frmDeleteVar>(session));
+    session.forms.Unload<frmDeleteVar>();
+}
+
+} // namespace dorvan
