@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "platform/printer.h"
 #include "session/session.h"
 
 #include <functional>
@@ -25,7 +26,8 @@ struct SilentPorts : MessageBoxes,
                      HelpViewer,
                      TextMeasure,
                      Rasterizer,
-                     PictureClipboard {
+                     PictureClipboard,
+                     Printer {
     using Section = std::vector<std::pair<std::string, std::string>>;
 
     std::function<void(Form&)> answerDialog = [](Form& form) { form.CancelCommand(); };
@@ -62,6 +64,18 @@ struct SilentPorts : MessageBoxes,
     PixelImage pixelsOf(const Drawing&) override { return {}; }
     void clear() override {}
     void put(const Drawing&) override {}
+    std::string deviceName() override { return {}; }
+    std::vector<std::string> deviceNames() override { return {}; }
+    void choose(const std::string&) override {}
+    int value(PrinterValue) override { return 0; }
+    void setValue(PrinterValue, int) override {}
+    bool showSetup(PrinterSetup&) override { return false; }
+    std::vector<std::string> fontNames() override { return {}; }
+    std::string fontName() override { return {}; }
+    void setFontName(const std::string&) override {}
+    double printableWidth() override { return 0; }
+    double printableHeight() override { return 0; }
+    void print(const Drawing&, const std::string&) override {}
 };
 
 // A started session over silent ports.
@@ -79,7 +93,8 @@ struct SilentSession : SilentPorts {
                       .help = *this,
                       .fonts = *this,
                       .raster = *this,
-                      .clipboard = *this};
+                      .clipboard = *this,
+                      .printer = *this};
     Session session{platform};
 
     SilentSession() {

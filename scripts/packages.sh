@@ -1,10 +1,10 @@
 # Sourced by ./run and ./test: installs the Debian packages that are missing, quietly, and nothing when all are
 # there. Needs root or sudo only if something is missing.
 
-BUILD_PACKAGES="g++ cmake ninja-build ccache libfmt-dev libcli11-dev libfreeimage-dev qt6-base-dev qt6-svg-dev libqt6svg6 libgl1-mesa-dev
+BUILD_PACKAGES="g++ cmake ninja-build ccache libfmt-dev libcli11-dev libfreeimage-dev libeigen3-dev qt6-base-dev qt6-svg-dev libqt6svg6 libgl1-mesa-dev
     qt6-qpa-plugins fonts-liberation cmark-gfm"
 TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev locales xvfb xauth openbox xdotool dbus dbus-daemon
-    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick desktop-file-utils appstream lintian man-db"
+    at-spi2-core python3 python3-pyatspi gir1.2-atspi-2.0 imagemagick desktop-file-utils poppler-utils appstream lintian man-db"
 
 say() { printf '== %s\n' "$*"; }
 

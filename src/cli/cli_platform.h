@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/offscreen_drawing.h"
+#include "cli/pdf_file_printer.h"
 #include "platform/platform.h"
 
 #include <functional>
@@ -37,7 +38,9 @@ public:
     bool answersYes = false;           // to a question of Yes or No; any other one is a refusal
     std::vector<std::string> messages; // in one line each
     OffscreenDrawing drawing;
+    PdfFilePrinter printer{drawing};
     std::string fileToOpen; // what the dialog for opening answers
+    std::string fileToSave; // and the one for saving
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
     template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {
@@ -59,11 +62,12 @@ public:
                       .help = *this,
                       .fonts = drawing,
                       .raster = drawing,
-                      .clipboard = *this};
+                      .clipboard = *this,
+                      .printer = printer};
 
     Answer show(const Message& message) override;
     std::string toOpen(const FileRequest&) override { return fileToOpen; }
-    std::string toSave(const FileRequest&) override { return {}; }
+    std::string toSave(const FileRequest&) override { return fileToSave; }
     void showModal(Form& form) override;
     void show(Form& form) override;
     void update(Form& form) override;

@@ -59,7 +59,7 @@ void AddQuality(Lines& lines, const FloatTable& distances, char separator) {
 long MissingValues(const frmNotePad& sheet) {
     long missing = 0;
     for (int row = 1; row <= sheet.RecordCount(); ++row)
-        for (int column = 2; column < sheet.Grid1.Columns(); ++column)
+        for (int column = DocumentGrid::FirstValueColumn; column < sheet.Grid1.Columns(); ++column)
             if (sheet.Grid1.Text(row, column) == NaText) ++missing;
     return missing;
 }

@@ -79,6 +79,19 @@ void Run::Make(const std::string& button, std::string_view kind, const std::stri
     if (Kind() != kind) throw Refused(otherwise);
 }
 
+void Run::Write(const std::string& item, const std::string& path) {
+    ports.fileToSave = path;
+    const std::size_t remarks = ports.messages.size();
+    try {
+        mainWindow.MenuClick(item);
+    } catch (const RuntimeFailure& failure) {
+        throw SaveFailure(failure.what());
+    }
+    if (ports.messages.size() > remarks) throw SaveFailure(ports.messages.back());
+    const std::string& silentFailure = session.Of<FileValues>().SilentFailure;
+    if (!silentFailure.empty()) throw SaveFailure(path + ": " + silentFailure);
+}
+
 void Run::Save(const std::string& path) {
     const std::int16_t slot = session.ActiveWindow->Index;
     try {

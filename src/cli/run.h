@@ -50,6 +50,9 @@ struct Run {
     // Clicks a button of toolMain, and expects that a window of the kind is active then.
     void Make(const std::string& button, std::string_view kind, const std::string& otherwise);
 
+    // Chooses a menu item that writes the file `path`; fails where it could not.
+    void Write(const std::string& item, const std::string& path);
+
     // Saves the active document under the path.
     void Save(const std::string& path);
 

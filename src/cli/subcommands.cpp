@@ -11,6 +11,7 @@ Subcommand PictureSubcommand();
 Subcommand DeriveSubcommand();
 Subcommand RetypeSubcommand();
 Subcommand ExportSubcommand();
+Subcommand PrintSubcommand();
 Subcommand ImportSubcommand();
 Subcommand StandardizeSubcommand();
 
@@ -29,6 +30,7 @@ std::vector<Subcommand> Subcommands() {
         ImportSubcommand(),
         // output
         ExportSubcommand(),
+        PrintSubcommand(),
         PictureSubcommand(),
     };
 }

@@ -3,6 +3,7 @@
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 #include "platform/twips.h"
+#include "session/busy.h"
 #include "session/children.h"
 
 #include <QCloseEvent>
@@ -33,7 +34,7 @@ GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
     bindings_->Plain(grid_, grid, accessibleName);
     bindings_->Also([shown = grid_] { shown->Mirror(); });
     // A computation reads the sheet by way of its current cell; what the user looks at stays in view then.
-    grid_->follows = [this] { return session_.ActiveWindow == window_ && session_.DiagramBusy != 1; };
+    grid_->follows = [this] { return session_.ActiveWindow == window_ && !IsBusy(session_); };
     return *grid_;
 }
 

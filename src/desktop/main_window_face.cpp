@@ -3,13 +3,16 @@
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 #include "session/menus.h"
+#include "session/status_bar.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QKeySequence>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -53,6 +56,7 @@ MainWindowFace::MainWindowFace(Session& session, frmMDI& shell, EventDispatch& d
         BuildMenu(*this, *menu, item.Items);
     }
     BuildToolbars();
+    BuildStatusBar();
     dispatch_.AddMirror(this, [this] { Mirror(); });
     Mirror();
 }
@@ -115,6 +119,15 @@ void MainWindowFace::BuildToolbars() {
     }
 }
 
+void MainWindowFace::BuildStatusBar() {
+    status_ = new QLabel(statusBar());
+    status_->setObjectName("StatusText");
+    status_->setAccessibleName("Status");
+    status_->setTextFormat(Qt::PlainText);
+    statusBar()->setObjectName("StatusBar");
+    statusBar()->addWidget(status_, 1);
+}
+
 void MainWindowFace::MirrorToolbars() {
     for (const auto& [name, bar] : toolbars_)
         if (const bool shown = session_.mainWindow.ToolbarShown(name); bar->isHidden() == shown)
@@ -150,6 +163,7 @@ void MainWindowFace::Mirror() {
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }
     MirrorToolbars();
+    if (const QString text = ToQt(StatusText(session_)); status_->text() != text) status_->setText(text);
 }
 
 void MainWindowFace::PopUp(const std::string& menu, QPoint global) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 class QAction;
+class QLabel;
 class QMdiArea;
 class QMenu;
 class QToolBar;
@@ -38,12 +39,14 @@ private:
     void BuildMenu(QWidget& parent, QMenu& menu, const std::vector<MenuItem>& items);
     QAction* BuildItem(QMenu& menu, const MenuItem& item);
     void BuildToolbars();
+    void BuildStatusBar();
     void MirrorToolbars();
 
     Session& session_;
     frmMDI& shell_;
     EventDispatch& dispatch_;
     QMdiArea* area_;
+    QLabel* status_ = nullptr;
     std::vector<std::pair<std::string, QAction*>> items_;
     std::vector<std::pair<std::string, QMenu*>> menus_;
 

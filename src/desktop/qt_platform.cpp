@@ -33,14 +33,6 @@ constexpr qint64 MillisecondsBetweenRuns = 8;
 constexpr QSize FileDialogSize(760, 480);
 constexpr int CascadeGap = 6; // pixels, below a title
 
-// Over the window that the user works in.
-QWidget* ParentOfDialogs() {
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == "frmMDI") return window;
-    return nullptr;
-}
-
 QMessageBox::Icon ToQt(MessageIcon icon) {
     switch (icon) {
     case MessageIcon::Critical: return QMessageBox::Critical;
@@ -78,6 +70,13 @@ private:
 };
 
 } // namespace
+
+QWidget* ParentOfDialogs() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frmMDI") return window;
+    return nullptr;
+}
 
 Answer QtMessages::show(const Message& message) {
     dispatch_.Mirror();

@@ -2,6 +2,7 @@
 
 #include "desktop/child_faces.h"
 #include "desktop/form_faces.h"
+#include "desktop/qt_printer.h"
 #include "painting/rasterizer.h"
 #include "painting/text_measure.h"
 #include "platform/platform.h"
@@ -18,6 +19,9 @@ class QFileDialog;
 
 // The ports on a real screen.
 namespace dorvan {
+
+// The window that the user works in: dialogs come up over it.
+QWidget* ParentOfDialogs();
 
 class QtMessages : public MessageBoxes {
 public:
@@ -154,7 +158,8 @@ public:
 // All of them, for one run.
 struct QtPlatform {
     explicit QtPlatform(EventDispatch& dispatch)
-        : messages(dispatch), files(dispatch), forms(dispatch), events(dispatch, forms), keyboard(dispatch) {}
+        : messages(dispatch), files(dispatch), forms(dispatch), events(dispatch, forms), keyboard(dispatch),
+          printer(dispatch, files) {}
 
     QtMessages messages;
     QtFiles files;
@@ -170,6 +175,7 @@ struct QtPlatform {
     painting::QtTextMeasure fonts;
     painting::QtRasterizer raster;
     QtClipboard clipboard;
+    QtPrinter printer;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -183,7 +189,8 @@ struct QtPlatform {
                       .help = help,
                       .fonts = fonts,
                       .raster = raster,
-                      .clipboard = clipboard};
+                      .clipboard = clipboard,
+                      .printer = printer};
 };
 
 } // namespace dorvan

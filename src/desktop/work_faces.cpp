@@ -1,4 +1,5 @@
 #include "desktop/form_faces.h"
+#include "making/frmBestOrder.h"
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "platform/twips.h"
@@ -22,15 +23,19 @@ QLabel* AddFigure(FormFace& face, const Label& label) {
     return shown;
 }
 
+QProgressBar* AddBar(FormFace& face, const Bar& track, const Bar& filled) {
+    auto* bar = new QProgressBar(&face);
+    bar->setTextVisible(false);
+    bar->setFixedWidth(PixelsOf(int(track.Width)));
+    face.Binder().Progress(bar, track, filled, "Progress");
+    return bar;
+}
+
 void LayOut(FormFace& face, frmWork& form) {
     auto* percent = AddFigure(face, form.InfoString);
     percent->setAlignment(Qt::AlignHCenter);
     face.Column().addWidget(percent);
-    auto* bar = new QProgressBar(&face);
-    bar->setTextVisible(false);
-    bar->setFixedWidth(PixelsOf(int(form.Procent.Width)));
-    face.Binder().Progress(bar, form.Procent, form.Procent1, "Progress");
-    face.Column().addWidget(bar);
+    face.Column().addWidget(AddBar(face, form.Procent, form.Procent1));
     auto* rows = face.AddRows();
     face.AddRow(rows, form.Label1, AddFigure(face, form.InfoTime));
     face.AddRow(rows, form.Label2, AddFigure(face, form.lblFunkcja));
@@ -56,6 +61,14 @@ void LayOut(FormFace& face, frmWorkUM& form) {
     face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
 }
 
+void LayOut(FormFace& face, frmBestOrder& form) {
+    face.Column().addWidget(AddBar(face, form.Procent, form.Procent1));
+    auto* rows = face.AddRows();
+    face.AddRow(rows, form.Label1, AddFigure(face, form.lblCriterion));
+    face.AddButtons({{&form.Command1, [&form] { form.Command1_Click(); }}});
+}
+
+const FaceOfForm<frmBestOrder> registeredBestOrder(LayOut);
 const FaceOfForm<frmWork> registeredWork(LayOut);
 const FaceOfForm<frmWorkUM> registeredWorkUM(LayOut);
 

@@ -34,6 +34,10 @@ public:
     void SaveMatrix(const std::string& path);
     void SaveMatrixNew(const std::string& path);
 
+    void ExportMatrix(); // to delimited text
+    void ExportMatrixToExcel();
+    void PrintMatrix();
+
     void Form_Activate() override;
     void Form_Deactivate() override;
     bool Form_QueryUnload() override;

@@ -2,7 +2,6 @@
 
 #include "making/order_scorer.h"
 #include "making/order_scores.h"
-#include "numbers/runtime_failure.h"
 
 #include <algorithm>
 #include <numeric>
@@ -21,7 +20,6 @@ public:
     Evolution(const FloatTable& distances, OrderingOptions& options, RandomSource& random)
         : n_(distances.Rows()), options_(options), random_(random), scorer_(ScoreDenominators(distances)),
           best_(std::size_t(n_)), exchanges_(std::max(1, n_ / 10)) {
-        if (options.GeneticVariants < 1) throw RuntimeFailure(Failure::SubscriptOutOfRange);
         std::iota(best_.begin(), best_.end(), std::int16_t(1));
         variants_.resize(std::size_t(options.GeneticVariants) * std::size_t(n_));
         fitness_.resize(std::size_t(options.GeneticVariants));
@@ -51,7 +49,6 @@ private:
     Row Variant(std::size_t v) { return {variants_.data() + (v - 1) * std::size_t(n_), std::size_t(n_)}; }
 
     void BeginGeneration() {
-        if (options_.GeneticGenerations == 0) throw RuntimeFailure(Failure::DivisionByZero);
         ++progress_.Generation;
         progress_.Percent =
             static_cast<float>(double(progress_.Generation) / double(options_.GeneticGenerations) * 100.0);
@@ -60,15 +57,12 @@ private:
     }
 
     // The first row is the parent. Each other one is made n times from it, with new draws, and only the last
-    // time counts. With 2 records an exchange can fail, so there none is passed over.
+    // time counts.
     void MakeVariants() {
         std::copy(best_.begin(), best_.end(), Variant(1).begin());
         const auto lost = static_cast<std::uint64_t>(n_ - 1);
         for (std::size_t v = 2; v <= fitness_.size(); ++v) {
-            if (n_ > 2)
-                random_.Skip(lost * static_cast<std::uint64_t>(exchanges_) * DrawsOfExchange);
-            else
-                for (std::uint64_t repetition = 0; repetition < lost; ++repetition) MakeVariant(Variant(v));
+            random_.Skip(lost * static_cast<std::uint64_t>(exchanges_) * DrawsOfExchange);
             MakeVariant(Variant(v));
         }
     }
@@ -84,7 +78,6 @@ private:
         const std::int32_t a = kind == 1 ? RandomInRange(random_, 1, n_) : RandomInRange(random_, 2, n_ - 1);
         const std::int32_t b =
             kind == 1 ? RandomInRange(random_, 1, n_) : RandomInRange(random_, a - 1, a + 1);
-        if (a > n_ || b > n_) throw RuntimeFailure(Failure::SubscriptOutOfRange);
         std::swap(row[std::size_t(a - 1)], row[std::size_t(b - 1)]);
     }
 

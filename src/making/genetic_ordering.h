@@ -26,10 +26,12 @@ using GeneticYield = std::function<int(GeneticProgress&)>;
 struct FoundOrder {
     Order BestOrder; // 1..n
     float Score = 0; // 0 where no generation was scored
+    bool BetterWasSeen =
+        false; // the Ravelin ordering gives the order of the sheet, and has seen a better one
 };
 
 // An evolution with one parent: each generation makes variants of the best order so far by random exchanges
-// and keeps the best. `distances` (1..n, 1..n), n from 2 on. Ends after GeneticGenerations generations, when
+// and keeps the best. `distances` (1..n, 1..n), n from 3 on. Ends after GeneticGenerations generations, when
 // cancelled (the flag is taken back), or when no window is open.
 //
 // The variants are scored side by side; of the repetitions in which a variant is made anew n times, only the

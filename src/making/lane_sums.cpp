@@ -109,7 +109,9 @@ DORVAN_INLINE Outcome Accept(Sums& state, const Pair (&shifted)[Pairs], const Bi
 // leaves its binade or the way does not hold.
 //
 // On the grid: the terms rounded to 2^-22 units, which makes those half way exact. If all denominators are
-// small integers no other quotient is so near, since it is off by 2^-9 units or more.
+// small integers no other quotient is so near: a quotient a / d that is not half way is off by 1 / (2 d)
+// units or more, by 1 / (d * unit) units where the unit is above 2. With d up to 256 that is 2^-9 units for
+// units up to 2, 2^-13 at 250 records, where the unit goes up to 32, and 2^-17 at 512.
 //
 // With a look at each: otherwise, a quotient that is not half way is off by at least 2^-48 of itself, since
 // quotient * denominator would have at most 24 + 24 bits. So a product that is half way exactly is such a

@@ -9,6 +9,7 @@
 #include "making/ordering_options.h"
 #include "making/paint_pace.h"
 #include "making/ravelin_ordering.h"
+#include "session/status_bar.h"
 
 #include <utility>
 
@@ -70,6 +71,9 @@ Order RunSimpleGenetic(Session& session, const FloatTable& distances) {
     return std::move(found.BestOrder);
 }
 
+constexpr const char* OrderOfTheSheet = "The order of the sheet was kept: no generation beat the first; try "
+                                        "another seed or coefficient";
+
 Order RunRavelin(Session& session, const FloatTable& distances) {
     Watch<frmWorkUM> watch(session);
     const RavelinHooks hooks{.yield = [&watch](RavelinProgress& progress) { return watch.Yield(progress); },
@@ -79,7 +83,9 @@ Order RunRavelin(Session& session, const FloatTable& distances) {
                                      session.platform.messages.show({.Text = "Error - Min invalid value"});
                                  },
                              .decimalSeparator = session.DecimalSeparator};
-    return RavelinOrder(distances, session.Of<OrderingOptions>(), session.random, hooks).BestOrder;
+    FoundOrder found = RavelinOrder(distances, session.Of<OrderingOptions>(), session.random, hooks);
+    StatusText(session) = found.BetterWasSeen ? OrderOfTheSheet : "";
+    return std::move(found.BestOrder);
 }
 
 } // namespace

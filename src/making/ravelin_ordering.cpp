@@ -103,7 +103,7 @@ public:
             RunMutations();
             EndGeneration();
         } while (generationsLost_ != options_.CriticalGenerationNumber);
-        return {OrderOf(best_), bestUm_};
+        return {OrderOf(best_), bestUm_, seenBetter_ && !gained_};
     }
 
 private:
@@ -170,6 +170,7 @@ private:
         progress_.Trial = trial;
         if (double(trial) < base_) {
             base_ = double(trial);
+            seenBetter_ = true;
             mutationsLost_ = 0;
             current_.assign(order.begin(), order.end());
             ahead_.Drop();
@@ -197,6 +198,7 @@ private:
             generationsLost_ = 0;
             bestUm_ = static_cast<float>(base_);
             best_ = current_;
+            gained_ = true;
             baseOfBest_.reset();
         }
         progress_.BestUm = bestUm_;
@@ -217,6 +219,8 @@ private:
     std::optional<double> baseOfBest_;
     double base_ = 0; // what a mutation has to beat
     float bestUm_ = 0;
+    bool seenBetter_ = false; // than the order of the sheet
+    bool gained_ = false;     // a generation after the first has
     std::int32_t generation_ = 0;
     std::int32_t mutation_ = 0;
     std::int32_t mutationsLost_ = 0;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// The ports of drawings: what the program needs of fonts, of memory pictures, of the clipboard and of paper.
+// The ports of drawings: what the program needs of fonts, of memory pictures and of the clipboard.
 namespace dorvan {
 
 struct TextExtent { // twips
@@ -40,12 +40,6 @@ struct PictureClipboard { // both throw std::runtime_error when the clipboard ca
     virtual ~PictureClipboard() = default;
     virtual void clear() = 0;
     virtual void put(const Drawing& drawing) = 0;
-};
-
-// Paper. A device pixel is a twip.
-struct Printer {
-    virtual ~Printer() = default;
-    virtual void print(const Drawing& pages, const std::string& documentName) = 0;
 };
 
 } // namespace dorvan

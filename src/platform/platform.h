@@ -6,6 +6,8 @@
 
 namespace dorvan {
 
+struct Printer;
+
 // All ports of one run. Made by named members, so a new port is a line here and one in each of those that
 // make it (the desktop, the command line, the tests' doubles, the benchmarks); the compiler names the ones
 // left out.
@@ -24,6 +26,7 @@ struct Platform {
     TextMeasure& fonts;
     Rasterizer& raster;
     PictureClipboard& clipboard;
+    Printer& printer;
 };
 
 // The wait cursor for as long as it lives.

@@ -1,3 +1,4 @@
+#include "making/best_order_run.h"
 #include "making/making_diagram.h"
 #include "making/ordering_runs.h"
 #include "program/registering.h"
@@ -7,6 +8,8 @@ namespace dorvan {
 void RegisterMakingOperations(Session& session) {
     Register(session, "MakeDiagram", MakeDiagram);
     AddGeneticOrderings(session);
+    session.commands.Set("PutInBestOrder",
+                         [&session](const CommandCall& call) { PutInBestOrder(session, call.Index); });
 }
 
 } // namespace dorvan

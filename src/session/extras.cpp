@@ -15,6 +15,10 @@ namespace dorvan {
 std::vector<CommandRow> ExtrasRows() {
     return {
         // Orders of diagrams
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasBestOrder",
+         .Caption = "&Best order",
+         .Calls = {.Diagram = "PutInBestOrder"}},
 
         // What a window shows
 

@@ -49,6 +49,9 @@ public:
     void EndRow();
     void Insert(); // to the grid's current row
 
+    // All records at once: the one at place `order(k)` goes to place k, and the selection with its record.
+    void TakeOrder(const Array1<std::int16_t>& order);
+
     // Permutes matrix, names and missing-value marks: place k takes what stands at place `RowOrder(k)`; then
     // classifies and repaints all. `Data` keeps its order. Fails with SubscriptOutOfRange for an order that
     // names a place outside 1 to n.
@@ -82,6 +85,9 @@ public:
     // Writes the file, after turning each "," of the description on the screen into ";" (a change of the
     // text). Says nothing and leaves `Dirty`; the result tells whether the file was written.
     bool SaveDiagramNew(const std::string& path);
+
+    void ExportDiagramToExcel();
+    void PrintDiagram();
 
     void Form_Load() override;
     void Form_Activate() override;

@@ -4,43 +4,14 @@
 #include "session/busy.h"
 #include "session/document_grid.h"
 #include "view/classes.h"
+#include "view/document_order.h"
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
 // Selecting a row and moving it: ordering by hand.
 namespace dorvan {
-
-namespace {
-
-template <class T> Array1<T> Reordered(const Array1<T>& values, const Array1<std::int16_t>& order) {
-    Array1<T> result(order.Count());
-    for (std::int32_t place = 1; place <= order.Count(); ++place) result(place) = values(order(place));
-    return result;
-}
-
-// Rows and columns alike.
-FloatTable Reordered(const FloatTable& matrix, const Array1<std::int16_t>& order) {
-    const std::int32_t count = order.Count();
-    FloatTable result(count, count);
-    for (std::int32_t row = 1; row <= count; ++row) {
-        const float* from = matrix.Row(order(row));
-        float* to = result.Row(row);
-        for (const std::int16_t place : order.Cells()) *to++ = from[place - 1];
-    }
-    return result;
-}
-
-void CheckOrder(const Array1<std::int16_t>& order, const DiagramDocument& document) {
-    const std::int32_t count = document.RecCount;
-    if (order.Count() != count || document.Matrix.Rows() < count || document.Matrix.Columns() < count)
-        throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's order");
-    for (const std::int16_t place : order.Cells())
-        if (place < 1 || place > count)
-            throw RuntimeFailure(Failure::SubscriptOutOfRange, "a diagram's order");
-}
-
-} // namespace
 
 void frmDiagram::SelectThisRow() {
     if (RefusedWhileBusy(session_)) return;
@@ -159,12 +130,20 @@ void frmDiagram::Insert() {
     LandOn(target);
 }
 
+void frmDiagram::TakeOrder(const Array1<std::int16_t>& order) {
+    if (RefusedWhileBusy(session_)) return;
+    const WaitCursor cursor(session_.platform);
+    const std::int16_t selected = SelectedRow;
+    RowOrder = order;
+    ApplyRowOrder();
+    if (RowSelected != 1) return;
+    const auto& places = RowOrder.Cells();
+    LandOn(static_cast<std::int16_t>(std::ranges::find(places, selected) - places.begin() + 1));
+}
+
 void frmDiagram::ApplyRowOrder() {
     auto& document = Document();
-    CheckOrder(RowOrder, document);
-    document.Matrix = Reordered(document.Matrix, RowOrder);
-    document.RecordNames = Reordered(document.RecordNames, RowOrder);
-    document.RecordHasNA = Reordered(document.RecordHasNA, RowOrder);
+    ReorderRecords(document, RowOrder);
     ClassifyDiagram(document);
     PaintNames();
     PaintCells();

@@ -21,7 +21,7 @@ struct ExcelRecord {
 };
 
 // The records of a file, to its end; an unfinished one at the end gets the opcode -1.
-inline std::vector<ExcelRecord> recordsOf(std::string_view bytes) {
+inline std::vector<ExcelRecord> excelRecordsOf(std::string_view bytes) {
     const auto word = [&](std::size_t place) {
         return static_cast<unsigned char>(bytes[place]) + 256 * static_cast<unsigned char>(bytes[place + 1]);
     };

@@ -61,7 +61,7 @@ TEST_F(Excel, FileWithoutCellsIsTheBeginTheFormatsAndTheEnd) {
     EXPECT_NE(excel.FileNumber, 0);
     EXPECT_EQ(excel.CloseFile(), 0);
     EXPECT_TRUE(matchesGolden(fileBytes(path), "export/golden/empty.xls"));
-    const auto records = recordsOf(fileBytes(path));
+    const auto records = excelRecordsOf(fileBytes(path));
     ASSERT_EQ(records.size(), 1u + 1u + 24u + 1u);
     EXPECT_EQ(records.front(), (ExcelRecord{9, bytesOf({2, 0, 10, 0})}));
     EXPECT_EQ(records[1], (ExcelRecord{31, bytesOf({23, 0})}));
@@ -71,7 +71,7 @@ TEST_F(Excel, FileWithoutCellsIsTheBeginTheFormatsAndTheEnd) {
 TEST_F(Excel, The24FormatsStandInTheirOrder) {
     create();
     excel.CloseFile();
-    const auto records = recordsOf(fileBytes(path));
+    const auto records = excelRecordsOf(fileBytes(path));
     const std::vector<std::string> formats = {"General",
                                               "0",
                                               "0.00",
@@ -142,7 +142,7 @@ TEST_F(Excel, ValuesAreConvertedToTheTypeOfTheCell) {
     EXPECT_EQ(write(CellType::Text, -7), 0);
     EXPECT_EQ(write(CellType::Text, 0.1), 0);
     EXPECT_EQ(write(CellType::Text, 1e15), 0);
-    const auto records = recordsOf(closed());
+    const auto records = excelRecordsOf(closed());
     ASSERT_EQ(records.size(), 7u);
     EXPECT_EQ(records[0].content.substr(7), bytesOf({2, 0}));
     EXPECT_EQ(records[1].content.substr(7), bytesOf({4, 0}));
@@ -162,7 +162,7 @@ TEST_F(Excel, ConversionFollowsTheLocale) {
     EXPECT_EQ(comma.WriteValue(CellType::Number, 0, 3, 0, 1, 2, "1.5"), TypeMismatch);
     EXPECT_EQ(comma.WriteValue(CellType::Text, 0, 3, 0, 1, 3, 1.5), 0);
     comma.CloseFile();
-    const auto records = recordsOf(fileBytes(path));
+    const auto records = excelRecordsOf(fileBytes(path));
     ASSERT_EQ(records.size(), 26u + 2u + 1u);
     EXPECT_EQ(records[26].content.substr(7), bytesOf({0, 0, 0, 0, 0, 0, 0xF8, 0x3F}));
     EXPECT_EQ(records[27].content.substr(7), "\3"
@@ -178,7 +178,7 @@ TEST_F(Excel, ValueThatIsNoNumberWritesNoRecordAndTheNextOneGoesOn) {
     EXPECT_EQ(write(CellType::Integer, 32768), Overflow);
     EXPECT_EQ(write(CellType::Integer, -32769.0), Overflow);
     EXPECT_EQ(write(CellType::Integer, 5), 0);
-    const auto records = recordsOf(closed());
+    const auto records = excelRecordsOf(closed());
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0].opcode, 2);
 }
@@ -195,7 +195,7 @@ TEST_F(Excel, TextOfOver255CharactersEndsTheOperation) {
     EXPECT_EQ(excel.SetHeader(longest + "x"), Overflow);
     EXPECT_EQ(excel.SetFooter(longest + "x"), Overflow);
     EXPECT_EQ(excel.SetFont(longest + "x", 10, 0), Overflow);
-    const auto records = recordsOf(closed());
+    const auto records = excelRecordsOf(closed());
     ASSERT_EQ(records.size(), 3u);
     EXPECT_EQ(records[0].content, bytesOf({0, 0, 0, 0, 0, 0, 3, 255}) + longest);
     EXPECT_EQ(records[1].content, bytesOf({0, 0, 0, 0, 0, 0, 3, 255}) + std::string(255, '\xBF'));

@@ -53,8 +53,8 @@ public:
         try {
             for (int k = 0; k < plan_.runs; ++k) {
                 start_ = Seconds();
-                const auto [order, score] = run();
-                trace.found.push_back({order, score, options.WorkCancelled});
+                const auto found = run();
+                trace.found.push_back({found.BestOrder, found.Score, options.WorkCancelled});
             }
         } catch (const RuntimeFailure& failure) {
             trace.failure = failure.Kind();

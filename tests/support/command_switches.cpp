@@ -79,11 +79,12 @@ char SignOf(const std::string& name, std::string_view kind, WindowPhase phase) {
 }
 
 // All items, all buttons of toolMain and all toolbars. (The buttons of the other toolbars come and go with
-// their bar; diagrams switch some of theirs by the selection.)
+// their bar; diagrams switch some of theirs by the selection. Items of the menu "Extras" have rules of their
+// own.)
 std::set<std::string> AllNames(const Session& session) {
     std::set<std::string> names;
     for (const auto& row : session.commands.Rows()) {
-        if (!row.Item.empty()) names.emplace(row.Item);
+        if (!row.Item.empty() && row.Menu != ExtrasMenu) names.emplace(row.Item);
         if (row.Button.Toolbar.empty()) continue;
         names.emplace(row.Button.Toolbar);
         if (row.Button.Toolbar == "toolMain") names.insert(ButtonName("toolMain", row.Button.Key));

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "session/session.h"
+#include "support/scripted_printer.h"
 #include "support/drawings.h"
 
 #include <deque>
@@ -139,6 +140,7 @@ struct TestPlatform {
     FixedMeasure fonts;
     BlankRasterizer raster;
     RecordingClipboard clipboard;
+    ScriptedPrinter printer;
     Platform platform{.messages = messages,
                       .files = files,
                       .forms = forms,
@@ -152,7 +154,8 @@ struct TestPlatform {
                       .help = help,
                       .fonts = fonts,
                       .raster = raster,
-                      .clipboard = clipboard};
+                      .clipboard = clipboard,
+                      .printer = printer};
 
     // No script is left over: call at the end of a test that scripts answers.
     void expectScriptsUsedUp() const;

@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -37,7 +38,8 @@ struct Options {
     unsigned seed = 1;
     std::string lists = std::filesystem::current_path();
     std::string replay;
-    bool keep = false; // the lists of all rounds
+    bool keep = false;                         // the lists of all rounds
+    std::chrono::steady_clock::time_point end; // also of the round that is under way then
 };
 
 [[noreturn]] void EndRound(int status, const std::string& why) {
@@ -97,7 +99,8 @@ private:
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
         const std::size_t most = replay_.empty() ? std::size_t(options_.actions) : replay_.size();
-        if (done_ >= most) EndRound(EXIT_SUCCESS, "");
+        const bool late = replay_.empty() && std::chrono::steady_clock::now() > options_.end;
+        if (late || done_ >= most) EndRound(EXIT_SUCCESS, "");
         const Action action = replay_.empty() ? user_.Next() : replay_[done_];
         ++done_;
         list_ << action.Line() << std::endl;
@@ -159,6 +162,7 @@ int main(int count, char** arguments) {
     if (!options.replay.empty()) return RunRound(options, {});
     QElapsedTimer time;
     time.start();
+    options.end = std::chrono::steady_clock::now() + std::chrono::seconds(options.seconds);
     std::size_t actions = 0;
     int rounds = 0;
     int designed = 0;

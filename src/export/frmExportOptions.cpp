@@ -1,0 +1,30 @@
+#include "export/frmExportOptions.h"
+
+namespace dorvan {
+
+frmExportOptions::frmExportOptions(Session& session)
+    : Form("frmExportOptions", "Export to text file options"), session_(session) {}
+
+// The tick does not follow `DataTextNames`.
+void frmExportOptions::Form_Load() {
+    Option1.Value = session_.DataTextSeparator == 1;
+    Option2.Value = session_.DataTextSeparator == 2;
+    Option3.Value = session_.DataTextSeparator == 3;
+    Check1.Value = true;
+}
+
+void frmExportOptions::Command1_Click() {
+    Hide();
+    session_.OutputDialogOutcome = -99;
+}
+
+void frmExportOptions::Command2_Click() {
+    if (Option1.Value) session_.DataTextSeparator = 1;
+    if (Option2.Value) session_.DataTextSeparator = 2;
+    if (Option3.Value) session_.DataTextSeparator = 3;
+    session_.DataTextNames = Check1.Value ? 1 : 0;
+    Hide();
+    session_.OutputDialogOutcome = 1;
+}
+
+} // namespace dorvan

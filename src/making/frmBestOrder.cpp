@@ -1,0 +1,19 @@
+#include "making/frmBestOrder.h"
+
+#include "making/best_order_run.h"
+
+namespace dorvan {
+
+frmBestOrder::frmBestOrder(Session& session) : Form("frmBestOrder", "Best order"), session_(session) {}
+
+void frmBestOrder::ShowProgress(const BestOrderProgress& progress) {
+    lblCriterion.Caption = CriterionText(progress.Criterion, session_.DecimalSeparator);
+    Procent1.Width = progress.Share * Procent.Width;
+}
+
+void frmBestOrder::Command1_Click() {
+    Cancelled = true;
+    session_.platform.forms.close(*this);
+}
+
+} // namespace dorvan
