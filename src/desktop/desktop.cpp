@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include "desktop/icons.h"
+#include "desktop/journal_keeper.h"
 #include "desktop/qt_text.h"
 #include "program/open_document.h"
 #include "program/program.h"
@@ -74,17 +75,19 @@ int RunDesktop(int argumentCount, char** arguments) {
     desktop.OfferGuide(GuidePage(QApplication::applicationDirPath()));
     EndOfRun endOfRun(desktop.session);
     desktop.dispatch.onEnd = [&endOfRun](const std::string& what) { endOfRun.OnFailure(what); };
-    desktop.dispatch.afterEvent = [&desktop] {
+    JournalKeeper journal(desktop.session, desktop.dispatch, StateFolder());
+    desktop.dispatch.afterEvent = [&] {
         if (!desktop.shell.EndOfRun()) return;
-        if (desktop.dispatch.Depth() == 0)
-            QApplication::quit();
-        else
-            std::quick_exit(EXIT_SUCCESS); // in the midst of a long work, which would go on otherwise
+        if (desktop.dispatch.Depth() == 0) return QApplication::quit();
+        journal.EndCleanly();
+        std::quick_exit(EXIT_SUCCESS); // in the midst of a long work, which would go on otherwise
     };
     desktop.Show();
     for (const auto& file : files) desktop.Open(file);
-    if (desktop.shell.EndOfRun()) return EXIT_SUCCESS;
-    return QApplication::exec();
+    journal.OfferLeftDocuments();
+    const int status = desktop.shell.EndOfRun() ? EXIT_SUCCESS : QApplication::exec();
+    journal.EndCleanly();
+    return status;
 }
 
 } // namespace dorvan

@@ -1,19 +1,20 @@
 #include "desktop/end_of_run.h"
 
 #include "desktop/qt_text.h"
-#include "program/rescue.h"
 
 #include <QApplication>
-#include <QDateTime>
+#include <QDir>
 #include <QMessageBox>
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -21,6 +22,10 @@
 namespace dorvan {
 
 namespace {
+
+constexpr std::array Asked = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};
+constexpr std::array ErrorsOfAWrite = {SIGPIPE, SIGXFSZ};
+constexpr std::size_t ReserveSize = std::size_t(16) << 20;
 
 int signalPipe[2] = {-1, -1};
 
@@ -37,17 +42,34 @@ void HandleBy(void (*handler)(int)) {
     action.sa_handler = handler;
     ::sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    for (const int number : {SIGTERM, SIGHUP}) ::sigaction(number, &action, nullptr);
+    for (const int number : Asked) ::sigaction(number, &action, nullptr);
 }
+
+const std::string ProgramCloses = "The program closes now.";
 
 [[noreturn]] void EndProcess(int status) {
     std::fflush(nullptr);
     std::_Exit(status);
 }
 
+// Not by the toolkit: a crash may leave it unable to answer.
+std::string LocalTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    char text[32] = {};
+    std::strftime(text, sizeof text, "%Y-%m-%d %H-%M-%S", &local);
+    return text;
+}
+
 } // namespace
 
-EndOfRun::EndOfRun(const Session& session) : session_(session) {
+EndOfRun::EndOfRun(const Session& session)
+    : session_(session),
+      folders_(RescueFoldersOf(FromQt(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
+                               StateFolder())),
+      reserve_(new char[ReserveSize]), crashes_([this] { Rescue(); }) {
+    for (const int number : ErrorsOfAWrite) ::signal(number, SIG_IGN);
     if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) == 0) {
         auto* notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
         connect(notifier, &QSocketNotifier::activated, this, [this] { OnSignal(); });
@@ -60,6 +82,7 @@ EndOfRun::EndOfRun(const Session& session) : session_(session) {
 
 EndOfRun::~EndOfRun() {
     HandleBy(SIG_DFL);
+    for (const int number : ErrorsOfAWrite) ::signal(number, SIG_DFL);
     for (int& end : signalPipe) {
         if (end >= 0) ::close(end);
         end = -1;
@@ -67,9 +90,8 @@ EndOfRun::~EndOfRun() {
 }
 
 std::string EndOfRun::Rescue() {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString time = QDateTime::currentDateTime().toString("yyyy-MM-dd hh-mm-ss");
-    const std::string text = RescueText(RescueDocuments(session_, FromQt(documents), FromQt(time)));
+    reserve_.reset();
+    const std::string text = RescueText(RescueDocuments(session_, folders_, LocalTime()));
     if (!text.empty()) std::fprintf(stderr, "dorvan: %s\n", text.c_str());
     return text;
 }
@@ -83,7 +105,7 @@ void EndOfRun::OnFailure(const std::string& what) {
         QMessageBox box(QMessageBox::Critical, "Dorvan", ToQt(what), QMessageBox::Ok);
         box.setObjectName("FailureBox");
         box.setTextFormat(Qt::PlainText);
-        if (!rescued.empty()) box.setInformativeText(ToQt(rescued));
+        box.setInformativeText(ToQt(rescued.empty() ? ProgramCloses : ProgramCloses + "\n\n" + rescued));
         box.exec();
     }
     EndProcess(EXIT_FAILURE);
@@ -95,6 +117,12 @@ void EndOfRun::OnSignal() {
     if (::read(signalPipe[0], &number, 1) != 1) return;
     Rescue();
     EndProcess(128 + number);
+}
+
+std::string StateFolder() {
+    const QString asked = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString folder = QDir::isAbsolutePath(asked) ? asked : QDir::homePath() + "/.local/state";
+    return FromQt(folder + "/dorvan");
 }
 
 } // namespace dorvan

@@ -1,7 +1,10 @@
 #include "desktop/event_dispatch.h"
 
+#include "numbers/runtime_failure.h"
+
 #include <algorithm>
 #include <exception>
+#include <new>
 
 namespace dorvan {
 
@@ -46,6 +49,9 @@ void EventDispatch::RunNow(const Handler& handler) {
         try {
             handler();
             Mirror();
+        } catch (const std::bad_alloc&) {
+            if (!onEnd) throw;
+            onEnd(RuntimeFailure(Failure::OutOfMemory).what());
         } catch (const std::exception& failure) {
             if (!onEnd) throw;
             onEnd(failure.what());

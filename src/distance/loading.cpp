@@ -34,9 +34,7 @@ void LoadCell(Session& session, const std::string& cell, std::int32_t record, st
 }
 
 void ShowDataError(Session& session, std::int32_t record, std::int32_t variable) {
-    session.platform.messages.show(
-        {.Text = fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable)),
-         .Icon = MessageIcon::Critical});
+    session.platform.messages.show({.Text = DataErrorText(record, variable), .Icon = MessageIcon::Critical});
 }
 
 // False at a data error.
@@ -56,6 +54,10 @@ bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
 }
 
 } // namespace
+
+std::string DataErrorText(std::int32_t record, std::int32_t variable) {
+    return fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable));
+}
 
 bool LoadWorkingData(Session& session) {
     frmNotePad& window = ActiveDataWindow(session);

@@ -24,11 +24,15 @@ std::string CaptionOf(const std::string& path) { return fmt::format("[DATA]: {}"
 void OpenDataWindow(Session& session, const std::string& path, const std::string& description) {
     session.PendingRecCount = static_cast<std::int16_t>(session.tables.RecordNames.Count());
     session.PendingVarCount = static_cast<std::int16_t>(session.tables.VariableNames.Count());
-    OpenDocumentWindow<frmNotePad>(session, {.Caption = CaptionOf(path), .Dirty = false},
-                                   [&](frmNotePad& window) {
-                                       window.FilePath = path;
-                                       window.Present(description);
-                                   });
+    session.NewWindowIndex = FindFreeDataSlot(session);
+    OpensWithoutFault(session, path, DocumentKind::Data, [&] {
+        OpenDocumentWindow<frmNotePad>(
+            session, {.Caption = CaptionOf(path), .Dirty = false, .Slot = session.NewWindowIndex},
+            [&](frmNotePad& window) {
+                window.FilePath = path;
+                window.Present(description);
+            });
+    });
 }
 
 // A sheet that reads only with its empty fields taken, as a save of emptied cells leaves them.

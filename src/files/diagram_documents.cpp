@@ -40,13 +40,15 @@ DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) 
 }
 
 void OpenDiagramWindow(Session& session, const std::string& path, const DiagramHeader& header, bool dirty) {
-    const std::int16_t slot = FindFreeDiagramSlot(session);
-    DiagramDocument& document = session.DiagramDocuments.at(std::size_t(slot));
-    document = DocumentOf(session, header);
-    ClassifyDiagram(document);
-    OpenDocumentWindow<frmDiagram>(
-        session, {.Caption = fmt::format("[DIAGRAM]: {}", path), .Dirty = dirty, .Slot = slot},
-        [&](frmDiagram& window) { window.Present(header.Description); });
+    const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
+    OpensWithoutFault(session, path, DocumentKind::Diagram, [&] {
+        DiagramDocument& document = session.DiagramDocuments.at(std::size_t(slot));
+        document = DocumentOf(session, header);
+        ClassifyDiagram(document);
+        OpenDocumentWindow<frmDiagram>(
+            session, {.Caption = fmt::format("[DIAGRAM]: {}", path), .Dirty = dirty, .Slot = slot},
+            [&](frmDiagram& window) { window.Present(header.Description); });
+    });
 }
 
 // Both triangles from one computation of each pair, the lower-numbered record first.

@@ -47,6 +47,7 @@ Failure FailureOfErrorNumber(int errorNumber) {
     case ENOENT:
     case ENOTDIR: return Failure::PathNotFound;
     case EISDIR:
+    case EINVAL: // no regular file
     case EROFS:
     case ELOOP:
     case ENAMETOOLONG: return Failure::PathFileAccessError;
@@ -78,9 +79,14 @@ std::string LoadFile(const std::string& path) {
     return bytes;
 }
 
-FileError::FileError(int errorNumber) : std::runtime_error(ErrorText(errorNumber)), number_(errorNumber) {}
+FileError::FileError(int errorNumber) : FileError(errorNumber, ErrorText(errorNumber)) {}
+
+FileError::FileError(int errorNumber, const std::string& text)
+    : std::runtime_error(text), number_(errorNumber) {}
 
 void ReplaceFile(const std::string& path, std::string_view bytes) { NewFile(path).TakeThePlace(bytes); }
+
+void WriteNewFile(const std::string& path, std::string_view bytes) { NewFile(path).TakeFreePlace(bytes); }
 
 RuntimeFailure FailureOfWriting(const FileError& error, std::string_view path) {
     return RuntimeFailure(FailureOfErrorNumber(error.Number()), fmt::format("{} ({})", path, error.what()));

@@ -7,7 +7,14 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <new>
 #include <string_view>
+#include <system_error>
 
 namespace dorvan {
 
@@ -42,9 +49,30 @@ bool IsUtf8(std::string_view bytes) {
     return true;
 }
 
+// An open document takes up to so many times the size of its file: a matrix with the texts of all its cells.
+constexpr std::uintmax_t MemoryOfADocument = 14;
+
+// In bytes, as the system reckons; the most there is where it does not tell.
+std::uintmax_t AvailableMemory() {
+    std::ifstream reckoning("/proc/meminfo");
+    std::uintmax_t available = 0;
+    for (std::string line; std::getline(reckoning, line);)
+        if (line.starts_with("MemAvailable:") || line.starts_with("SwapFree:"))
+            available += std::strtoull(line.c_str() + line.find(':') + 1, nullptr, 10) * 1024;
+    return available > 0 ? available : std::numeric_limits<std::uintmax_t>::max();
+}
+
+// The system promises memory that it does not have, and ends the process that uses it.
+void ExpectMemoryFor(const std::string& path) {
+    std::error_code none;
+    const std::uintmax_t size = std::filesystem::file_size(path, none);
+    if (!none && size > AvailableMemory() / MemoryOfADocument) throw std::bad_alloc();
+}
+
 } // namespace
 
 std::string LoadDocument(const std::string& path, const CodePage& codes) {
+    ExpectMemoryFor(path);
     std::string bytes = LoadFile(path);
     if (IsUtf16(bytes))
         throw FileFault::OfWholeFile(fmt::format("The file is text in UTF-16. Save it in the code page "

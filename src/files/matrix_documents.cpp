@@ -49,8 +49,11 @@ void ReadMatrixFile(Session& session, const std::string& path) {
         TellOlderVersion(session);
         return ReadOldMatrixFile(session, path);
     }
-    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path), .Dirty = false, .Slot = slot},
-                                   [&](frmMacierz& window) { window.Present(description); });
+    session.NewWindowIndex = slot;
+    OpensWithoutFault(session, path, DocumentKind::Matrix, [&] {
+        OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path), .Dirty = false, .Slot = slot},
+                                       [&](frmMacierz& window) { window.Present(description); });
+    });
 }
 
 void ReadOldMatrixFile(Session& session, const std::string& path) {
@@ -60,9 +63,13 @@ void ReadOldMatrixFile(Session& session, const std::string& path) {
         description = ParseOldMatrixFile(LoadDocument(path, session.codePage), FileTextOf(session), document);
     };
     if (!ReadsWithoutFault(session, path, Wait::Yes, read)) return;
-    OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path)}, [&](frmMacierz& window) {
-        window.Document() = std::move(document);
-        window.Present(description);
+    session.NewWindowIndex = FindFreeMatrixSlot(session);
+    OpensWithoutFault(session, path, DocumentKind::Matrix, [&] {
+        OpenDocumentWindow<frmMacierz>(session, {.Caption = CaptionOf(path), .Slot = session.NewWindowIndex},
+                                       [&](frmMacierz& window) {
+                                           window.Document() = std::move(document);
+                                           window.Present(description);
+                                       });
     });
 }
 

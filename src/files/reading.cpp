@@ -1,6 +1,8 @@
 #include "files/reading.h"
 
 #include "files/file_fault.h"
+#include "session/children.h"
+#include "session/registry.h"
 
 #include <fmt/format.h>
 
@@ -8,6 +10,15 @@
 #include <optional>
 
 namespace dorvan {
+
+namespace {
+
+Message TooLarge(const std::string& path) {
+    return {.Text = fmt::format("The memory does not hold the file. File: {}", path),
+            .Icon = MessageIcon::Critical};
+}
+
+} // namespace
 
 bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
                        const std::function<void()>& read) {
@@ -21,11 +32,21 @@ bool ReadsWithoutFault(Session& session, const std::string& path, Wait wait,
         message.Text = fault.Describe(path);
         message.Icon = fault.HasOwnText() ? MessageIcon::Exclamation : MessageIcon::Critical;
     } catch (const std::bad_alloc&) {
-        message.Text = fmt::format("The memory does not hold the file. File: {}", path);
-        message.Icon = MessageIcon::Critical;
+        message = TooLarge(path);
     }
     session.platform.messages.show(message);
     return false;
+}
+
+void OpensWithoutFault(Session& session, const std::string& path, std::string_view kind,
+                       const std::function<void()>& open) {
+    try {
+        return open();
+    } catch (const std::bad_alloc&) {
+        AbandonSlot(session, kind, session.NewWindowIndex);
+    }
+    if (!session.ActiveWindow && !session.Children.empty()) ActivateChild(session, *session.Children.back());
+    session.platform.messages.show(TooLarge(path));
 }
 
 void TellOlderVersion(Session& session) {

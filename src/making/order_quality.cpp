@@ -3,10 +3,11 @@
 #include "making/order_scorer.h"
 #include "making/order_scores.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <numeric>
 #include <span>
-#include <utility>
 #include <vector>
 
 namespace dorvan {
@@ -22,11 +23,34 @@ float ScoreAsItStands(const FloatTable& denominators) {
     return score;
 }
 
-// How many of the distances nearer to the diagonal than the one at `far`, on its side, are greater.
-std::int64_t GreaterAndNearer(const float* row, std::int32_t diagonal, std::int32_t far) {
+// Merges two sorted runs that follow each other, and counts the pairs in which the earlier value is greater.
+std::int64_t Merge(const float* first, const float* middle, const float* last, float* merged) {
     std::int64_t count = 0;
-    const auto [first, last] = far < diagonal ? std::pair(far + 1, diagonal) : std::pair(diagonal + 1, far);
-    for (std::int32_t near = first; near < last; ++near) count += row[near] > row[far] ? 1 : 0;
+    const float* left = first;
+    const float* right = middle;
+    while (left < middle && right < last) {
+        const bool greater = *left > *right;
+        count += greater ? middle - left : 0;
+        *merged++ = greater ? *right++ : *left++;
+    }
+    merged = std::copy(left, middle, merged);
+    std::copy(right, last, merged);
+    return count;
+}
+
+// In how many pairs of places the earlier value is greater, by a merge sort of `values`: O(n log n).
+std::int64_t Inversions(std::vector<float>& values, std::vector<float>& merged) {
+    const std::size_t size = values.size();
+    merged.resize(size);
+    std::int64_t count = 0;
+    for (std::size_t width = 1; width < size; width *= 2) {
+        for (std::size_t start = 0; start < size; start += 2 * width) {
+            const float* run = values.data() + start;
+            count += Merge(run, run + std::min(width, size - start), run + std::min(2 * width, size - start),
+                           merged.data() + start);
+        }
+        values.swap(merged);
+    }
     return count;
 }
 
@@ -45,11 +69,19 @@ float UmOfOrder(const FloatTable& distances) {
     return ScoreAsItStands(UmDenominators(MakeByteMatrix(distances, 1.0F)));
 }
 
+// Away from the diagonal an event is a pair in which the nearer distance is greater.
 std::int64_t AntiRobinsonEvents(const FloatTable& distances) {
     const std::int32_t n = distances.Rows();
     std::int64_t events = 0;
-    for (std::int32_t i = 0; i < n; ++i)
-        for (std::int32_t far = 0; far < n; ++far) events += GreaterAndNearer(distances.Row(i + 1), i, far);
+    std::vector<float> side;
+    std::vector<float> merged;
+    for (std::int32_t i = 0; i < n; ++i) {
+        const float* row = distances.Row(i + 1);
+        side.assign(std::make_reverse_iterator(row + i), std::make_reverse_iterator(row));
+        events += Inversions(side, merged);
+        side.assign(row + i + 1, row + n);
+        events += Inversions(side, merged);
+    }
     return events;
 }
 

@@ -9,13 +9,17 @@ namespace dorvan {
 
 namespace {
 
-template <class T>
-std::vector<T> Resized(const std::vector<T>& cells, int oldColumns, int rows, int columns) {
-    std::vector<T> result(std::size_t(rows) * std::size_t(columns));
+const std::string NoText;
+
+constexpr std::size_t LabelColumns = 2; // the number and the name; a diagram has no other texts
+
+std::vector<std::uint8_t> Resized(const std::vector<std::uint8_t>& cells, int oldColumns, int rows,
+                                  int columns) {
+    std::vector<std::uint8_t> result(std::size_t(rows) * std::size_t(columns));
     const int oldRows = oldColumns == 0 ? 0 : static_cast<int>(cells.size()) / oldColumns;
     for (int row = 0; row < std::min(rows, oldRows); ++row)
-        for (int column = 0; column < std::min(columns, oldColumns); ++column)
-            result[std::size_t(row * columns + column)] = cells[std::size_t(row * oldColumns + column)];
+        std::copy_n(cells.begin() + std::ptrdiff_t(row) * oldColumns, std::min(columns, oldColumns),
+                    result.begin() + std::ptrdiff_t(row) * columns);
     return result;
 }
 
@@ -33,7 +37,8 @@ std::size_t Grid::ColumnPlace(int column) const {
 
 void Grid::SetSize(int rows, int columns) {
     if (rows < 0 || columns < 0) throw RuntimeFailure(Failure::InvalidProcedureCall);
-    texts_ = Resized(texts_, columns_, rows, columns);
+    texts_.resize(std::size_t(rows));
+    for (auto& texts : texts_) texts.resize(std::min(texts.size(), std::size_t(columns)));
     pictures_ = Resized(pictures_, columns_, rows, columns);
     widths_.resize(std::size_t(columns), DefaultColumnWidth);
     heights_.resize(std::size_t(rows), DefaultRowHeight);
@@ -47,7 +52,7 @@ void Grid::SetSize(int rows, int columns) {
 }
 
 void Grid::Clear() {
-    std::fill(texts_.begin(), texts_.end(), std::string());
+    for (auto& texts : texts_) texts = {};
     std::fill(pictures_.begin(), pictures_.end(), std::uint8_t(0));
     ++revision_;
 }
@@ -58,8 +63,21 @@ void Grid::SetCurrent(int row, int column) {
     ++revision_;
 }
 
+const std::string& Grid::Text(int row, int column) const {
+    const auto& texts = texts_[RowPlace(row)];
+    const std::size_t place = ColumnPlace(column);
+    return place < texts.size() ? texts[place] : NoText;
+}
+
 void Grid::SetText(int row, int column, std::string text) {
-    texts_[Place(row, column)] = std::move(text);
+    auto& texts = texts_[RowPlace(row)];
+    const std::size_t place = ColumnPlace(column);
+    if (place >= texts.size()) {
+        // Rows fill up from the left: room for all of a row as soon as its first value comes.
+        if (place >= texts.capacity() && place >= LabelColumns) texts.reserve(std::size_t(columns_));
+        texts.resize(place + 1);
+    }
+    texts[place] = std::move(text);
     ++revision_;
 }
 
@@ -91,7 +109,7 @@ void Grid::SetHeaderAlignment(int column, Alignment alignment) {
 void Grid::RemoveRow(int row) {
     const auto place = static_cast<std::ptrdiff_t>(RowPlace(row));
     const auto first = place * columns_;
-    texts_.erase(texts_.begin() + first, texts_.begin() + first + columns_);
+    texts_.erase(texts_.begin() + place);
     pictures_.erase(pictures_.begin() + first, pictures_.begin() + first + columns_);
     heights_.erase(heights_.begin() + place);
     --rows_;

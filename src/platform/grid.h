@@ -33,7 +33,7 @@ public:
     int Column() const { return column_; }
     void SetCurrent(int row, int column);
 
-    const std::string& Text(int row, int column) const { return texts_[Place(row, column)]; }
+    const std::string& Text(int row, int column) const;
     void SetText(int row, int column, std::string text);
 
     // A picture is a small number that the grid's owner gives a meaning to; 0 is none.
@@ -85,7 +85,7 @@ private:
     int column_ = 0;
     int pressedRow_ = -1;
     std::uint64_t revision_ = 0;
-    std::vector<std::string> texts_;
+    std::vector<std::vector<std::string>> texts_; // by rows, each up to its last text
     std::vector<std::uint8_t> pictures_;
     std::vector<int> widths_;
     std::vector<int> heights_;

@@ -25,10 +25,15 @@ void OpenDocument(Session& session, const std::string& path) {
             {.Text = "Error! This file is not acceptable for Dorvan.", .Icon = MessageIcon::Critical});
         return;
     }
+    ReadDocument(session, path);
+    UpdateRecentFiles(session, path);
+}
+
+void ReadDocument(Session& session, const std::string& path) {
+    const std::string_view kind = KindOfFile(path);
     if (kind == DocumentKind::Data) ReadDataFile(session, path);
     if (kind == DocumentKind::Matrix) ReadMatrixFile(session, path);
     if (kind == DocumentKind::Diagram) ReadDiagramFile(session, path);
-    UpdateRecentFiles(session, path);
 }
 
 } // namespace dorvan

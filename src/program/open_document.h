@@ -15,4 +15,7 @@ std::string_view KindOfFile(std::string_view path);
 // it only beeps.
 void OpenDocument(Session& session, const std::string& path);
 
+// The reader of the extension alone: no message for another one, no entry among the recent files.
+void ReadDocument(Session& session, const std::string& path);
+
 } // namespace dorvan

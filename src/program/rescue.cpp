@@ -1,23 +1,18 @@
 #include "program/rescue.h"
 
-#include "distance/frmMacierz.h"
-#include "files/data_file.h"
-#include "files/diagram_file.h"
 #include "files/disk.h"
-#include "files/file_text.h"
-#include "files/matrix_file.h"
-#include "numbers/number_text.h"
-#include "numbers/runtime_failure.h"
 #include "numbers/text.h"
+#include "numbers/utf8.h"
+#include "program/document_copies.h"
 #include "session/registry.h"
-#include "sheet/expression.h"
-#include "sheet/frmNotePad.h"
-#include "view/frmDiagram.h"
 
 #include <fmt/format.h>
 
+#include <cerrno>
 #include <exception>
 #include <filesystem>
+
+#include <sys/stat.h>
 
 namespace dorvan {
 
@@ -25,80 +20,58 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* FolderName = "Dorvan rescued documents";
+constexpr std::size_t LongestStem = 150; // bytes: a file name holds 255, of which time and number need some
 
-struct Copied {
-    std::string Extension;
-    std::string Path; // of the document's own file, if it has one
-    std::string Bytes;
-};
-
-bool Reads(const std::string& cell, char decimalSeparator) {
-    if (TrimSpaces(cell) == NaText) return true;
-    try {
-        ParseSheetNumber(TrimSpaces(cell), decimalSeparator);
-        return true;
-    } catch (const RuntimeFailure&) {
-        return false;
+// The start of a text, cut between two characters.
+std::string CutToBytes(const std::string& text, std::size_t most) {
+    std::size_t size = 0;
+    while (size < text.size()) {
+        const std::size_t next = size + Utf8CharacterAt(text, size).length;
+        if (next > most) break;
+        size = next;
     }
-}
-
-// The sheet with every value cell a number or "N/A".
-SheetTable ReadableSheet(SheetTable sheet, char decimalSeparator) {
-    for (std::string& cell : sheet.Cells.Cells()) {
-        if (Reads(cell, decimalSeparator)) continue;
-        const double value = EvaluateCellText(ReplaceAll(cell, ",", ".")).Value;
-        cell = FormatPattern(value, "###0.000", decimalSeparator);
-    }
-    return sheet;
-}
-
-Copied CopyOf(const Session& session, const frmNotePad& window) {
-    return {"mdt", window.NamedFile(),
-            ComposeDataFile(ReadableSheet(window.Table(), session.DecimalSeparator), window.OpisText.Text,
-                            FileTextOf(session))};
-}
-
-Copied CopyOf(const Session& session, const frmMacierz& window) {
-    return {"mtx", CaptionPath(window.Caption),
-            ComposeMatrixFile(session.MatrixDocuments.at(std::size_t(window.Index)), window.BottomText.Text,
-                              FileTextOf(session))};
-}
-
-Copied CopyOf(const Session& session, const frmDiagram& window) {
-    return {"dgr", CaptionPath(window.Caption),
-            ComposeDiagramFile(session.DiagramDocuments.at(std::size_t(window.Index)), window.BottomText.Text,
-                               FileTextOf(session))};
-}
-
-Copied CopyOfDocument(const Session& session, const ChildWindow& window) {
-    if (const auto* sheet = dynamic_cast<const frmNotePad*>(&window)) return CopyOf(session, *sheet);
-    if (const auto* matrix = dynamic_cast<const frmMacierz*>(&window)) return CopyOf(session, *matrix);
-    if (const auto* diagram = dynamic_cast<const frmDiagram*>(&window)) return CopyOf(session, *diagram);
-    return {};
-}
-
-bool FileHolds(const Copied& copy) {
-    if (IsUntitled(copy.Path)) return false;
-    try {
-        return LoadFile(copy.Path) == copy.Bytes;
-    } catch (const std::exception&) {
-        return false;
-    }
+    return text.substr(0, size);
 }
 
 // "[DATA]: /home/ann/iris.mdt" gives "iris", "[MATRIX]: Untitled:2" gives "untitled-2".
 std::string NameOf(const std::string& caption) {
     const std::string name = fs::path(CaptionPath(caption)).stem().string();
-    return ReplaceAll(ReplaceAll(name, "Untitled", "untitled"), ":", "-");
+    return CutToBytes(ReplaceAll(ReplaceAll(name, "Untitled", "untitled"), ":", "-"), LongestStem);
 }
 
-// A name that no file of the folder has.
-fs::path FreeName(const fs::path& folder, const fs::path& wanted) {
-    fs::path path = folder / wanted;
-    for (int number = 2; fs::exists(path); ++number)
-        path = folder / fmt::format("{} ({}){}", wanted.stem().string(), number, wanted.extension().string());
-    return path;
+void MakeFolder(const fs::path& folder) {
+    fs::create_directories(folder.parent_path());
+    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) throw FileError(errno);
+}
+
+// Under the copy's name, numbered where another file has it.
+std::string WriteInto(const fs::path& folder, const RescueCopy& copy) {
+    MakeFolder(folder);
+    const fs::path name(copy.FileName);
+    for (int number = 1;; ++number) {
+        const fs::path path = folder / (number == 1 ? copy.FileName
+                                                    : fmt::format("{} ({}){}", name.stem().string(), number,
+                                                                  name.extension().string()));
+        try {
+            WriteNewFile(path.string(), copy.Bytes);
+            return path.string();
+        } catch (const FileError& error) {
+            if (error.Number() != EEXIST) throw;
+        }
+    }
+}
+
+void Rescue(const RescueCopy& copy, const RescueFolders& folders, RescueReport& report) {
+    std::string reason = "there is no folder for it";
+    for (const auto& folder : folders) {
+        try {
+            report.Written.push_back(WriteInto(folder, copy));
+            return;
+        } catch (const std::exception& failure) {
+            reason = failure.what();
+        }
+    }
+    report.Failures.push_back(fmt::format("{}: {}", copy.FileName, reason));
 }
 
 } // namespace
@@ -108,10 +81,10 @@ std::vector<RescueCopy> CopiesToRescue(const Session& session, const std::string
     std::vector<RescueCopy> copies;
     for (const auto& window : session.Children) {
         try {
-            Copied copy = CopyOfDocument(session, *window);
-            if (copy.Bytes.empty() || FileHolds(copy)) continue;
-            copies.push_back({fmt::format("{} {}.{}", NameOf(window->Caption), time, copy.Extension),
-                              std::move(copy.Bytes)});
+            const auto document = SnapshotOf(session, *window);
+            if (!document || IsHeldByFile(*document)) continue;
+            copies.push_back({fmt::format("{} {}.{}", NameOf(window->Caption), time, ExtensionOf(*document)),
+                              ComposeReadable(*document)});
         } catch (const std::exception& failure) {
             failures.push_back(fmt::format("{}: {}", window->Caption, failure.what()));
         }
@@ -119,29 +92,22 @@ std::vector<RescueCopy> CopiesToRescue(const Session& session, const std::string
     return copies;
 }
 
-RescueReport RescueDocuments(const Session& session, const std::string& documentsFolder,
-                             const std::string& time) {
+RescueFolders RescueFoldersOf(const std::string& documentsFolder, const std::string& stateFolder) {
+    return {(fs::path(documentsFolder) / "Dorvan rescued documents").string(),
+            (fs::path(stateFolder) / "rescued").string()};
+}
+
+RescueReport RescueDocuments(const Session& session, const RescueFolders& folders, const std::string& time) {
     RescueReport report;
-    const fs::path folder = fs::path(documentsFolder) / FolderName;
-    report.Folder = folder.string();
-    for (const auto& copy : CopiesToRescue(session, time, report.Failures)) {
-        try {
-            fs::create_directories(folder);
-            const fs::path path = FreeName(folder, copy.FileName);
-            ReplaceFile(path.string(), copy.Bytes);
-            report.Written.push_back(path.filename().string());
-        } catch (const std::exception& failure) {
-            report.Failures.push_back(fmt::format("{}: {}", copy.FileName, failure.what()));
-        }
-    }
+    for (const auto& copy : CopiesToRescue(session, time, report.Failures)) Rescue(copy, folders, report);
     return report;
 }
 
 std::string RescueText(const RescueReport& report) {
     std::string text;
     if (!report.Written.empty()) {
-        text = fmt::format("Copies of documents that no file holds are in the folder\n{}", report.Folder);
-        for (const auto& name : report.Written) text += "\n  " + name;
+        text = "Copies of documents that no file holds:";
+        for (const auto& path : report.Written) text += "\n  " + path;
     }
     if (!report.Failures.empty()) {
         text += fmt::format("{}These could not be rescued:", text.empty() ? "" : "\n\n");

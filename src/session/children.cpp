@@ -57,6 +57,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     window.LeaveField();
     if (!window.Form_QueryUnload()) return false;
     if (Place(session, window) == session.Children.end()) return true; // closed while the question stood
+    if (session.onClosing) session.onClosing(window);
     if (session.ActiveWindow == &window) {
         window.Form_Deactivate();
         session.ActiveWindow = nullptr;

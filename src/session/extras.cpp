@@ -20,6 +20,13 @@ std::vector<CommandRow> ExtrasRows() {
 
         // Sheets and their cells
 
+        // Documents
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasReopen",
+         .Caption = "&Reopen Closed Document",
+         .Shortcut = "Ctrl+Shift+T",
+         .Calls = {.Any = "ReopenClosedDocument"}},
+
     };
 }
 

@@ -72,6 +72,16 @@ std::int16_t FindFreeSlot(Session& session, std::string_view kind) {
     throw RuntimeFailure(Failure::InvalidProcedureCall, kind);
 }
 
+void AbandonSlot(Session& session, std::string_view kind, std::int16_t slot) {
+    const auto window = std::exchange(WindowsOf(session, kind).at(std::size_t(slot)), nullptr);
+    StateOfSlot(session, kind, slot) = {.Deleted = true};
+    if (kind == DocumentKind::Matrix) session.MatrixDocuments.at(std::size_t(slot)) = {};
+    if (kind == DocumentKind::Diagram) session.DiagramDocuments.at(std::size_t(slot)) = {};
+    if (!window || std::erase(session.Children, window) == 0) return;
+    if (session.ActiveWindow == window.get()) session.ActiveWindow = nullptr;
+    session.platform.children.close(*window);
+}
+
 WindowState& StateOfSlot(Session& session, std::string_view kind, std::int16_t slot) {
     auto& states = StatesOf(session, kind);
     if (slot < 0 || std::size_t(slot) >= states.size())

@@ -24,6 +24,10 @@ std::int16_t FindFreeSlot(Session& session, std::string_view kind); // a Documen
 // Fails with SubscriptOutOfRange for a slot that is not in the registry.
 WindowState& StateOfSlot(Session& session, std::string_view kind, std::int16_t slot);
 
+// Takes back a slot whose window could not be made or filled: it is free, and neither window nor document
+// stand in it.
+void AbandonSlot(Session& session, std::string_view kind, std::int16_t slot);
+
 // Some data slot from 1 up is in use.
 bool AnyDataWindowOpen(const Session& session);
 

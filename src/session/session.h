@@ -81,6 +81,9 @@ struct Session {
     std::vector<std::shared_ptr<ChildWindow>> Children;
     ChildWindow* ActiveWindow = nullptr; // null: the main window alone
 
+    // Told of a window that closes, after its questions; null: nobody listens.
+    std::function<void(const ChildWindow&)> onClosing;
+
     // The values of one room, kept with the room and known to it alone: made at their first use, and as long
     // as the session from then on.
     //

@@ -22,11 +22,6 @@ constexpr int ValueColumnWidth = 900;
 constexpr int MinimalHeight = 2500; // twips
 constexpr int MinimalWidth = 3000;
 
-std::string CellText(float value, char decimalSeparator) {
-    if (IsEmptyValue(value)) return {};
-    return value == NaValue ? std::string(NaText) : FormatPattern(value, "###0.000", decimalSeparator);
-}
-
 } // namespace
 
 frmNotePad::frmNotePad(Session& session) : ChildWindow("frmNotePad"), session_(session) {
@@ -122,6 +117,11 @@ void frmNotePad::OpisText_Change() { MarkChanged(); }
 // The key takes effect all the same.
 void frmNotePad::OpisText_KeyPress(int&) {
     if (IsBusy(session_)) session_.platform.signals.beep();
+}
+
+std::string CellText(float value, char decimalSeparator) {
+    if (IsEmptyValue(value)) return {};
+    return value == NaValue ? std::string(NaText) : FormatPattern(value, "###0.000", decimalSeparator);
 }
 
 frmNotePad& DataWindow(Session& session, std::int16_t slot) {

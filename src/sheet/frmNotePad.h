@@ -108,6 +108,9 @@ private:
     Session& session_;
 };
 
+// A value as its cell shows it: a number of three decimals, "N/A", or nothing for an EmptyValue.
+std::string CellText(float value, char decimalSeparator);
+
 // The data window of a slot; the registry's own reference.
 frmNotePad& DataWindow(Session& session, std::int16_t slot);
 

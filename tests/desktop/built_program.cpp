@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int Patience = 20; // seconds
+constexpr int Patience = 60; // seconds: other work may take the machine
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
@@ -64,6 +64,23 @@ private:
 
 } // namespace
 
+std::vector<std::string> BuiltProgram::Home::Journal() const {
+    std::vector<std::string> files;
+    std::error_code none; // the program may be at work on the folders
+    for (fs::recursive_directory_iterator place(folder / "state/dorvan/journal", none), end;
+         !none && place != end; place.increment(none))
+        if (place->path().extension() == ".mdt") files.push_back(place->path());
+    return files;
+}
+
+void BuiltProgram::Home::ExpectInJournal(std::size_t count) const {
+    for (int look = 0; look < Patience * 50; ++look) {
+        if (Journal().size() == count) return;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    ADD_FAILURE() << Journal().size() << " documents in the journal, not " << count;
+}
+
 BuiltProgram::BuiltProgram(const Home& home, const std::vector<std::string>& arguments,
                            const std::vector<std::string>& environment)
     : errorPath_(home.folder / "standard error") {
@@ -91,6 +108,13 @@ BuiltProgram::~BuiltProgram() {
 
 void BuiltProgram::Send(int signal) const {
     if (process_ > 0) ::kill(process_, signal);
+}
+
+bool BuiltProgram::Runs() const {
+    siginfo_t news{};
+    return process_ > 0 &&
+           ::waitid(P_PID, static_cast<id_t>(process_), &news, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+           news.si_pid == 0;
 }
 
 int BuiltProgram::Status() {

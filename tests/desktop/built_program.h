@@ -17,6 +17,10 @@ public:
     struct Home {
         TemporaryFolder folder;
         std::string Rescued() const { return folder / "Documents/Dorvan rescued documents"; }
+        // The documents in the journal, those of all runs.
+        std::vector<std::string> Journal() const;
+        // Waits until there are so many of them; a test failure after a minute.
+        void ExpectInJournal(std::size_t count) const;
     };
 
     // Starts it with its arguments; `environment` holds settings such as "LC_ALL=C". Returns once it has read
@@ -28,8 +32,9 @@ public:
     BuiltProgram& operator=(const BuiltProgram&) = delete;
 
     void Send(int signal) const;
+    bool Runs() const; // it has not ended yet
 
-    // Waits for the end, at most 20 seconds. The exit status; 128 + n when the signal n ended it.
+    // Waits for the end, at most a minute. The exit status; 128 + n when the signal n ended it.
     int Status();
 
     std::string Errors() const; // what it wrote to its standard error so far

@@ -7,6 +7,9 @@
 #include <QSessionManager>
 
 #include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
 
 namespace dorvan::test {
 namespace {
@@ -51,6 +54,30 @@ TEST_F(EndOfRunTest, TheEndOfTheDesktopSessionRescuesWhatNoFileHolds) {
               "Record 1\r\nRecord 2\r\n\r\n[VARIABLE_LABEL]\r\nVAR  1\r\nVAR  2\r\nVAR  3\r\n\r\n[DATA]\r\n"
               "0.000;0.000;0.000\r\n0.000;0.000;0.000\r\n");
     EXPECT_EQ(desktop.session.Children.size(), 1u); // the program itself goes on until it is told to end
+}
+
+// The box closes by its button; the child process in which this happens ends then.
+TEST_F(EndOfRunTest, TheBoxOfAFailureSaysThatTheProgramClosesAndWhereTheCopiesAre) {
+    NewSheet(2, 3);
+    const auto end = [this] {
+        InDialog([](QDialog& dialog) {
+            const auto& box = dynamic_cast<QMessageBox&>(dialog);
+            std::fprintf(stderr, "BOX %s|%s\n", qPrintable(box.text()), qPrintable(box.informativeText()));
+            dialog.accept();
+        });
+        EndOfRun(desktop.session).OnFailure("Run-time error '9': Subscript out of range");
+    };
+    const std::string path = Rescued().path().toStdString() + "/untitled-1 ";
+    EXPECT_EXIT(end(), ::testing::ExitedWithCode(EXIT_FAILURE),
+                "BOX Run-time error '9': Subscript out of range.The program closes now\\.\n\n"
+                "Copies of documents that no file holds:\n  " +
+                    path);
+}
+
+TEST_F(EndOfRunTest, MemoryThatDoesNotSufficeEndsTheRunByItsClassicNumber) {
+    desktop.dispatch.Run([] { throw std::bad_alloc(); });
+    EXPECT_EQ(ended, "Run-time error '7': Out of memory");
+    ended.clear();
 }
 
 TEST_F(EndOfRunTest, AnEndWithNothingToRescueWritesNothing) {

@@ -136,6 +136,14 @@ TEST_F(frmCustomizedTest, TheFieldsKeepTheirTextsForTheNextShowing) {
     EXPECT_EQ(session.Par_R, 6);
 }
 
+TEST_F(frmCustomizedTest, AParameterBelowZeroIsTaken) {
+    Accept("-3", "-32768");
+    EXPECT_EQ(session.Par_P, -3);
+    EXPECT_EQ(session.Par_R, -32768);
+    EXPECT_EQ(session.DialogOutcome, 1);
+    EXPECT_TRUE(messages.shown.empty());
+}
+
 TEST_F(frmCustomizedTest, AnInvalidPIsRefusedAndTheDialogStays) {
     for (const char* text : {"", " ", "x", "0", "40000", "1.2.3"}) {
         messages.shown.clear();

@@ -1,6 +1,7 @@
 #include "export/excel_file.h"
 
 #include "excel_bytes.h"
+#include "files/disk_limits.h"
 #include "numbers/runtime_failure.h"
 #include "support/golden.h"
 
@@ -382,9 +383,13 @@ TEST_F(Excel, FileThatCannotBeCreatedIsTold) {
 }
 
 TEST_F(Excel, FullDiskIsToldAtCloseFile) {
-    ASSERT_EQ(excel.CreateFile("/dev/full"), 0);
-    EXPECT_EQ(excel.CloseFile(), 61);
-    EXPECT_EQ(excel.DiskFailure(), "No space left on device");
+    EXPECT_EQ(excel.CreateFile("/dev/full"), 75); // no regular file
+    ASSERT_EQ(excel.CreateFile(path), 0);
+    {
+        const FileSizeLimit limit(1);
+        EXPECT_EQ(excel.CloseFile(), 61);
+    }
+    EXPECT_EQ(excel.DiskFailure(), "File too large");
     EXPECT_EQ(excel.CloseFile(), 0); // there is no file any more
 }
 

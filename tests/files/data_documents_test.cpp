@@ -301,6 +301,26 @@ TEST_F(DataDocuments, SaveAsLeavesTheCaptionAndUpdatesTheRecentFiles) {
     EXPECT_EQ(files.requests.size(), 2u);
 }
 
+TEST_F(DataDocuments, SaveAsWritesBeforeItUpdatesTheRecentFiles) {
+    newSheet();
+    std::string bytesThen;
+    session.commands.Set("UpdateRecentFiles",
+                         [&](const CommandCall& call) { bytesThen = fileBytes(call.Path); });
+    files.paths = {folder / "Copy.mdt"};
+    SaveDataAs(session);
+    EXPECT_EQ(bytesThen, sheetBytes("1.500"));
+}
+
+TEST_F(DataDocuments, OnlyAFlagOfOneIsBusy) {
+    newSheet();
+    for (const std::int32_t flag : {2, -1}) {
+        session.DiagramBusy = flag;
+        files.paths = {folder / "f.mdt"};
+        SaveDataAs(session);
+        EXPECT_EQ(signals.beeps, 0);
+    }
+}
+
 TEST_F(DataDocuments, AfterSaveAsTheNextSaveGoesToTheFormerFile) {
     const std::string path = goldenFile("sheet.mdt");
     ReadDataFile(session, path);

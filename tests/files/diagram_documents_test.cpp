@@ -1,4 +1,5 @@
 #include "files/diagram_documents.h"
+#include "files/diagram_file.h"
 #include "files/disk_limits.h"
 #include "files/files_session.h"
 #include "files/older_bytes.h"
@@ -60,6 +61,18 @@ TEST_F(DiagramDocuments, ReadingADiagramWithoutData) {
     EXPECT_EQ(document().VariableNames.Count(), 0);
     EXPECT_EQ(document().Data.Rows(), 0);
     EXPECT_EQ(document().RecordHasNA, Flags(2, false));
+}
+
+TEST_F(DiagramDocuments, AnotherTypeThanZeroOrOneIsADocumentWithoutDataToo) {
+    for (const int type : {2, -1, -7}) {
+        const std::string bytes =
+            with(golden("diagram_without_data.dgr"), "Type=1\r\nDesc", fmt::format("Type={}\r\nDesc", type));
+        ReadDiagramFile(session, file("f.dgr", bytes));
+        const auto& read = session.DiagramDocuments.back();
+        EXPECT_TRUE(read.NoData) << type;
+        EXPECT_EQ(ComposeDiagramFile(read, "", PointText()).find("Type=1\r\n"),
+                  std::string_view("Dorvan DIAGRAM 3.3\r\n\r\n[HEADER]\r\n").size());
+    }
 }
 
 TEST_F(DiagramDocuments, ReadingLeavesTheAnalysisOptions) {

@@ -5,6 +5,7 @@
 #include "files/older_bytes.h"
 #include "support/expect_failure.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace dorvan::test {
@@ -194,9 +195,17 @@ TEST(DiagramFile, ALineWithAnotherKeyLeavesItsValueAtZero) {
 }
 
 TEST(DiagramFile, AnotherTypeThanZeroMeansNoData) {
-    EXPECT_EQ(
-        Parsed(with(golden("diagram_without_data.dgr"), "Type=1\r\nDesc", "Type=-7\r\nDesc")).Header.Type,
-        -7);
+    for (const std::int16_t type : {1, 2, -1, -7, 32767}) {
+        const auto parsed = Parsed(
+            with(golden("diagram_without_data.dgr"), "Type=1\r\nDesc", fmt::format("Type={}\r\nDesc", type)));
+        EXPECT_EQ(parsed.Header.Type, type);
+        EXPECT_EQ(parsed.Tables.DataValues.Rows(), 0) << type;
+        EXPECT_EQ(parsed.Tables.VariableNames.Count(), 0) << type;
+        EXPECT_EQ(parsed.Tables.DistanceValues.Rows(), 2) << type;
+        // The sections of data are looked for by the type alone.
+        EXPECT_EQ(FaultOfDiagram(with(golden("diagram.dgr"), "Type=0\r\n", fmt::format("Type={}\r\n", type))),
+                  "Unexpected symbol in VARIABLE_LABEL section.");
+    }
 }
 
 TEST(DiagramFile, AHeaderValueThatIsNoNumberIsAFault) {
@@ -282,8 +291,11 @@ TEST(DiagramFile, WhatIsWrittenReadsBack) {
 
 TEST(DiagramFile, ClaimsCostNoMemory) {
     const std::string bytes = with(golden("diagram_without_data.dgr"), "RecCount=2", "RecCount=32767");
+    const auto lines = std::count(bytes.begin(), bytes.end(), '\n');
     forgetAllocations();
-    FaultOfDiagram(bytes);
+    EXPECT_EQ(FaultOfDiagram(bytes),
+              fmt::format("Line {}: the line is missing, the file ends before it. File: f", lines + 1));
+    EXPECT_LT(largestAllocation(), 40 * bytes.size());
     const std::string longer =
         with(bytes, "[RECORD_LABEL]\r\n", "[RECORD_LABEL]\r\n" + std::string(32765, '\n'));
     forgetAllocations();

@@ -1,11 +1,15 @@
 #include "files/disk.h"
 #include "files/disk_limits.h"
 #include "files/faults.h"
+#include "files/new_file.h"
 #include "support/golden.h"
 
+#include <cstdint>
 #include <fcntl.h>
 #include <filesystem>
+#include <grp.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace dorvan::test {
 
@@ -106,11 +110,14 @@ TEST_F(Disk, ReplacesAFileOfTheCurrentFolder) {
 TEST_F(Disk, KeepsTheOwnerWhereItCan) {
     if (::geteuid() != 0) GTEST_SKIP() << "only an administrator can give files away";
     writeFile(folder / "f", "old");
-    ASSERT_EQ(::chown((folder / "f").c_str(), 65534, 65534), 0);
+    ASSERT_EQ(::chown((folder / "f").c_str(), 65534, 65533), 0);
+    ASSERT_EQ(::chmod((folder / "f").c_str(), 02664), 0);
     EXPECT_EQ(replace("f", "new"), 0);
+    EXPECT_EQ(modeOf("f"), mode_t(02664));
     struct stat status {};
     ASSERT_EQ(::stat((folder / "f").c_str(), &status), 0);
     EXPECT_EQ(status.st_uid, 65534u);
+    EXPECT_EQ(status.st_gid, 65533u);
 }
 
 TEST_F(Disk, ReplacesTheTargetOfSymbolicLinks) {
@@ -149,12 +156,20 @@ TEST_F(Disk, AFileThatDoesNotFitLeavesTheOldOneWhole) {
     EXPECT_EQ(entries(), 1u);
 }
 
-TEST_F(Disk, AFullDeviceIsAnErrorAndStaysADevice) {
+TEST_F(Disk, ADeviceOrAPipeIsRefused) {
     fs::create_symlink("/dev/full", folder / "f");
-    EXPECT_EQ(replace("f", "new"), ENOSPC);
+    EXPECT_EQ(replace("f", "new"), EINVAL);
     EXPECT_TRUE(fs::is_character_file(folder / "f"));
-    EXPECT_EQ(errorOf([] { ReplaceFile("/dev/null", "new"); }), 0);
-    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(errorOf([] { ReplaceFile("/dev/null", "new"); }), EINVAL);
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(replace("pipe", "new"), EINVAL);
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+    try {
+        ReplaceFile(folder / "pipe", "new");
+    } catch (const FileError& error) {
+        EXPECT_STREQ(error.what(), "This is not a regular file");
+    }
+    EXPECT_EQ(entries(), 2u);
 }
 
 TEST_F(Disk, AFolderInThePlaceOfTheFileIsAnError) {
@@ -184,17 +199,140 @@ TEST_F(Disk, AReadOnlyFileIsNotReplaced) {
     EXPECT_EQ(entries(), 1u);
 }
 
-TEST_F(Disk, AFolderThatMayNotBeWrittenLeavesTheFileWhole) {
-    writeFile(folder / "f", "old");
+TEST_F(Disk, InAFolderThatMayNotBeWrittenAFileIsWrittenInPlace) {
+    writeFile(folder / "f", "the old bytes");
     fs::permissions(folder / "f", fs::perms(0666));
     fs::permissions(folder.path(), fs::perms(0555));
     {
         const AsOrdinaryUser user;
-        EXPECT_EQ(replace("f", "new"), EACCES);
+        EXPECT_EQ(replace("f", "new"), 0);
+        EXPECT_EQ(replace("g", "new"), EACCES);
     }
     fs::permissions(folder.path(), fs::perms::all);
-    EXPECT_EQ(fileBytes(folder / "f"), "old");
+    EXPECT_EQ(fileBytes(folder / "f"), "new");
     EXPECT_EQ(entries(), 1u);
+}
+
+TEST_F(Disk, OthersFilesThatMayNotBeRenamedOverAreWrittenInPlace) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only an administrator can make files of two users";
+    writeFile(folder / "f", "the old bytes");
+    fs::permissions(folder / "f", fs::perms(0666));
+    fs::permissions(folder.path(), fs::perms(01777));
+    {
+        const AsOrdinaryUser user;
+        EXPECT_EQ(replace("f", "new"), 0);
+    }
+    EXPECT_EQ(fileBytes(folder / "f"), "new");
+    EXPECT_EQ(entries(), 1u);
+}
+
+TEST_F(Disk, AFileThatDoesNotFitInPlaceGetsItsOldBytesBack) {
+    const std::string old(3000, 'o');
+    writeFile(folder / "f", old);
+    fs::permissions(folder / "f", fs::perms(0666));
+    fs::permissions(folder.path(), fs::perms(0555));
+    {
+        const AsOrdinaryUser user;
+        const FileSizeLimit limit(4096);
+        EXPECT_EQ(replace("f", std::string(100000, 'n')), EFBIG);
+    }
+    fs::permissions(folder.path(), fs::perms::all);
+    EXPECT_EQ(fileBytes(folder / "f"), old);
+}
+
+TEST_F(Disk, AFileInTheMakingIsForItsOwnerAlone) {
+    const mode_t mask = ::umask(0);
+    writeFile(folder / "f", "old");
+    {
+        NewFile file(folder / "f");
+        fs::remove(folder / "f");
+        ASSERT_EQ(entries(), 1u);
+        EXPECT_EQ(modeOf(fs::directory_iterator(folder.path())->path().filename()), mode_t(0600));
+    }
+    ::umask(mask);
+    EXPECT_EQ(entries(), 0u);
+}
+
+TEST_F(Disk, WhatAKilledProcessLeftBehindGoesWithTheNextSave) {
+    writeFile(folder / ".dorvan-1-0.tmp", "half a file");
+    writeFile(folder / ".dorvan-1-7.tmp", "another");
+    writeFile(folder / ".dorvan-notes", "the user's own");
+    NewFile atWork(folder / "g");
+    EXPECT_EQ(replace("f", "new"), 0);
+    EXPECT_FALSE(fs::exists(folder / ".dorvan-1-0.tmp"));
+    EXPECT_FALSE(fs::exists(folder / ".dorvan-1-7.tmp"));
+    EXPECT_EQ(entries(), 3u); // f, the notes, and the file that somebody is writing
+    atWork.TakeThePlace("g");
+    EXPECT_EQ(fileBytes(folder / "g"), "g");
+}
+
+TEST_F(Disk, ExtendedAttributesStay) {
+    writeFile(folder / "f", "old");
+    if (::setxattr((folder / "f").c_str(), "user.comment", "mine", 4, 0) != 0)
+        GTEST_SKIP() << "this file system keeps no attributes";
+    EXPECT_EQ(replace("f", "new"), 0);
+    char value[10] = {};
+    EXPECT_EQ(::getxattr((folder / "f").c_str(), "user.comment", value, sizeof value), 4);
+    EXPECT_STREQ(value, "mine");
+}
+
+// An access list of one more user, as setfacl writes it: version, then tag, rights, id each.
+TEST_F(Disk, AccessListsStay) {
+    writeFile(folder / "f", "old");
+    const std::uint16_t entries[][4] = {{0x01, 6, 0xFFFF, 0xFFFF},
+                                        {0x02, 4, 1234, 0},
+                                        {0x04, 4, 0xFFFF, 0xFFFF},
+                                        {0x10, 4, 0xFFFF, 0xFFFF},
+                                        {0x20, 0, 0xFFFF, 0xFFFF}};
+    std::string list("\2\0\0\0", 4);
+    list.append(reinterpret_cast<const char*>(entries), sizeof entries);
+    const char* name = "system.posix_acl_access";
+    if (::setxattr((folder / "f").c_str(), name, list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "this file system keeps no access lists";
+    EXPECT_EQ(replace("f", "new"), 0);
+    std::string kept(100, '\0');
+    const ssize_t size = ::getxattr((folder / "f").c_str(), name, kept.data(), kept.size());
+    ASSERT_GT(size, 0);
+    EXPECT_EQ(kept.substr(0, std::size_t(size)), list);
+}
+
+TEST_F(Disk, WhereTheOwnerCannotBeKeptTheGroupIsAndWithoutItsGroupItsRightsGo) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only an administrator can give files away";
+    fs::permissions(folder.path(), fs::perms::all);
+    const gid_t groups[] = {12};
+    for (const auto& [group, expectedMode] :
+         {std::pair(gid_t(12), mode_t(0666)), {gid_t(13), mode_t(0606)}}) {
+        writeFile(folder / "f", "old");
+        ASSERT_EQ(::chown((folder / "f").c_str(), 0, group), 0);
+        ASSERT_EQ(::chmod((folder / "f").c_str(), 06666), 0);
+        ASSERT_EQ(::setgroups(1, groups), 0);
+        {
+            const AsOrdinaryUser user;
+            EXPECT_EQ(replace("f", "new"), 0);
+        }
+        ASSERT_EQ(::setgroups(0, nullptr), 0);
+        struct stat status {};
+        ASSERT_EQ(::stat((folder / "f").c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, 65534u);
+        EXPECT_EQ(modeOf("f"), expectedMode);
+        if (group == 12) {
+            EXPECT_EQ(status.st_gid, group);
+        }
+        fs::remove(folder / "f");
+    }
+}
+
+TEST_F(Disk, APrivateFileNeverTakesThePlaceOfAnother) {
+    const mode_t mask = ::umask(0);
+    WriteNewFile(folder / "f", "mine");
+    ::umask(mask);
+    EXPECT_EQ(modeOf("f"), mode_t(0600));
+    EXPECT_EQ(errorOf([&] { WriteNewFile(folder / "f", "other"); }), EEXIST);
+    EXPECT_EQ(fileBytes(folder / "f"), "mine");
+    NewFile second(folder / "g");
+    writeFile(folder / "g", "somebody's, come meanwhile");
+    EXPECT_EQ(errorOf([&] { second.TakeFreePlace("other"); }), EEXIST);
+    EXPECT_EQ(fileBytes(folder / "g"), "somebody's, come meanwhile");
 }
 
 TEST(FailureOfWriting, NamesTheRunTimeErrorOfAnErrorNumber) {
@@ -207,6 +345,7 @@ TEST(FailureOfWriting, NamesTheRunTimeErrorOfAnErrorNumber) {
         {ENOENT, Failure::PathNotFound},
         {ENOTDIR, Failure::PathNotFound},
         {EISDIR, Failure::PathFileAccessError},
+        {EINVAL, Failure::PathFileAccessError},
         {EROFS, Failure::PathFileAccessError},
         {ELOOP, Failure::PathFileAccessError},
         {ENAMETOOLONG, Failure::PathFileAccessError},

@@ -6,6 +6,10 @@
 #include "files/files_session.h"
 #include "files/matrix_documents.h"
 
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+
 namespace dorvan::test {
 
 namespace {
@@ -60,6 +64,43 @@ TEST_F(DocumentBytes, Utf16IsRefusedWithItsMarkAndWithout) {
     for (const std::string& bytes : {"\xFF\xFE" + Utf16(text, true), "\xFE\xFF" + Utf16(text, false),
                                      Utf16(text, true), Utf16(text, false), std::string("\xFF\xFE")})
         EXPECT_EQ(faultOf([&] { loaded(bytes); }), Utf16Text + ". File: f");
+}
+
+// Its bytes are only claimed.
+TEST_F(DocumentBytes, AFileLargerThanTheMemoryIsRefusedWithoutALook) {
+    const std::string path = file("f.mdt", "Dorvan DATA 3.3\r\n");
+    std::error_code none;
+    std::filesystem::resize_file(path, std::uintmax_t(1) << 42, none);
+    if (none) GTEST_SKIP() << "this file system has no holes";
+    ReadDataFile(session, path);
+    expectFaultMessage("The memory does not hold the file. File: " + path);
+}
+
+TEST_F(DocumentBytes, AWindowThatTheMemoryDoesNotHoldLeavesAllElse) {
+    using Read = void (*)(Session&, const std::string&);
+    const std::vector<std::pair<std::string, Read>> readers = {{"sheet.mdt", ReadDataFile},
+                                                               {"matrix.mtx", ReadMatrixFile},
+                                                               {"diagram.dgr", ReadDiagramFile},
+                                                               {"older_sheet.mdt", ReadOldDataFile},
+                                                               {"older_matrix.mtx", ReadOldMatrixFile},
+                                                               {"older_diagram.dgr", ReadOldDiagramFile}};
+    ReadDataFile(session, goldenFile("sheet.mdt"));
+    ChildWindow* const active = session.ActiveWindow;
+    for (const auto& [name, read] : readers) {
+        messages.shown.clear();
+        children.memoryEnds = true;
+        const std::string path = goldenFile(name);
+        read(session, path);
+        EXPECT_EQ(texts(), std::vector<std::string>{"The memory does not hold the file. File: " + path});
+        EXPECT_EQ(windows(), 1u) << name;
+        EXPECT_EQ(session.ActiveWindow, active) << name;
+        EXPECT_EQ(FindFreeDataSlot(session), 2) << name; // the slots are free again
+        EXPECT_EQ(FindFreeMatrixSlot(session), 1) << name;
+        EXPECT_EQ(FindFreeDiagramSlot(session), 1) << name;
+        session.DataStates.at(2).Deleted = true;
+        session.MatrixStates.at(1).Deleted = true;
+        session.DiagramStates.at(1).Deleted = true;
+    }
 }
 
 TEST_F(DocumentBytes, EveryReaderRefusesUtf16AndReadsTheMarkOfUtf8Over) {

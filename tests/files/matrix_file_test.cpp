@@ -153,6 +153,14 @@ TEST(OlderMatrixFile, ReadsTheGoldenFile) {
     EXPECT_EQ(matrix.Cells, Three.Cells);
 }
 
+TEST(OlderMatrixFile, UnderACommaLocaleTheCellsHaveCommas) {
+    DistanceMatrix matrix;
+    const OlderBytes bytes = OlderHeader(1).text("R", 15).float32(-1234.5f);
+    ParseOldMatrixFile(bytes.bytes(), CommaText(), matrix);
+    EXPECT_EQ(matrix.Cells(1, 1), "-1234,5");
+    EXPECT_NE(ComposeMatrixFile(matrix, "", CommaText()).find("\r\n-1234,500\r\n"), std::string::npos);
+}
+
 TEST(OlderMatrixFile, CountsBelowOneAreFaults) {
     EXPECT_EQ(FaultOfOlder(OlderHeader(0).bytes()), "Byte 51: the count 0 is below 1. File: f");
     EXPECT_EQ(FaultOfOlder(OlderHeader(-5).bytes()), "Byte 51: the count -5 is below 1. File: f");

@@ -31,7 +31,10 @@ check_includes() {
 check_toolkit() {
     local room=$1
     case $room in
-    painting | desktop) ;;
+    desktop) ;;
+    painting)
+        ! grep -rnE '#include <(Q[A-Za-z]*(Widget|Window|Dialog|BoxLayout|GridLayout|FormLayout)\b|QtWidgets)' "src/$room" >&2 ||
+            complain "src/$room knows widgets" ;;
     *)
         ! grep -rnE '#include <Q[A-Z]' --include='*.h' --include='*.cpp' "src/$room" >&2 ||
             complain "src/$room knows the toolkit" ;;

@@ -138,6 +138,18 @@ TEST_F(MakingDiagram, BeepsAndEndsWhileADiagramIsBeingMade) {
     EXPECT_EQ(session.DiagramBusy, 1);
 }
 
+TEST_F(MakingDiagram, OnlyAFlagOfOneIsBusy) {
+    OpenSheet(Zigzag);
+    for (const std::int32_t flag : {2, -1}) {
+        session.DiagramBusy = flag;
+        Options();
+        MakeDiagram(session);
+        EXPECT_EQ(signals.beeps, 0);
+        ActivateChild(session, *session.DataWindows.at(1));
+    }
+    EXPECT_TRUE(AnyDiagram());
+}
+
 TEST_F(MakingDiagram, FewerThanTwoRecordsAreRefused) {
     const Message refusal{.Text = "The number of records is less than 2. How make diagram?",
                           .Icon = MessageIcon::Critical};
@@ -427,11 +439,26 @@ TEST_F(MakingDiagram, MatrixCellsAreReadInTheProcessesOwnLocale) {
 }
 
 TEST_F(MakingDiagram, NegativeDistanceOfAMatrixHasNoClass) {
+    Rows rows = MatrixRows(6);
+    rows[0][2] = rows[1][1] = "-3";
+    OpenMatrix(rows);
+    Options();
+    MakeDiagram(session);
+    EXPECT_EQ(Document().Matrix(1, 2), -3);
+    EXPECT_GT(Document().SectionLimits(1), 0);
+    for (std::int32_t i = 1; i <= 6; ++i)
+        for (std::int32_t j = 1; j <= 6; ++j)
+            EXPECT_EQ(Document().Classes(i, j) == 6, i + j == 3) << i << "," << j;
+}
+
+TEST_F(MakingDiagram, NegativeDistancesCountForTheLimits) {
     OpenMatrix({{"a", "0", "-3", "2"}, {"b", "-3", "0", "1"}, {"c", "2", "1", "0"}});
     OrderedOptions();
     MakeDiagram(session);
     EXPECT_EQ(Document().Matrix.Cells(), (Floats{0, -3, 2, -3, 0, 1, 2, 1, 0}));
     EXPECT_EQ(Document().SectionLimits.Cells(), (Floats{-3, -3, 2, 2}));
+    // All from the second limit up to the third are of class 3; 2 reaches the fourth.
+    EXPECT_EQ(Document().Classes.Cells(), (std::vector<std::int16_t>{3, 3, 1, 3, 3, 3, 1, 3, 3}));
 }
 
 TEST_F(MakingDiagram, MatrixDiagramKeepsWhatTheSlotsRecordHeld) {

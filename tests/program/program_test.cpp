@@ -7,16 +7,20 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 namespace dorvan::test {
 namespace {
+
+// Who keeps the journal registers it; a run without a screen has none.
+constexpr std::string_view OfTheJournal = "ReopenClosedDocument";
 
 TEST(Compose, EveryOperationThatACommandNamesIsRegistered) {
     TestSession test;
     Compose(test.session);
     const frmMDI main(test.session);
     for (const auto& operation : test.session.commands.Operations())
-        EXPECT_TRUE(test.session.commands.Has(operation)) << operation;
+        EXPECT_NE(test.session.commands.Has(operation), operation == OfTheJournal) << operation;
 }
 
 TEST(Register, PassesThePathOrTheNumberThatAnOperationTakes) {

@@ -4,7 +4,7 @@
 #include "files/diagram_documents.h"
 #include "files/matrix_documents.h"
 #include "program/open_document.h"
-#include "program/program.h"
+#include "program_session.h"
 #include "session/children.h"
 #include "session/registry.h"
 #include "sheet/frmNotePad.h"
@@ -16,6 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace dorvan::test {
 
@@ -28,33 +29,18 @@ using ::testing::IsEmpty;
 constexpr const char* Time = "2026-11-21 10-30-05";
 constexpr const char* FolderName = "Dorvan rescued documents";
 
-class RescueTest : public ::testing::Test {
+class RescueTest : public ProgramSession {
 protected:
-    RescueTest() { Compose(made.session); }
-
-    // A sheet of three records and two variables in a window of its own.
-    frmNotePad& NewSheet() {
-        auto& session = made.session;
-        session.NewWindowIndex = FindFreeDataSlot(session);
-        PutIntoRegistry(session, DocumentKind::Data, std::make_shared<frmNotePad>(session));
-        auto& window = DataWindow(session, session.NewWindowIndex);
-        session.tables.RecordNames = Names(3);
-        session.tables.VariableNames = Names(2);
-        session.tables.DataValues = FloatTable(3, 2);
-        for (int record = 1; record <= 3; ++record) {
-            session.tables.RecordNames(record) = std::string("rec") + char('0' + record);
-            for (int variable = 1; variable <= 2; ++variable)
-                session.tables.DataValues(record, variable) = float(record * variable);
+    RescueFolders Folders() const { return RescueFoldersOf(folder.path(), folder / "state/dorvan"); }
+    // With the names in the folder in the place of paths.
+    RescueReport Rescue() {
+        RescueReport report = RescueDocuments(made.session, Folders(), Time);
+        for (auto& path : report.Written) {
+            EXPECT_EQ(path.find(folder / FolderName), 0u) << path;
+            path = std::filesystem::path(path).filename().string();
         }
-        session.tables.VariableNames(1) = "a";
-        session.tables.VariableNames(2) = "b";
-        window.Caption = UntitledCaption(DocumentKind::Data, session.NewWindowIndex);
-        window.Present("some towns");
-        ShowChild(session, window);
-        return window;
+        return report;
     }
-
-    RescueReport Rescue() { return RescueDocuments(made.session, folder.path(), Time); }
     std::string Rescued(const std::string& name) { return folder / (std::string(FolderName) + "/" + name); }
     std::vector<std::string> NamesToRescue() {
         std::vector<std::string> failures;
@@ -63,9 +49,6 @@ protected:
         EXPECT_THAT(failures, IsEmpty());
         return names;
     }
-
-    TemporaryFolder folder;
-    TestSession made;
 };
 
 } // namespace
@@ -81,7 +64,6 @@ TEST_F(RescueTest, AnUntitledSheetIsNamedAfterItsCaptionAndTheTimeAndOpensAgain)
     NewSheet();
     const RescueReport report = Rescue();
     EXPECT_THAT(report.Written, ElementsAre("untitled-1 2026-11-21 10-30-05.mdt"));
-    EXPECT_EQ(report.Folder, folder / FolderName);
     const std::string path = Rescued(report.Written.front());
     EXPECT_EQ(fileBytes(path), "Dorvan DATA 3.3\r\n\r\n[HEADER]\r\nDescription=some towns\r\nRecCount=3\r\n"
                                "VarCount=2\r\n\r\n[RECORD_LABEL]\r\nrec1\r\nrec2\r\nrec3\r\n\r\n"
@@ -155,20 +137,97 @@ TEST_F(RescueTest, NoCopyTakesTheNameOfAnother) {
     EXPECT_TRUE(std::filesystem::exists(Rescued("untitled-1 2026-11-21 10-30-05.mdt")));
 }
 
-TEST_F(RescueTest, AFolderThatCannotBeMadeIsReportedAndNothingThrown) {
+mode_t ModeOf(const std::string& path) {
+    struct stat status {};
+    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777;
+}
+
+TEST_F(RescueTest, CopiesAreForTheirOwnerAlone) {
+    NewSheet();
+    const mode_t mask = ::umask(0);
+    const RescueReport report = Rescue();
+    ::umask(mask);
+    EXPECT_EQ(ModeOf(folder / FolderName), mode_t(0700));
+    EXPECT_EQ(ModeOf(Rescued(report.Written.front())), mode_t(0600));
+}
+
+TEST_F(RescueTest, WhereTheFirstFolderCannotBeMadeTheCopiesGoIntoTheSecond) {
     NewSheet();
     writeFile(folder / FolderName, "a file in the way");
-    const RescueReport report = Rescue();
+    const RescueReport report = RescueDocuments(made.session, Folders(), Time);
+    EXPECT_THAT(report.Failures, IsEmpty());
+    const std::string path = folder / "state/dorvan/rescued/untitled-1 2026-11-21 10-30-05.mdt";
+    EXPECT_THAT(report.Written, ElementsAre(path));
+    EXPECT_EQ(ModeOf(folder / "state/dorvan/rescued"), mode_t(0700));
+    EXPECT_EQ(RescueText(report), "Copies of documents that no file holds:\n  " + path);
+}
+
+TEST_F(RescueTest, WithoutAnyFolderTheFailureIsReportedAndNothingThrown) {
+    NewSheet();
+    writeFile(folder / FolderName, "a file in the way");
+    writeFile(folder / "state", "another one");
+    const RescueReport report = RescueDocuments(made.session, Folders(), Time);
     EXPECT_THAT(report.Written, IsEmpty());
     ASSERT_EQ(report.Failures.size(), 1u);
     EXPECT_THAT(RescueText(report),
                 HasSubstr("These could not be rescued:\n  untitled-1 2026-11-21 10-30-05.mdt: "));
 }
 
+TEST_F(RescueTest, ALongNameIsCutBetweenTwoCharacters) {
+    auto& window = NewSheet();
+    std::string name;
+    for (int i = 0; i < 100; ++i) name += "ż"; // two bytes each
+    window.Caption = "[DATA]: /home/ann/" + name + ".mdt";
+    RescueReport report = Rescue();
+    ASSERT_EQ(report.Written.size(), 1u);
+    EXPECT_EQ(report.Written[0], name.substr(0, 150) + " 2026-11-21 10-30-05.mdt");
+    window.Caption = "[DATA]: /home/ann/a" + name + ".mdt";
+    report = Rescue();
+    EXPECT_EQ(report.Written[0], "a" + name.substr(0, 148) + " 2026-11-21 10-30-05.mdt");
+}
+
+TEST_F(RescueTest, AFileInTheStyleOfAnotherLocaleHoldsItsDocument) {
+    auto& window = NewSheet();
+    made.files.paths = {folder / "Towns.mdt"};
+    SaveData(made.session);
+    std::string comma = fileBytes(folder / "Towns.mdt");
+    for (auto& sign : comma)
+        if (sign == '.' && &sign > comma.data() + 20) sign = ',';
+    writeFile(folder / "Towns.mdt", comma);
+    EXPECT_THAT(NamesToRescue(), IsEmpty());
+    window.Grid1.SetText(1, 2, "9.000");
+    EXPECT_THAT(NamesToRescue(), ElementsAre("towns 2026-11-21 10-30-05.mdt"));
+}
+
+TEST_F(RescueTest, ASheetSavedWithAnEmptyCellIsHeldByItsFile) {
+    NewSheet().Grid1.SetText(1, 2, "");
+    made.files.paths = {folder / "Towns.mdt"};
+    SaveData(made.session);
+    EXPECT_THAT(NamesToRescue(), IsEmpty());
+}
+
+TEST_F(RescueTest, ADocumentOfAnOlderFileIsHeldByIt) {
+    ReadDocument(made.session, sourcePath("tests/files/older_sheet.mdt"));
+    ReadDocument(made.session, sourcePath("tests/files/older_matrix.mtx"));
+    EXPECT_EQ(made.session.Children.size(), 2u);
+    EXPECT_THAT(NamesToRescue(), IsEmpty());
+}
+
+// The silent save clears the mark of a change all the same.
+TEST_F(RescueTest, ASaveThatFailedIsRescued) {
+    NewSheet();
+    made.files.paths = {folder / "none/Towns.mdt"};
+    SaveData(made.session);
+    EXPECT_FALSE(made.session.DataStates.at(1).Dirty);
+    EXPECT_THAT(NamesToRescue(), ElementsAre("towns 2026-11-21 10-30-05.mdt"));
+}
+
 TEST_F(RescueTest, TheTextSaysWhereTheCopiesAre) {
     NewSheet();
-    EXPECT_EQ(RescueText(Rescue()), "Copies of documents that no file holds are in the folder\n" +
-                                        (folder / FolderName) + "\n  untitled-1 2026-11-21 10-30-05.mdt");
+    EXPECT_EQ(RescueText(RescueDocuments(made.session, Folders(), Time)),
+              "Copies of documents that no file holds:\n  " + folder / FolderName +
+                  "/untitled-1 2026-11-21 10-30-05.mdt");
 }
 
 TEST_F(RescueTest, AClosedWindowIsNotRescued) {

@@ -9,7 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <clocale>
 #include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <string>
 
 namespace dorvan::test {
 namespace {
@@ -33,6 +37,40 @@ TEST(StartSession, NamesTheVersionInTheCaption) {
     TestSession test;
     EXPECT_EQ(test.session.mainWindow.Caption, "Dorvan 3.3.44");
     EXPECT_EQ(MainCaption({.Major = 10, .Minor = 0, .Revision = 7}), "Dorvan 10.0.7");
+}
+
+// The locale of the process for as long as it lives.
+class Locale {
+public:
+    explicit Locale(const char* name) {
+        if (const char* before = std::getenv("LC_ALL")) before_ = before;
+        ::setenv("LC_ALL", name, 1);
+        if (!std::setlocale(LC_ALL, "")) ADD_FAILURE() << "the locale for tests is missing: " << name;
+    }
+    ~Locale() {
+        ::unsetenv("LC_ALL");
+        if (before_) ::setenv("LC_ALL", before_->c_str(), 1);
+        std::setlocale(LC_ALL, "C");
+    }
+    Locale(const Locale&) = delete;
+    Locale& operator=(const Locale&) = delete;
+
+private:
+    std::optional<std::string> before_;
+};
+
+TEST(StartSession, TakesSeparatorAndCodePageFromTheLocale) {
+    TestSession test;
+    {
+        const Locale polish("pl_PL.UTF-8");
+        StartSession(test.session, 1, "");
+        EXPECT_EQ(test.session.DecimalSeparator, ',');
+        EXPECT_EQ(test.session.codePage.Number(), 1250);
+    }
+    const Locale plain("C");
+    StartSession(test.session, 1, "");
+    EXPECT_EQ(test.session.DecimalSeparator, '.');
+    EXPECT_EQ(test.session.codePage.Number(), 1252);
 }
 
 TEST(StartSession, SetsTheDefaults) {

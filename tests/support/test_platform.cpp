@@ -1,5 +1,8 @@
 #include "support/test_platform.h"
 
+#include <new>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -63,7 +66,10 @@ void ScriptedForms::close(Form& form) {
     form.Visible = false;
 }
 
-void RecordingChildren::show(ChildWindow& window) { log.push_back("show " + window.Caption); }
+void RecordingChildren::show(ChildWindow& window) {
+    if (std::exchange(memoryEnds, false)) throw std::bad_alloc();
+    log.push_back("show " + window.Caption);
+}
 void RecordingChildren::update(ChildWindow& window) { log.push_back("update " + window.Caption); }
 void RecordingChildren::close(ChildWindow& window) { log.push_back("close " + window.Caption); }
 void RecordingChildren::arrange(int mode) { log.push_back("arrange " + std::to_string(mode)); }

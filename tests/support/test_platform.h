@@ -47,6 +47,7 @@ public:
 class RecordingChildren : public ChildDisplay {
 public:
     std::vector<std::string> log; // "show [DATA]: Untitled:1", "close ...", "arrange 1"
+    bool memoryEnds = false;      // at the next showing
     void show(ChildWindow& window) override;
     void update(ChildWindow& window) override;
     void close(ChildWindow& window) override;

@@ -343,6 +343,16 @@ TEST(DiagramMoves, DownComparesWithTheGridsRows) {
     EXPECT_EQ(NamesOf(window), "ABCD");
 }
 
+TEST(DiagramMoves, EndComparesWithTheDocumentsRecords) {
+    DiagramSession at;
+    auto& window = OpenSelected(at, 4, 4);
+    window.Siatka.SetSize(8, window.Siatka.Columns()); // the grid goes on behind the last record
+    window.EndRow();
+    EXPECT_EQ(at.signals.beeps, 1);
+    EXPECT_EQ(NamesOf(window), "ABCD");
+    EXPECT_EQ(window.SelectedRow, 4);
+}
+
 TEST(DiagramMoves, FollowEachOtherWithTheRecord) {
     DiagramSession at;
     auto& window = OpenSelected(at, 5, 2); // B

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "program/journal_folder.h"
+#include "session/session.h"
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+// Copies of all open documents that no file holds, kept while the program runs, so that no end of it loses
+// them.
+namespace dorvan {
+
+class Journal {
+public:
+    // How long changes may go unseen; the writing comes on top.
+    static constexpr double SecondsBetweenLooks = 1.0;
+
+    // Work that another thread does, one piece after the other.
+    using Background = std::function<void(std::function<void()>)>;
+
+    // The folder is touched by pieces of background work alone.
+    Journal(JournalFolder& folder, Background background);
+
+    // Hands over what has changed since the last look; nothing before the time has come. `seconds` of a clock
+    // that never goes back.
+    void Look(const Session& session, double seconds);
+
+    // A document that no file holds is kept when its window closes.
+    void DocumentCloses(const Session& session, const ChildWindow& window);
+
+    // Keeps what is open now, which holds all that other runs have left, and drops those.
+    void TakeOver(const Session& session);
+
+    // A clean end. What is still open (the user did not answer a question and left all the same) is closed.
+    void EndCleanly(const Session& session);
+
+private:
+    // What tells a changed document from the one seen last, without a look at its cells.
+    struct Seen {
+        std::weak_ptr<const ChildWindow> Window;
+        std::uint64_t Number = 0;
+        std::string State;
+    };
+
+    void LookAt(const Session& session, const std::shared_ptr<ChildWindow>& window);
+    void ForgetClosed(const Session& session);
+
+    JournalFolder& folder_;
+    Background background_;
+    std::map<const ChildWindow*, Seen> seen_;
+    std::uint64_t last_ = 0;
+    double next_ = 0;
+};
+
+// Opens a document of the journal as it was: under its own file's name, or untitled, and changed. False when
+// it could not be opened; a message has said why.
+bool Reopen(Session& session, const LeftDocument& document);
+
+// Offers what other runs have left. True when it was opened and has to be taken over by this run's journal;
+// otherwise it is among the closed documents.
+bool OfferLeftDocuments(Session& session, JournalFolder& folder);
+
+// The command that opens the document closed last again.
+void ReopenClosedDocument(Session& session, JournalFolder& folder);
+
+} // namespace dorvan
