@@ -9,5 +9,8 @@ cmark-gfm --extension table "$1" | sed -E '
     :blank
     s|(<h[1-6] id="[^"]*) |\1-|
     t blank
+    :mark
+    s|(<h[1-6] id="[^",.():]*)[,.():]|\1|
+    t mark
     s|href="([A-Za-z-]+)\.md([#"])|href="\1.html\2|g'
 printf '</body>\n</html>\n'

@@ -1,4 +1,5 @@
 #include "command_line.h"
+#include "support/disk_limits.h"
 #include "support/golden.h"
 
 #include <gtest/gtest.h>
@@ -146,9 +147,19 @@ TEST_F(Results, WhatCannotBeWrittenIsTold) {
 
 TEST_F(Results, FullDiskIsTold) {
     for (const char* what : {"text", "excel"}) {
+        const FileSizeLimit limit(512); // more than the message takes, less than the file
+        const Outcome outcome = runCli({"export", what, sample("iris.mdt"), out("full")});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_NE(outcome.err.find("File too large"), std::string::npos) << outcome.err;
+        EXPECT_FALSE(fs::exists(out("full")));
+    }
+}
+
+TEST_F(Results, ADeviceIsNoTarget) {
+    for (const char* what : {"text", "excel"}) {
         const Outcome outcome = runCli({"export", what, sheet, "/dev/full"});
         EXPECT_EQ(outcome.status, 1);
-        EXPECT_NE(outcome.err.find("No space left on device"), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find("This is not a regular file"), std::string::npos) << outcome.err;
     }
 }
 

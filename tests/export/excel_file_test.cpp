@@ -1,8 +1,8 @@
 #include "export/excel_file.h"
 
 #include "excel_bytes.h"
-#include "files/disk_limits.h"
 #include "numbers/runtime_failure.h"
+#include "support/disk_limits.h"
 #include "support/golden.h"
 
 #include <gtest/gtest.h>

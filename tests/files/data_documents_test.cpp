@@ -1,8 +1,8 @@
 #include "files/data_documents.h"
-#include "files/disk_limits.h"
 #include "files/files_session.h"
 #include "files/older_bytes.h"
 #include "session/children.h"
+#include "support/disk_limits.h"
 
 #include <filesystem>
 
@@ -304,8 +304,7 @@ TEST_F(DataDocuments, SaveAsLeavesTheCaptionAndUpdatesTheRecentFiles) {
 TEST_F(DataDocuments, SaveAsWritesBeforeItUpdatesTheRecentFiles) {
     newSheet();
     std::string bytesThen;
-    session.commands.Set("UpdateRecentFiles",
-                         [&](const CommandCall& call) { bytesThen = fileBytes(call.Path); });
+    settings.onWrite = [&](const std::string&, const std::string& path) { bytesThen = fileBytes(path); };
     files.paths = {folder / "Copy.mdt"};
     SaveDataAs(session);
     EXPECT_EQ(bytesThen, sheetBytes("1.500"));

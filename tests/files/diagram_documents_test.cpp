@@ -1,9 +1,9 @@
 #include "files/diagram_documents.h"
 #include "files/diagram_file.h"
-#include "files/disk_limits.h"
 #include "files/files_session.h"
 #include "files/older_bytes.h"
 #include "session/children.h"
+#include "support/disk_limits.h"
 #include "view/frmDiagram.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "files/disk.h"
-#include "files/disk_limits.h"
 #include "files/faults.h"
 #include "files/new_file.h"
+#include "support/disk_limits.h"
 #include "support/golden.h"
 
 #include <cstdint>

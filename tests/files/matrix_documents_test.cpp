@@ -1,8 +1,8 @@
 #include "distance/frmMacierz.h"
-#include "files/disk_limits.h"
 #include "files/files_session.h"
 #include "files/matrix_documents.h"
 #include "session/children.h"
+#include "support/disk_limits.h"
 #include "support/expect_failure.h"
 
 #include <filesystem>

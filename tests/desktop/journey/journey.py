@@ -140,7 +140,7 @@ def a_run_time_failure():
         keys("alt+e", "d")
         wait_for("failure box", lambda: dorvan.has_label("Run-time error '9': Subscript out of range"))
         screenshot("failure.png")
-        if not dorvan.has_label("Copies of documents that no file holds are in the folder"):
+        if not dorvan.has_label("The program closes now.\n\nCopies of documents that no file holds:\n"):
             raise Failed("the box does not say where the copies are")
         keys("Return")
         if dorvan.end() == 0:

@@ -2,6 +2,7 @@
 
 import os
 import subprocess
+import tempfile
 import time
 
 import gi
@@ -67,10 +68,11 @@ def walk(accessible):
 
 
 class Program:
-    """One run of the program, from outside."""
+    """One run of the program, from outside; with the state of another run when a folder of states is given."""
 
-    def __init__(self, path, *arguments):
-        self.process = subprocess.Popen([path, *arguments], stderr=subprocess.PIPE, text=True)
+    def __init__(self, path, *arguments, states=None):
+        environment = {**os.environ, "XDG_STATE_HOME": states or tempfile.mkdtemp()}
+        self.process = subprocess.Popen([path, *arguments], stderr=subprocess.PIPE, text=True, env=environment)
         self.root = wait_for("program on the accessibility bus", self._application)
         wait_for("main window in front", self._bring_to_front)
         time.sleep(0.3)
