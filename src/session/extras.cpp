@@ -15,6 +15,10 @@ namespace dorvan {
 std::vector<CommandRow> ExtrasRows() {
     return {
         // Orders of diagrams
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasBestOrder",
+         .Caption = "&Best order",
+         .Calls = {.Diagram = "frmDiagram.BestOrder"}},
 
         // What a window shows
 
