@@ -3,6 +3,7 @@
 #include "program/journal_folder.h"
 #include "session/session.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -17,6 +18,8 @@ class Journal {
 public:
     // How long changes may go unseen; the writing comes on top.
     static constexpr double SecondsBetweenLooks = 1.0;
+    // After a failure of the disk all is written once more.
+    static constexpr double SecondsBetweenRetries = 10.0;
 
     // Work that another thread does, one piece after the other.
     using Background = std::function<void(std::function<void()>)>;
@@ -25,7 +28,8 @@ public:
     Journal(JournalFolder& folder, Background background);
 
     // Hands over what has changed since the last look; nothing before the time has come. `seconds` of a clock
-    // that never goes back.
+    // that never goes back. Fails with the failure of a document that could not be copied once all others
+    // are.
     void Look(const Session& session, double seconds);
 
     // A document that no file holds is kept when its window closes.
@@ -47,12 +51,15 @@ private:
 
     void LookAt(const Session& session, const std::shared_ptr<ChildWindow>& window);
     void ForgetClosed(const Session& session);
+    void InBackground(std::function<void()> piece); // one that will be tried again
 
     JournalFolder& folder_;
     Background background_;
     std::map<const ChildWindow*, Seen> seen_;
     std::uint64_t last_ = 0;
     double next_ = 0;
+    double retry_ = 0;
+    std::atomic<bool> failed_ = false; // set by background work
 };
 
 // Opens a document of the journal as it was: under its own file's name, or untitled, and changed. False when

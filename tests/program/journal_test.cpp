@@ -294,11 +294,51 @@ TEST_F(JournalTest, TheCodePageOfTheRunComesWithTheDocument) {
     EXPECT_EQ(made.session.codePage.Number(), 1252);
 }
 
-TEST_F(JournalTest, ADiskThatFailsIsTheWorksOwnFailure) {
+TEST_F(JournalTest, ADiskThatFailsIsTheWorksOwnFailureAndTriedAgainInAWhile) {
     NewSheet();
+    run->atOnce = false;
     fs::create_directories(folder / "state");
     writeFile(State(), "a file in the way");
-    EXPECT_THROW(Look(10), std::exception); // out of the background work, which here is done at once
+    Look(10);
+    ASSERT_EQ(run->waiting.size(), 1u);
+    EXPECT_THROW(run->waiting[0](), std::exception);
+    fs::remove(State());
+    run->atOnce = true;
+    Look(20);
+    EXPECT_EQ(Kept().size(), 1u) << "nothing has changed but the disk";
+    const int pieces = run->pieces;
+    Look(40);
+    EXPECT_EQ(run->pieces, pieces);
+}
+
+TEST_F(JournalTest, AfterAFailureTheDiskIsNotTriedAtEveryLook) {
+    NewSheet();
+    run->atOnce = false;
+    fs::create_directories(folder / "state");
+    writeFile(State(), "a file in the way");
+    for (int second = 10; second < 20; ++second) {
+        Look(second);
+        for (const auto& piece : run->waiting) EXPECT_THROW(piece(), std::exception);
+        run->waiting.clear();
+    }
+    EXPECT_EQ(run->pieces, 2); // the first, and one more
+}
+
+// A window whose document the memory does not hold once more; here its record is missing.
+TEST_F(JournalTest, OneDocumentThatCannotBeCopiedCostsTheOthersNothing) {
+    NewSheet();
+    made.forms.scripts = {[](Form& form) { form.Hide(); }};
+    made.session.DialogOutcome = 1;
+    made.session.CurrentDistType = 3;
+    made.session.commands.Call("MakeMatrix");
+    ASSERT_EQ(made.session.Children.size(), 2u);
+    made.session.MatrixDocuments.clear();
+    NewSheet();
+    EXPECT_THROW(Look(10), std::exception);
+    EXPECT_EQ(Kept().size(), 2u);
+    run->journal.EndCleanly(made.session);
+    EXPECT_EQ(Kept().size(), 2u) << "what could not be kept as closed stays for the next start";
+    made.session.MatrixDocuments.resize(made.session.MatrixWindows.size());
 }
 
 } // namespace
