@@ -85,16 +85,12 @@ void JournalKeeper::WaitForAll() {
 
 void JournalKeeper::OfferLeftDocuments() {
     WaitForAll();
-    dispatch_.Run([this] {
-        Try([this] {
-            if (dorvan::OfferLeftDocuments(session_, folder_)) journal_.TakeOver(session_);
-        });
-    });
+    dispatch_.Run([this] { Try([this] { dorvan::OfferLeftDocuments(session_, folder_, journal_); }); });
 }
 
 void JournalKeeper::Reopen() {
     WaitForAll();
-    Try([this] { ReopenClosedDocument(session_, folder_); });
+    Try([this] { ReopenClosedDocument(session_, folder_, journal_); });
 }
 
 void JournalKeeper::EndCleanly() {

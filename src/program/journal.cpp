@@ -133,10 +133,25 @@ void Journal::DocumentCloses(const Session& session, const ChildWindow& window) 
     });
 }
 
-void Journal::TakeOver(const Session& session) {
+// What is dropped is the last copy until then.
+void Journal::KeepAndThen(const Session& session, std::function<void()> drop) {
     next_ = 0;
     Look(session, 0);
-    background_([this] { folder_.RemoveOtherRuns(); });
+    InBackground([this, drop = std::move(drop)] {
+        if (!failed_) drop();
+    });
+}
+
+void Journal::TakeOverOtherRuns(const Session& session) {
+    KeepAndThen(session, [this] { folder_.RemoveOtherRuns(); });
+}
+
+void Journal::TakeOver(const Session& session, const LeftDocument& document) {
+    KeepAndThen(session, [this, document] { folder_.Remove(document); });
+}
+
+void Journal::CloseOtherRuns() {
+    InBackground([this] { folder_.CloseOtherRuns(); });
 }
 
 void Journal::EndCleanly(const Session& session) {
@@ -162,30 +177,30 @@ bool Reopen(Session& session, const LeftDocument& document) {
     return true;
 }
 
-bool OfferLeftDocuments(Session& session, JournalFolder& folder) {
+void OfferLeftDocuments(Session& session, const JournalFolder& folder, Journal& journal) {
     const auto left = folder.LeftByOtherRuns();
     const auto opens = [&](const LeftDocument& document) { return Reopen(session, document); };
-    bool opened = false;
-    if (!left.empty()) {
-        const Message question{.Text = fmt::format("Dorvan ended before these documents were saved:{}\r\n\r\n"
-                                                   "Open them again?",
-                                                   ListOf(left)),
-                               .Icon = MessageIcon::Question,
-                               .Buttons = MessageButtons::YesNo};
-        opened = session.platform.messages.show(question) == Answer::Yes &&
-                 std::count_if(left.begin(), left.end(), opens) == std::ptrdiff_t(left.size());
-    }
-    if (!opened) folder.CloseOtherRuns();
-    return opened;
+    if (left.empty()) return journal.CloseOtherRuns();
+    const Message question{.Text = fmt::format("Dorvan ended before these documents were saved:{}\r\n\r\n"
+                                               "Open them again?",
+                                               ListOf(left)),
+                           .Icon = MessageIcon::Question,
+                           .Buttons = MessageButtons::YesNo};
+    const bool opened = session.platform.messages.show(question) == Answer::Yes &&
+                        std::count_if(left.begin(), left.end(), opens) == std::ptrdiff_t(left.size());
+    if (opened)
+        journal.TakeOverOtherRuns(session);
+    else
+        journal.CloseOtherRuns();
 }
 
-void ReopenClosedDocument(Session& session, JournalFolder& folder) {
+void ReopenClosedDocument(Session& session, const JournalFolder& folder, Journal& journal) {
     const auto document = folder.LastClosed();
     if (!document) {
         session.platform.signals.beep();
         return;
     }
-    if (Reopen(session, *document)) folder.Remove(*document);
+    if (Reopen(session, *document)) journal.TakeOver(session, *document);
 }
 
 } // namespace dorvan

@@ -35,8 +35,12 @@ public:
     // A document that no file holds is kept when its window closes.
     void DocumentCloses(const Session& session, const ChildWindow& window);
 
-    // Keeps what is open now, which holds all that other runs have left, and drops those.
-    void TakeOver(const Session& session);
+    // Keeps what is open now, which holds all that other runs have left, and then drops those.
+    void TakeOverOtherRuns(const Session& session);
+    // The same for one document that is open again.
+    void TakeOver(const Session& session, const LeftDocument& document);
+    // What other runs have left is kept among the closed documents.
+    void CloseOtherRuns();
 
     // A clean end. What is still open (the user did not answer a question and left all the same) is closed.
     void EndCleanly(const Session& session);
@@ -52,6 +56,7 @@ private:
     void LookAt(const Session& session, const std::shared_ptr<ChildWindow>& window);
     void ForgetClosed(const Session& session);
     void InBackground(std::function<void()> piece); // one that will be tried again
+    void KeepAndThen(const Session& session, std::function<void()> drop);
 
     JournalFolder& folder_;
     Background background_;
@@ -66,11 +71,10 @@ private:
 // it could not be opened; a message has said why.
 bool Reopen(Session& session, const LeftDocument& document);
 
-// Offers what other runs have left. True when it was opened and has to be taken over by this run's journal;
-// otherwise it is among the closed documents.
-bool OfferLeftDocuments(Session& session, JournalFolder& folder);
+// Offers what other runs have left and takes it over. What is not wanted is among the closed documents then.
+void OfferLeftDocuments(Session& session, const JournalFolder& folder, Journal& journal);
 
 // The command that opens the document closed last again.
-void ReopenClosedDocument(Session& session, JournalFolder& folder);
+void ReopenClosedDocument(Session& session, const JournalFolder& folder, Journal& journal);
 
 } // namespace dorvan
