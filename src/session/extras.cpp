@@ -17,6 +17,25 @@ std::vector<CommandRow> ExtrasRows() {
         // Orders of diagrams
 
         // What a window shows
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomIn",
+         .Caption = "Zoom &In",
+         .Shortcut = "Ctrl++",
+         .Calls = {.Diagram = "frmDiagram.ZoomIn"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomOut",
+         .Caption = "Zoom &Out",
+         .Shortcut = "Ctrl+-",
+         .Calls = {.Diagram = "frmDiagram.ZoomOut"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomActual",
+         .Caption = "&Actual Size",
+         .Shortcut = "Ctrl+0",
+         .Calls = {.Diagram = "frmDiagram.ZoomActual"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomFit",
+         .Caption = "&Fit",
+         .Calls = {.Diagram = "frmDiagram.ZoomFit"}},
 
         // Sheets and their cells
 
