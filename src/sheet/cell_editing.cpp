@@ -215,8 +215,10 @@ void frmNotePad::CommitCell(int key) {
         EditPanel.Visible = false;
     else
         EndEdit();
+    // The loss of focus that the field tells while events run is no end of its own.
+    auto before = std::exchange(before_, std::nullopt);
     const auto refusal = WriteCell(text);
-    KeepStep();
+    if (before) RecordCellEdit(session_, *this, EditRow, EditCol, std::move(*before));
     if (refusal) {
         session_.platform.messages.show(*refusal);
         return;
