@@ -1,5 +1,6 @@
 #include "cli/cli_platform.h"
 
+#include "making/frmBestOrder.h"
 #include "making/frmWork.h"
 #include "making/frmWorkUM.h"
 #include "numbers/text.h"
@@ -19,9 +20,20 @@ constexpr int BarLength = 30; // characters
 
 std::string OneLine(std::string_view text) { return ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "); }
 
+std::string BarLine(const Bar& track, const Bar& filled, const std::string& text) {
+    const int length = static_cast<int>(filled.Width / track.Width * BarLength);
+    return fmt::format("[{:=<{}}{:<{}}] {}", "", length, "", BarLength - length, text);
+}
+
+std::string ProgressLine(const frmBestOrder& form) {
+    return BarLine(form.Procent, form.Procent1,
+                   fmt::format("{} {}", form.Label1.Caption, form.lblCriterion.Caption));
+}
+
 std::string ProgressLine(const frmWork& form) {
-    return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
-                       form.lblFunkcja.Caption);
+    return BarLine(form.Procent, form.Procent1,
+                   fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
+                               form.lblFunkcja.Caption));
 }
 
 std::string ProgressLine(const frmWorkUM& form) {
@@ -80,6 +92,7 @@ void CliPlatform::showModal(Form& form) {
 void CliPlatform::show(Form& form) {
     form.Visible = true;
     running_ = &form;
+    onSearch();
     WatchForInterrupt();
 }
 
@@ -89,10 +102,8 @@ void CliPlatform::update(Form& form) {
     if (!isatty(STDERR_FILENO) || now - shownAt_ < 0.1) return;
     shownAt_ = now;
     std::string line;
-    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) {
-        const int filled = static_cast<int>(genetic->Procent1.Width / genetic->Procent.Width * BarLength);
-        line = fmt::format("[{:=<{}}{:<{}}] {}", "", filled, "", BarLength - filled, ProgressLine(*genetic));
-    }
+    if (const auto* best = dynamic_cast<const frmBestOrder*>(&form)) line = ProgressLine(*best);
+    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) line = ProgressLine(*genetic);
     if (const auto* ravelin = dynamic_cast<const frmWorkUM*>(&form)) line = ProgressLine(*ravelin);
     fmt::print(stderr, "\r{}\x1b[K", line);
 }
