@@ -7,8 +7,6 @@
 #include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"
 
-#include <algorithm>
-
 namespace dorvan::cli {
 
 namespace {
@@ -36,18 +34,6 @@ constexpr RavelinOption RavelinOptions[] = {
     {"--matrix-conversion-coefficient", RavelinParameter::MatrixConversionCoefficient,
      "what distances are multiplied by before rounding to 0..255 (1.0)"}};
 
-// One of some names, which stand for 1, 2 and so on.
-void AddNumbered(Options& options, const char* name, std::optional<std::int16_t>& number,
-                 const std::vector<std::string>& names, const char* help) {
-    options.OneOf(
-        name, names,
-        [&number, names](const std::string& text) {
-            const auto found = std::find(names.begin(), names.end(), text);
-            number = static_cast<std::int16_t>(found - names.begin() + 1);
-        },
-        help);
-}
-
 } // namespace
 
 void AddMeasure(Options& options, MeasureChoices& measure) {
@@ -63,10 +49,10 @@ void AddMeasure(Options& options, MeasureChoices& measure) {
 }
 
 void AddDiagram(Options& options, DiagramChoices& diagram) {
-    AddNumbered(options, "--order", diagram.OrderMethod, {"none", "simple", "genetic", "ravelin"},
-                "none, simple, genetic or ravelin (none)");
-    AddNumbered(options, "--type", diagram.DiagType, {"greyscale", "dots", "classic"},
-                "greyscale, dots or classic (dots)");
+    options.Numbered("--order", diagram.OrderMethod, {"none", "simple", "genetic", "ravelin"},
+                     "none, simple, genetic or ravelin (none)");
+    options.Numbered("--type", diagram.DiagType, {"greyscale", "dots", "classic"},
+                     "greyscale, dots or classic (dots)");
 }
 
 void AddSearches(Options& options, DiagramChoices& diagram) {

@@ -1,4 +1,5 @@
 #include "session/busy.h"
+#include "session/dialog.h"
 #include "view/frmDiagram.h"
 #include "view/frmDiagramType.h"
 #include "view/frmHistogram.h"
@@ -41,7 +42,7 @@ void frmDiagram::Linear() {
 void frmDiagram::DiagramType() {
     session_.NewWindowIndex = Index;
     const std::int16_t before = Document().DiagType;
-    session_.platform.forms.showModal(session_.forms.Load<frmDiagramType>(session_));
+    ShowModally<frmDiagramType>(session_);
     session_.forms.Unload<frmDiagramType>();
     if (Document().DiagType == before) return;
     const WaitCursor waiting(session_.platform);
