@@ -20,14 +20,27 @@ int Make(const Given& given) {
         AnswerDiagram(run.ports, given.diagram);
         run.Open(given.input, {DocumentKind::Data, DocumentKind::Matrix});
         run.Make("MakeDiagram", DocumentKind::Diagram, "no diagram was made");
+        run.TellStatus();
+        if (given.diagram.BestOrder) run.PutInBestOrder();
         run.Save(given.out);
     });
 }
 
 constexpr const char* Footer =
-    "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table that\n"
-    "stands in its best order already, the Ravelin search may find no end by itself.\n\n"
+    "best minimises the 2-SUM: the sum over the pairs of (difference of places)^2 / (1 + distance). It has "
+    "no\n"
+    "parameter, works on distances of every scale and is the one to take where no other is wanted.\n\n"
+    "Ctrl+C once ends a search early: the best order so far is used and the file written.\n\n"
+    "The Ravelin search rounds distance times coefficient to 0..255; what is above counts as 255. Where all\n"
+    "distances are above 255 / coefficient, or all round to one number, it finds no end by itself, and it "
+    "may\n"
+    "find none on a table that stands in its best order already. 255 / the greatest distance is a "
+    "coefficient\n"
+    "that spreads them. The search keeps the order of the sheet where no generation beats the first, and "
+    "says\n"
+    "so where it has seen a better one.\n\n"
     "Examples:\n"
+    "  dorvan-cli diagram iris.mdt iris.dgr --order best\n"
     "  dorvan-cli diagram USArrests.mdt USArrests.dgr --order simple\n"
     "  dorvan-cli diagram Munsingen.mdt graves.dgr --measure jaccard --order ravelin --seed 1 "
     "--matrix-conversion-coefficient 100\n"

@@ -102,7 +102,8 @@ Subcommand MatrixTextSubcommand() {
     const auto given = std::make_shared<Given>();
     Options options = CommonOptions(*given, "delimited text, a line a row", "matrix to write (.mtx)");
     AddSeparator(options, given->matrix);
-    options.Number("--precision", given->matrix.Precision, "decimals that are kept (3)");
+    options.Number<std::int16_t>("--precision", given->matrix.Precision, "decimals that are kept (3)",
+                                 [](std::int16_t precision) { return precision >= 0; });
     return {.Name = "matrix",
             .Help = "Make a matrix from a square of delimited text (at most 250 records)",
             .Takes = options,
