@@ -14,6 +14,19 @@ namespace dorvan {
 
 std::vector<CommandRow> ExtrasRows() {
     return {
+        // Steps taken back; their captions go on with the step's name (see session/history.h)
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasUndo",
+         .Caption = "&Undo",
+         .Shortcut = "Ctrl+Z",
+         .Calls = {.Any = "Undo"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasRedo",
+         .Caption = "&Redo",
+         .Shortcut = "Ctrl+Shift+Z",
+         .Calls = {.Any = "Redo"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
+
         // Orders of diagrams
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasBestOrder",
@@ -27,7 +40,7 @@ std::vector<CommandRow> ExtrasRows() {
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "&Reopen Closed Document",
+         .Caption = "Reopen &Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 

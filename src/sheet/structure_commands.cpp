@@ -7,6 +7,7 @@
 #include "sheet/frmDeleteVar.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/frmVar.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_structure.h"
 
 #include <fmt/format.h>
@@ -39,6 +40,11 @@ void GiveEmptyColumn(Grid& grid, int variable) {
     grid.SetColumnAlignment(column, Alignment::Centre);
 }
 
+// "Add Record", "Add 3 Records"
+std::string Counted(const char* verb, int count, const char* what) {
+    return count == 1 ? fmt::format("{} {}", verb, what) : fmt::format("{} {} {}s", verb, count, what);
+}
+
 bool AsksToDelete(Session& session, int record) {
     return session.platform.messages.show(
                {.Text = fmt::format("Delete record number {}?", SignedText(record)),
@@ -68,6 +74,7 @@ void AddRecord(Session& session) {
     }
     int count = 0;
     if (!AskForCount<frmAddRec>(session, count)) return;
+    const SheetStep step(session, sheet, Counted("Add", count, "Record"));
     const int before = sheet.RecordCount();
     DocumentGrid::SetSize(sheet.Grid1, before + count, sheet.VariableCount());
     for (int record = before + 1; record <= before + count; ++record)
@@ -87,6 +94,7 @@ void AddVariable(Session& session) {
     }
     int count = 0;
     if (!AskForCount<frmAddVar>(session, count)) return;
+    const SheetStep step(session, sheet, Counted("Add", count, "Variable"));
     const int before = sheet.VariableCount();
     DocumentGrid::SetSize(sheet.Grid1, sheet.RecordCount(), before + count);
     for (int variable = before + 1; variable <= before + count; ++variable)
@@ -103,6 +111,7 @@ void DeleteRecord(Session& session) {
     if (row < 1) session.platform.signals.beep();
     if (sheet.RecordCount() >= 1 && row > 0) {
         if (AsksToDelete(session, row)) {
+            const SheetStep step(session, sheet, "Delete " + RecordCalled(grid.Text(row, NameColumn), row));
             session.Of<SheetValues>().SuppressCommit = true;
             RemoveRecord(sheet, row);
             grid.SetCurrent(grid.Row(), std::min(FirstValueColumn, grid.Columns() - 1));
@@ -116,6 +125,7 @@ void DeleteRecord(Session& session) {
 
 void EditVariables(Session& session) {
     if (RefusedWhileBusy(session)) return;
+    const SheetStep step(session, ActiveDataWindow(session), "Rename Variables");
     session.platform.forms.showModal(session.forms.Load<frmVar>(session));
     session.forms.Unload<frmVar>();
 }
