@@ -14,7 +14,24 @@ namespace dorvan {
 
 std::vector<CommandRow> ExtrasRows() {
     return {
+        // Steps taken back; their captions go on with the step's name (see session/history.h)
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasUndo",
+         .Caption = "&Undo",
+         .Shortcut = "Ctrl+Z",
+         .Calls = {.Any = "Undo"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasRedo",
+         .Caption = "&Redo",
+         .Shortcut = "Ctrl+Shift+Z",
+         .Calls = {.Any = "Redo"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
+
         // Orders of diagrams
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasBestOrder",
+         .Caption = "&Best order",
+         .Calls = {.Diagram = "frmDiagram.BestOrder"}},
 
         // What a window shows
         {.Menu = ExtrasMenu,
@@ -42,7 +59,7 @@ std::vector<CommandRow> ExtrasRows() {
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "&Reopen Closed Document",
+         .Caption = "Reopen &Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 

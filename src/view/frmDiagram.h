@@ -50,8 +50,14 @@ public:
     void EndRow();
     void Insert(); // to the grid's current row
 
-    // All records at once: the one at place `order(k)` goes to place k, and the selection with its record.
+    // The best order, all records at once: the one at place `order(k)` goes to place k, and the selection
+    // with its record.
     void TakeOrder(const Array1<std::int16_t>& order);
+
+    // The same as a step of the history, which is no new one.
+    void Reorder(const Array1<std::int16_t>& order);
+    // Classifies and repaints all where it stands; a selected row keeps its cross.
+    void Refresh();
 
     // Permutes matrix, names and missing-value marks: place k takes what stands at place `RowOrder(k)`; then
     // classifies and repaints all. `Data` keeps its order. Fails with SubscriptOutOfRange for an order that
@@ -122,7 +128,8 @@ private:
     void StartOrder();
     void TakeOut(std::int32_t place);
     void MakeRoom(std::int32_t place);
-    void Exchange(std::int16_t neighbour);
+    void Exchange(std::int16_t neighbour, const char* direction);
+    std::string NameOfMove(const char* how) const;
     void LandOn(std::int16_t place);
 };
 
