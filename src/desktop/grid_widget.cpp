@@ -29,6 +29,7 @@ constexpr double StandardFont = 9;   // points of the application's font that le
 constexpr double SmallestFont = 0.7; // of the grid's own; no smaller where the rows are low
 constexpr double LineOfFont = 1.25;  // a line's height of the font's size
 constexpr int DigitsOfColumn = 3;
+constexpr int NumberGap = 4;      // pixels at a ratio of 1, between the numbers of narrow columns
 constexpr double EdgeShare = 0.5; // of the text's colour in that of a diagram's edge
 constexpr int ScrollStep = 17;    // pixels at a ratio of 1
 
@@ -355,7 +356,8 @@ void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
 // Numbers of narrow columns keep a gap between each other.
 FittedText GridWidget::FittedIn(const QRect& cell, const QFont& font, int row, int column) const {
     const int margin = TextMarginIn(cell, Ratio());
-    const int room = margin > 0 ? cell.width() - 2 * margin : cell.width() - 2;
+    const int room =
+        margin > 0 ? cell.width() - 2 * margin : cell.width() - int(std::lround(NumberGap * Ratio()));
     return FitText(dorvan::ToQt(grid_->Text(row, column)), font, room);
 }
 

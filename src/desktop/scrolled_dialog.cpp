@@ -17,12 +17,12 @@ constexpr int FrameHeight = 48;
 // As large as its content, so that only a dialog that is cut has scroll bars.
 class ContentArea : public QScrollArea {
 public:
-    explicit ContentArea(QWidget* content) {
+    explicit ContentArea(QDialog& dialog) : QScrollArea(&dialog) {
         setObjectName("ScrolledContent");
         setFrameShape(QFrame::NoFrame);
         setWidgetResizable(true);
         setFocusPolicy(Qt::NoFocus);
-        setWidget(content);
+        setWidget(new QWidget(viewport()));
     }
 
     QSize sizeHint() const override {
@@ -41,11 +41,11 @@ void FitIntoScreen(QDialog& dialog) {
     if (wanted.width() <= room.width() && wanted.height() <= room.height()) return;
     auto* buttons = dialog.findChild<QDialogButtonBox*>();
     if (buttons) dialog.layout()->removeWidget(buttons);
-    auto* content = new QWidget;
+    auto* area = new ContentArea(dialog); // in the dialog from the start: Tab keeps its order
     dialog.layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
-    content->setLayout(dialog.layout()); // with all that it holds
+    area->widget()->setLayout(dialog.layout()); // with all that it holds
     auto* column = new QVBoxLayout(&dialog);
-    column->addWidget(new ContentArea(content), 1);
+    column->addWidget(area, 1);
     if (buttons) column->addWidget(buttons);
     dialog.setMaximumSize(room);
     dialog.setMinimumSize(0, 0);

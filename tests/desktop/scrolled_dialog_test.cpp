@@ -71,6 +71,7 @@ TEST_F(ScrolledDialogTest, ADialogHigherThanTheScreenStaysInItAndScrollsToTheFie
         auto* button = face.findChild<QPushButton*>("Command1");
         EXPECT_FALSE(area->isAncestorOf(button)) << "the buttons stay in sight";
         EXPECT_TRUE(face.rect().contains(button->mapTo(&face, button->rect().bottomRight())));
+        EXPECT_EQ(QApplication::focusWidget(), face.findChild<QWidget*>("Text0"));
         auto* last = face.findChild<QWidget*>("Text79");
         const auto inSight = [&] {
             return area->viewport()->rect().contains(last->mapTo(area->viewport(), last->rect().center()));
@@ -80,6 +81,10 @@ TEST_F(ScrolledDialogTest, ADialogHigherThanTheScreenStaysInItAndScrollsToTheFie
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), last);
         EXPECT_TRUE(inSight());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), button);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), face.findChild<QWidget*>("Text0"));
     });
 }
 
