@@ -14,6 +14,7 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext&) {
                              .keyDown = {},
                              .lostFocus = {}});
     grid.SetPictures(TilePictures());
+    grid.followsRulesSideways = false; // the names stay in sight while rows are moved
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
 

@@ -20,7 +20,8 @@ namespace dorvan {
 
 namespace {
 
-constexpr int TextMargin = 3;           // pixels at a ratio of 1
+constexpr int TextMargin = 3; // pixels at a ratio of 1
+constexpr float MarkedShare = 0.3F;
 constexpr int NarrowestElidedCell = 40; // in narrower ones three dots would take all the room
 
 int DevicePixels(int twips, double ratio) { return int(std::lround(twips * ratio / TwipsPerPixel)); }
@@ -135,6 +136,7 @@ GridWidget::GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled); // see GridTyping
 }
 
 void GridWidget::SetPictures(GridPictures pictures) {
@@ -192,18 +194,38 @@ void GridWidget::Mirror() {
         // A document opens at its upper left corner, wherever its filling left the current cell.
         const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        if (!opening && (!follows || follows())) ShowCurrent();
+        leftBehind_ = opening || grid_->Passed() || (follows && !follows());
+        if (!leftBehind_) FollowCurrent();
         TellCurrent();
     }
+    movedByHand_ = false;
     viewport()->update();
 }
 
-void GridWidget::ShowCurrent() {
-    if (grid_->Rows() == 0 || grid_->Columns() == 0) return;
-    verticalScrollBar()->setValue(rows_.FirstThatShows(grid_->Row(), int(viewport()->height() * Ratio())) -
+void GridWidget::FollowCurrent() {
+    const bool sideways = followsRulesSideways || movedByHand_;
+    leftBehind_ = !sideways;
+    if (grid_->Rows() > 0 && grid_->Columns() > 0)
+        ScrollTo(grid_->Row(), sideways ? grid_->Column() : columns_.first);
+}
+
+void GridWidget::ScrollTo(int row, int column) {
+    verticalScrollBar()->setValue(rows_.FirstThatShows(row, int(viewport()->height() * Ratio())) -
                                   rows_.fixed);
-    horizontalScrollBar()->setValue(
-        columns_.FirstThatShows(grid_->Column(), int(viewport()->width() * Ratio())) - columns_.fixed);
+    horizontalScrollBar()->setValue(columns_.FirstThatShows(column, int(viewport()->width() * Ratio())) -
+                                    columns_.fixed);
+}
+
+// The user's keys go on from what is seen, where a rule has left the current cell out of sight.
+void GridWidget::StartInSight() {
+    if (!std::exchange(leftBehind_, false) || grid_->Rows() == 0 || grid_->Columns() == 0) return;
+    const bool rowHidden =
+        rows_.Scrolled(grid_->Row()) || rows_.Start(grid_->Row()) >= int(viewport()->height() * Ratio());
+    const bool columnHidden = columns_.Scrolled(grid_->Column()) ||
+                              columns_.Start(grid_->Column()) >= int(viewport()->width() * Ratio());
+    if (rowHidden || columnHidden)
+        grid_->SetCurrent(rowHidden ? rows_.first : grid_->Row(),
+                          columnHidden ? columns_.first : grid_->Column());
 }
 
 void GridWidget::TellCurrent() {
@@ -317,6 +339,7 @@ void GridWidget::paintEvent(QPaintEvent* event) {
             PaintCell(paint, row, column);
         });
     });
+    PaintMarked(painter);
     const int row = grid_->Row();
     const int column = grid_->Column();
     if (row >= rows_.Count() || column >= columns_.Count() || rows_.Scrolled(row) ||
@@ -331,6 +354,21 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     painter.drawRect(cell.left(), cell.bottom() + 1 - width, cell.width(), width);
     painter.drawRect(cell.left(), cell.top(), width, cell.height());
     painter.drawRect(cell.right() + 1 - width, cell.top(), width, cell.height());
+}
+
+// A veil over the marked cells, in device pixels.
+void GridWidget::PaintMarked(QPainter& painter) const {
+    const CellRange marked = grid_->Marked();
+    if (marked.IsOneCell() && marked.Has(grid_->Row(), grid_->Column())) return;
+    QColor veil = palette().color(QPalette::Highlight);
+    veil.setAlphaF(MarkedShare);
+    for (int row = marked.Top; row <= marked.Bottom; ++row) {
+        if (rows_.Scrolled(row)) continue;
+        for (int column = marked.Left; column <= marked.Right; ++column)
+            if (!columns_.Scrolled(column))
+                painter.fillRect(columns_.Start(column), rows_.Start(row), columns_.Size(column),
+                                 rows_.Size(row), veil);
+    }
 }
 
 void GridWidget::resizeEvent(QResizeEvent* event) {
@@ -374,7 +412,10 @@ void GridWidget::ForwardLater(std::function<void()> handler) {
 
 void GridWidget::MakeCurrent(int row, int column) {
     setFocus(Qt::OtherFocusReason);
-    ForwardLater([this, row, column] { grid_->Press(row, column); });
+    ForwardLater([this, row, column] {
+        movedByHand_ = true;
+        grid_->Press(row, column);
+    });
     dispatch_.RunWaiting();
 }
 
@@ -405,7 +446,11 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     }
     bool moved = false;
     const bool control = event->modifiers() & Qt::ControlModifier;
-    Forward([&] { moved = grid_->MoveByKey(keyCode, control, PageRows()); });
+    Forward([&] {
+        movedByHand_ = true;
+        if (keyCode >= key::PageUp && keyCode <= key::Down) StartInSight();
+        moved = grid_->MoveByKey(keyCode, control, PageRows());
+    });
     if (!moved) event->ignore();
 }
 
@@ -415,6 +460,7 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     ForwardLater([this, place = event->position().toPoint()] {
         const QPoint cell = CellAt(place);
+        movedByHand_ = true;
         grid_->Press(cell.y(), cell.x());
     });
     if (event->button() == Qt::RightButton)
