@@ -1,7 +1,6 @@
 #include "cli/cli_platform.h"
 
-#include "making/frmWork.h"
-#include "making/frmWorkUM.h"
+#include "making/progress_window.h"
 #include "numbers/text.h"
 
 #include <fmt/format.h>
@@ -19,15 +18,11 @@ constexpr int BarLength = 30; // characters
 
 std::string OneLine(std::string_view text) { return ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "); }
 
-std::string ProgressLine(const frmWork& form) {
-    return fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
-                       form.lblFunkcja.Caption);
-}
-
-std::string ProgressLine(const frmWorkUM& form) {
-    return fmt::format("generation {}  mutation {}  UM {}  best {}  {}", form.Generacje.Caption,
-                       form.Mutacje.Caption, form.lblFunkcja.Caption, form.BestUm.Caption,
-                       form.InfoTime.Caption);
+std::string LineOf(const ProgressWindow& window) {
+    const auto share = window.shareDone();
+    if (!share) return window.onOneLine();
+    const int length = static_cast<int>(*share * BarLength);
+    return fmt::format("[{:=<{}}{:<{}}] {}", "", length, "", BarLength - length, window.onOneLine());
 }
 
 // Ctrl+C once asks a search to end early; a second one ends the process as usual.
@@ -80,6 +75,7 @@ void CliPlatform::showModal(Form& form) {
 void CliPlatform::show(Form& form) {
     form.Visible = true;
     running_ = &form;
+    onSearch();
     WatchForInterrupt();
 }
 
@@ -88,13 +84,8 @@ void CliPlatform::update(Form& form) {
     const double now = seconds();
     if (!isatty(STDERR_FILENO) || now - shownAt_ < 0.1) return;
     shownAt_ = now;
-    std::string line;
-    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) {
-        const int filled = static_cast<int>(genetic->Procent1.Width / genetic->Procent.Width * BarLength);
-        line = fmt::format("[{:=<{}}{:<{}}] {}", "", filled, "", BarLength - filled, ProgressLine(*genetic));
-    }
-    if (const auto* ravelin = dynamic_cast<const frmWorkUM*>(&form)) line = ProgressLine(*ravelin);
-    fmt::print(stderr, "\r{}\x1b[K", line);
+    if (const auto* window = dynamic_cast<const ProgressWindow*>(&form))
+        fmt::print(stderr, "\r{}\x1b[K", LineOf(*window));
 }
 
 void CliPlatform::close(Form& form) {

@@ -39,8 +39,9 @@ public:
     std::vector<std::string> messages; // in one line each
     OffscreenDrawing drawing;
     PdfFilePrinter printer{drawing};
-    std::string fileToOpen; // what the dialog for opening answers
-    std::string fileToSave; // and the one for saving
+    std::string fileToOpen;                 // what the dialog for opening answers
+    std::string fileToSave;                 // and the one for saving
+    std::function<void()> onSearch = [] {}; // when a search begins, behind its progress window
 
     // What is done in a dialog of that class, its OK included; one without an answer is a refusal.
     template <class Dialog> void OnDialog(std::function<void(Dialog&)> answer) {

@@ -20,14 +20,24 @@ int Make(const Given& given) {
         AnswerDiagram(run.ports, given.diagram);
         run.Open(given.input, {DocumentKind::Data, DocumentKind::Matrix});
         run.Make("MakeDiagram", DocumentKind::Diagram, "no diagram was made");
+        run.TellStatus();
+        if (given.diagram.BestOrder) run.PutInBestOrder();
         run.Save(given.out);
     });
 }
 
 constexpr const char* Footer =
-    "Ctrl+C once ends a search early: the best order so far is used and the file written. On a table that\n"
-    "stands in its best order already, the Ravelin search may find no end by itself.\n\n"
+    "best minimises the 2-SUM: the sum over the pairs of (difference of places)^2 / (1 + distance). It\n"
+    "has no parameter, works on distances of every scale and is the one to take where no other is wanted.\n\n"
+    "Ctrl+C once ends a search early: the best order so far is used and the file written.\n\n"
+    "The Ravelin search takes distances above 255 as 255, multiplies by the coefficient and rounds to\n"
+    "0..255; a product above that ends the run. 255 / the greatest distance spreads distances of up to\n"
+    "255. Where all are above 255, or all products round to one number, every order counts the same and\n"
+    "the search may find no end by itself; nor may it on a table in its best order. It keeps the order of\n"
+    "the sheet where no generation beats the first, and says so where it has seen a better one: try\n"
+    "another seed or coefficient.\n\n"
     "Examples:\n"
+    "  dorvan-cli diagram iris.mdt iris.dgr --order best\n"
     "  dorvan-cli diagram USArrests.mdt USArrests.dgr --order simple\n"
     "  dorvan-cli diagram Munsingen.mdt graves.dgr --measure jaccard --order ravelin --seed 1 "
     "--matrix-conversion-coefficient 100\n"

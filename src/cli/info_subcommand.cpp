@@ -33,7 +33,9 @@ Subcommand InfoSubcommand() {
     return {.Name = "info",
             .Help = "Tell what a document holds, one `key: value` a line",
             .Takes = options,
-            .Footer = "Example:\n  dorvan-cli info USArrests.dgr",
+            .Footer =
+                "The figures of an order are of the distances in the file, which have three decimals.\n\n"
+                "Example:\n  dorvan-cli info USArrests.dgr",
             .Run = [given] { return Inform(*given); }};
 }
 

@@ -7,8 +7,6 @@
 #include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"
 
-#include <algorithm>
-
 namespace dorvan::cli {
 
 namespace {
@@ -36,16 +34,40 @@ constexpr RavelinOption RavelinOptions[] = {
     {"--matrix-conversion-coefficient", RavelinParameter::MatrixConversionCoefficient,
      "what distances are multiplied by before rounding to 0..255 (1.0)"}};
 
-// One of some names, which stand for 1, 2 and so on.
-void AddNumbered(Options& options, const char* name, std::optional<std::int16_t>& number,
-                 const std::vector<std::string>& names, const char* help) {
-    options.OneOf(
-        name, names,
-        [&number, names](const std::string& text) {
-            const auto found = std::find(names.begin(), names.end(), text);
-            number = static_cast<std::int16_t>(found - names.begin() + 1);
-        },
-        help);
+// The place of a name, from 1.
+std::int16_t NumberOf(const std::string& name, const std::vector<std::string>& names) {
+    const auto found = std::find(names.begin(), names.end(), name);
+    return static_cast<std::int16_t>(found - names.begin() + 1);
+}
+
+// A text that can be typed into a field of a dialog: of these keys, `most` at most.
+std::function<std::string(const std::string&)> FieldText(std::string_view keys, std::size_t most,
+                                                         std::function<void(const std::string&)> keep) {
+    return [keys, most, keep = std::move(keep)](const std::string& text) -> std::string {
+        const bool typed = !text.empty() && text.find_first_not_of(keys) == std::string::npos;
+        if (!typed || text.size() > most) return "no number that its field takes: " + text;
+        keep(text);
+        return {};
+    };
+}
+
+constexpr std::string_view Digits = "0123456789";
+constexpr std::string_view DigitsAndPoint = "0123456789.";
+constexpr std::size_t DigitsOfMeasure = 3;
+constexpr std::size_t Unlimited = std::string::npos;
+
+void AddRavelin(Options& options, const RavelinOption& option, DiagramChoices& diagram) {
+    const bool decimal = option.Parameter == RavelinParameter::MatrixConversionCoefficient;
+    const auto keep = [&diagram, parameter = option.Parameter](const std::string& text) {
+        diagram.Ravelin[parameter] = text;
+    };
+    options.Checked(option.Name, decimal ? "FLOAT" : "UINT",
+                    FieldText(decimal ? DigitsAndPoint : Digits, Unlimited, keep), option.Help);
+}
+
+void AddParameter(Options& options, const char* name, std::string& parameter, const char* help) {
+    const auto keep = [&parameter](const std::string& text) { parameter = text; };
+    options.Checked(name, "UINT", FieldText(Digits, DigitsOfMeasure, keep), help);
 }
 
 } // namespace
@@ -58,15 +80,19 @@ void AddMeasure(Options& options, MeasureChoices& measure) {
     options.Checked("--measure", "TEXT:MEASURE", take,
                     "henzel, czekanowski, euclidean, manhattan, chebychev, customized, dfdd, lance-williams, "
                     "jaccard, yule, or its number 1 to 10 (euclidean)");
-    options.Text("-p", measure.P, "exponent of the customized measure (2)");
-    options.Text("-r", measure.R, "root of the customized measure (2)");
+    AddParameter(options, "-p", measure.P, "exponent of the customized measure (2)");
+    AddParameter(options, "-r", measure.R, "root of the customized measure (2)");
 }
 
 void AddDiagram(Options& options, DiagramChoices& diagram) {
-    AddNumbered(options, "--order", diagram.OrderMethod, {"none", "simple", "genetic", "ravelin"},
-                "none, simple, genetic or ravelin (none)");
-    AddNumbered(options, "--type", diagram.DiagType, {"greyscale", "dots", "classic"},
-                "greyscale, dots or classic (dots)");
+    const std::vector<std::string> orders{"none", "simple", "genetic", "ravelin", "best"};
+    const auto takeOrder = [&diagram, orders](const std::string& order) {
+        diagram.BestOrder = order == orders.back();
+        diagram.OrderMethod = NumberOf(diagram.BestOrder ? orders.front() : order, orders);
+    };
+    options.OneOf("--order", orders, takeOrder, "none, simple, genetic, ravelin or best (none)");
+    options.Numbered("--type", diagram.DiagType, {"greyscale", "dots", "classic"},
+                     "greyscale, dots or classic (dots)");
 }
 
 void AddSearches(Options& options, DiagramChoices& diagram) {
@@ -76,14 +102,7 @@ void AddSearches(Options& options, DiagramChoices& diagram) {
     options.OneOf("--variants", diagram.Genetic.Variants, frmGenetic::Variants(),
                   "number of variants a generation (30)");
     options.Under("Ravelin genetic algorithm");
-    for (const auto& option : RavelinOptions)
-        options.Checked(
-            option.Name, "TEXT",
-            [&diagram, parameter = option.Parameter](const std::string& text) {
-                diagram.Ravelin[parameter] = text;
-                return std::string();
-            },
-            option.Help);
+    for (const auto& option : RavelinOptions) AddRavelin(options, option, diagram);
     options.Under("");
 }
 

@@ -3,9 +3,12 @@
 #include "distance/frmMacierz.h"
 #include "files/data_documents.h"
 #include "files/disk.h"
+#include "making/best_order_run.h"
 #include "numbers/runtime_failure.h"
 #include "program/open_document.h"
 #include "program/program.h"
+#include "session/status_bar.h"
+#include "view/document_order.h"
 #include "view/frmDiagram.h"
 
 #include <fmt/format.h>
@@ -17,7 +20,8 @@
 namespace dorvan::cli {
 
 void AddSeed(Options& options, Surroundings& surroundings) {
-    options.Number("--seed", surroundings.Seed, "seed of the random numbers (from the clock)");
+    options.Number("--seed", surroundings.Seed,
+                   "seed of the random numbers, 0 to 2^64-1 (from the clock, and told on standard error)");
 }
 
 void AddYes(Options& options, Surroundings& surroundings) {
@@ -37,11 +41,12 @@ void AddCodePage(Options& options, Surroundings& surroundings) {
                     "code page of files: 1250 to 1258 or 874 (from the locale)");
 }
 
-Run::Run(const Surroundings& surroundings) {
+Run::Run(const Surroundings& surroundings)
+    : seed(surroundings.Seed.value_or(static_cast<std::uint64_t>(ports.seconds() * 1000))) {
     ports.answersYes = surroundings.Yes;
+    if (!surroundings.Seed) ports.onSearch = [this] { fmt::print(stderr, "dorvan-cli: --seed {}\n", seed); };
     Compose(session);
-    const auto clock = static_cast<std::uint64_t>(ports.seconds() * 1000);
-    mainWindow.Form_Load(surroundings.Seed.value_or(clock), ".");
+    mainWindow.Form_Load(seed, ".");
     if (surroundings.CodePage) session.codePage = CodePage(*surroundings.CodePage);
 }
 
@@ -77,6 +82,16 @@ void Run::Open(const std::string& path, std::initializer_list<std::string_view> 
 void Run::Make(const std::string& button, std::string_view kind, const std::string& otherwise) {
     mainWindow.ButtonClick("toolMain", button);
     if (Kind() != kind) throw Refused(otherwise);
+}
+
+void Run::PutInBestOrder() {
+    DiagramDocument& document = DiagramWindow(session, session.ActiveWindow->Index).Document();
+    if (!HasCriterion(document)) throw Refusal(WithoutCriterion);
+    ReorderDocument(document, SearchBehindWindow(session, document, seed, 0));
+}
+
+void Run::TellStatus() {
+    if (const auto& text = StatusText(session); !text.empty()) fmt::print(stderr, "dorvan-cli: {}\n", text);
 }
 
 void Run::Write(const std::string& item, const std::string& path) {

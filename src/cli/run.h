@@ -34,13 +34,15 @@ public:
 };
 
 // One run of the program without a screen. Dialogs are answered through `ports.OnDialog`, commands are given
-// through `mainWindow`.
+// through `mainWindow`. A search whose seed nobody gave tells it on standard error, so that it can be
+// repeated.
 struct Run {
     explicit Run(const Surroundings& surroundings);
 
     CliPlatform ports;
     Session session{ports.platform};
     frmMDI mainWindow{session};
+    std::uint64_t seed; // of the random generator
 
     std::string_view Kind() const; // the DocumentKind of the active window, that of the main one without any
 
@@ -53,8 +55,14 @@ struct Run {
     // Chooses a menu item that writes the file `path`; fails where it could not.
     void Write(const std::string& item, const std::string& path);
 
+    // Puts the records of the active diagram in their best order: distances, names and data alike.
+    void PutInBestOrder();
+
     // Saves the active document under the path.
     void Save(const std::string& path);
+
+    // What stands in the status line, if anything does.
+    void TellStatus();
 
     // What the program said so far, but for a refusal at the end.
     void TellRemarks(bool withLast) const;

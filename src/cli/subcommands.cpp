@@ -5,6 +5,7 @@ namespace dorvan::cli {
 // Each in a file of its own, <name>_subcommand.cpp.
 Subcommand MatrixSubcommand();
 Subcommand DiagramSubcommand();
+Subcommand OrderSubcommand();
 Subcommand ConvertSubcommand();
 Subcommand InfoSubcommand();
 Subcommand PictureSubcommand();
@@ -20,6 +21,7 @@ std::vector<Subcommand> Subcommands() {
         // making
         MatrixSubcommand(),
         DiagramSubcommand(),
+        OrderSubcommand(),
         // documents
         ConvertSubcommand(),
         InfoSubcommand(),

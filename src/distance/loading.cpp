@@ -4,6 +4,7 @@
 #include "numbers/rounding.h"
 #include "numbers/text.h"
 #include "sheet/frmNotePad.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_values.h"
 
 #include <fmt/format.h>
@@ -65,6 +66,7 @@ bool LoadWorkingData(Session& session) {
     const std::int32_t n = window.RecordCount();
     const std::int32_t m = window.VariableCount();
     window.LeaveField(); // the grid gets the focus
+    const SheetStep step(session, window, "Fill Empty Cells");
     window.SetFocus(grid);
     if (n >= 1 && m >= 1) grid.PassTo(1, DocumentGrid::FirstValueColumn);
     session.tables.RecordNames = Names(n);

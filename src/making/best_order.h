@@ -14,7 +14,8 @@ struct BestOrderProgress {
     double Share = 0;     // of the work, 0 to 1; falls back where a gain makes the search go on
 };
 
-// Told while the search runs, on the caller's thread; false ends it with the best order so far.
+// Told from round to round of the search, some milliseconds apart (O(n^2)), on the caller's thread; false
+// ends it with the best order so far.
 using BestOrderWatch = std::function<bool(const BestOrderProgress&)>;
 
 // The order of the records, 1..n by their rows in the table, with the smallest 2-SUM found: the sum over
@@ -29,8 +30,8 @@ using BestOrderWatch = std::function<bool(const BestOrderProgress&)>;
 // no insertion that gains. It is the order given unless a better one was found, and of its two directions the
 // one with record 1 in the first half; with record 1 in the very middle, record 2.
 //
-// The same table and seed give the same result on any number of threads (0: as many as the machine has),
-// unless the watch ends the search. O(n) to O(n^2) a kick; about 10 ms for 150 records, 80 ms for 250, with
+// The same table, seed and answers of the watch give the same result on any number of threads (0: as many as
+// the machine has). O(n) to O(n^2) a kick; about 10 ms for 150 records, 80 ms for 250, with
 // one thread. Fails with DivisionByZero where 1 + distance is 0 or no number, with Overflow above 32767
 // records, and with SubscriptOutOfRange for a table that is not square.
 //

@@ -37,7 +37,9 @@ public:
     Progress(Session& session, double secondsUnseen)
         : session_(session), window_(session.forms.Load<frmBestOrder>(session)),
           pace_(session.platform.clock), start_(session.platform.clock.seconds()),
-          secondsUnseen_(secondsUnseen) {}
+          secondsUnseen_(secondsUnseen) {
+        if (secondsUnseen <= 0) Show();
+    }
     ~Progress() {
         if (window_.Visible) session_.platform.forms.close(window_);
         session_.forms.Unload<frmBestOrder>();
@@ -48,10 +50,7 @@ public:
     // False once the search is to end. Midnight turns the clock back.
     bool Tell(const BestOrderProgress& progress) {
         if (!pace_.Due()) return true;
-        if (!shown_ && std::fabs(pace_.Now() - start_) >= secondsUnseen_) {
-            shown_ = true;
-            session_.platform.forms.show(window_);
-        }
+        if (!shown_ && std::fabs(pace_.Now() - start_) >= secondsUnseen_) Show();
         if (!shown_) return true;
         window_.ShowProgress(progress);
         session_.platform.forms.update(window_);
@@ -59,6 +58,11 @@ public:
     }
 
 private:
+    void Show() {
+        shown_ = true;
+        session_.platform.forms.show(window_);
+    }
+
     Session& session_;
     frmBestOrder& window_;
     PaintPace pace_;
@@ -84,6 +88,15 @@ std::string Told(double before, double after, char separator) {
 
 } // namespace
 
+bool HasCriterion(const DiagramDocument& document) {
+    try {
+        TwoSumOfOrder(DistancesOf(document));
+        return true;
+    } catch (const RuntimeFailure&) {
+        return false;
+    }
+}
+
 std::string CriterionText(double criterion, char decimalSeparator) {
     return FormatPattern(criterion, "###0.0000", decimalSeparator);
 }
@@ -99,14 +112,11 @@ Order SearchBehindWindow(Session& session, const DiagramDocument& document, std:
 void PutInBestOrder(Session& session, std::int16_t slot) {
     if (RefusedWhileBusy(session)) return;
     auto& window = DiagramWindow(session, slot);
-    double before = 0;
-    try {
-        before = TwoSumOfOrder(DistancesOf(window.Document()));
-    } catch (const RuntimeFailure&) {
-        session.platform.messages.show({.Text = "A distance of -1 leaves the best order without a criterion.",
-                                        .Icon = MessageIcon::Critical});
+    if (!HasCriterion(window.Document())) {
+        session.platform.messages.show({.Text = WithoutCriterion, .Icon = MessageIcon::Critical});
         return;
     }
+    const double before = TwoSumOfOrder(DistancesOf(window.Document()));
     const Order order = SearchBehindWindow(session, window.Document(), Seed, SecondsUnseen);
     if (session.DiagramStates.at(std::size_t(slot)).Deleted) return; // closed meanwhile
     window.TakeOrder(order);

@@ -37,6 +37,7 @@ struct DiagramChoices {
     MeasureChoices Measure = {};
     std::optional<std::int16_t> DiagType = {};            // 1 greyscale, 2 dots, 3 classic
     std::optional<std::int16_t> OrderMethod = {};         // 1 none, 2 simple, 3 simple genetic, 4 Ravelin
+    bool BestOrder = false;                               // of the diagram once it is made
     GeneticChoices Genetic = {};                          // of method 3
     std::map<RavelinParameter, std::string> Ravelin = {}; // of method 4, as typed
 };

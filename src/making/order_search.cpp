@@ -6,16 +6,15 @@
 #include "numbers/random_source.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <memory>
 #include <numeric>
-#include <thread>
 
 namespace dorvan {
 
 namespace {
 
+constexpr int StartsOfRound = 8; // from round to round the watch is asked
 constexpr int KicksOfStart = 30;
 constexpr int Chains = 4;        // that go on side by side from the best start
 constexpr int FirstChain = 1000; // its number, behind those of the starts
@@ -27,7 +26,8 @@ int StartsFor(int n) { return std::clamp(n / 18, 8, 16); }
 // So many kicks in a row without gain end the search. Small tables can afford more, and large ones need more.
 int PatienceFor(int n) { return std::clamp(60000 / n, std::min(n * n / 64, 4 * n), 2000 + 4 * n); }
 
-// Progress and Cancel, asked from all threads and told on the caller's.
+// Progress and Cancel: told between pieces of work that are the same on any number of threads, so that the
+// same answers lead to the same order.
 class Watch {
 public:
     Watch(const BestOrderWatch& told, int n) : told_(told), squared_(double(n) * n) {}
@@ -36,7 +36,7 @@ public:
 
     // False once the search is to end.
     bool GoesOn() {
-        if (told_ && std::this_thread::get_id() == caller_ && !ended_) Tell();
+        if (told_ && !ended_) ended_ = !told_({.Criterion = 2 * Best / squared_, .Share = Share});
         return !ended_;
     }
 
@@ -44,15 +44,9 @@ public:
     double Share = 0; // of the work
 
 private:
-    void Tell() {
-        ended_ = true; // stays so if the caller throws
-        ended_ = !told_({.Criterion = 2 * Best / squared_, .Share = Share});
-    }
-
     const BestOrderWatch& told_;
     double squared_;
-    std::thread::id caller_ = std::this_thread::get_id();
-    std::atomic<bool> ended_ = false;
+    bool ended_ = false;
 };
 
 // One search: the order it stands at, and random draws of its own.
@@ -77,8 +71,8 @@ public:
     }
 
     // Kicks the order and keeps what comes of it where it is no worse.
-    void Climb(int kicks, Watch& watch) {
-        for (int kick = 0; kick < kicks && watch.GoesOn(); ++kick) {
+    void Climb(int kicks) {
+        for (int kick = 0; kick < kicks; ++kick) {
             Kick();
             now_.Descend();
             if (++kicked_ % KicksToRefresh == 0) now_.Refresh();
@@ -177,16 +171,29 @@ private:
     }
 
     void StartAll() {
-        std::vector<std::unique_ptr<Climber>> climbers(std::size_t(StartsFor(attractions_.Count())));
-        WorkSideBySide(static_cast<int>(climbers.size()), threads_, [&](int number) {
-            if (number > 0 && watch_.Ended()) return;
-            auto climber = MakeClimber(number);
+        const int starts = StartsFor(attractions_.Count());
+        std::vector<std::unique_ptr<Climber>> climbers;
+        while (static_cast<int>(climbers.size()) < starts && watch_.GoesOn())
+            StartSome(climbers, std::min(StartsOfRound, starts - static_cast<int>(climbers.size())));
+        for (int kicks = 0; kicks < KicksOfStart && watch_.GoesOn(); kicks += KicksOfRound)
+            ClimbAll(climbers, std::min(KicksOfRound, KicksOfStart - kicks));
+        for (const auto& climber : climbers) TakeIfBetter(*climber);
+    }
+
+    void StartSome(std::vector<std::unique_ptr<Climber>>& climbers, int count) {
+        const std::size_t before = climbers.size();
+        climbers.resize(before + std::size_t(count));
+        WorkSideBySide(count, threads_, [&](int place) {
+            const int number = static_cast<int>(before) + place;
+            auto& climber = climbers[std::size_t(number)];
+            climber = MakeClimber(number);
             climber->Start(StartingOrder(number, climber->Random()));
-            climber->Climb(KicksOfStart, watch_);
-            climbers[std::size_t(number)] = std::move(climber);
         });
-        for (const auto& climber : climbers)
-            if (climber) TakeIfBetter(*climber);
+    }
+
+    void ClimbAll(const std::vector<std::unique_ptr<Climber>>& climbers, int kicks) {
+        WorkSideBySide(static_cast<int>(climbers.size()), threads_,
+                       [&](int number) { climbers[std::size_t(number)]->Climb(kicks); });
     }
 
     // Rounds of kicks, until so many in a row brought no gain. A chain that stands no worse than the best
@@ -201,8 +208,7 @@ private:
             watch_.Share = double(lost) / patience;
             for (const auto& chain : chains_)
                 if (!Equal(chain->Kept())) chain->GoOnFrom(best_);
-            WorkSideBySide(Chains, threads_,
-                           [&](int number) { chains_[std::size_t(number)]->Climb(KicksOfRound, watch_); });
+            ClimbAll(chains_, KicksOfRound);
             bool gained = false;
             for (const auto& chain : chains_) gained = TakeIfBetter(*chain) || gained;
             lost = gained ? 0 : lost + Chains * KicksOfRound;

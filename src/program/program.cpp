@@ -5,6 +5,7 @@
 namespace dorvan {
 
 void Compose(Session& session) {
+    RegisterSessionOperations(session);
     RegisterSheetOperations(session);
     RegisterDistanceOperations(session);
     RegisterViewOperations(session);

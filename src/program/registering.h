@@ -48,6 +48,7 @@ void Register(Session& session, std::string_view operation, Window& (*windowOf)(
 }
 
 // One for each room that has operations.
+void RegisterSessionOperations(Session& session);
 void RegisterSheetOperations(Session& session);
 void RegisterDistanceOperations(Session& session);
 void RegisterViewOperations(Session& session);

@@ -1,5 +1,7 @@
 #include "session/children.h"
 
+#include "session/history.h"
+#include "session/window_owner.h"
 #include "session/window_switches.h"
 
 #include <fmt/format.h>
@@ -15,19 +17,12 @@ auto Place(Session& session, const ChildWindow& window) {
                         [&](const auto& child) { return child.get() == &window; });
 }
 
-std::shared_ptr<ChildWindow> OwnerOf(Session& session, const ChildWindow& window) {
-    for (const auto* windows :
-         {&session.DataWindows, &session.MatrixWindows, &session.DiagramWindows, &session.BitmapWindows})
-        for (const auto& owner : *windows)
-            if (owner.get() == &window) return owner;
-    return nullptr;
-}
-
 void SwitchActive(Session& session, ChildWindow* window) {
     if (session.ActiveWindow == window) return;
     if (session.ActiveWindow) session.ActiveWindow->Form_Deactivate();
     session.ActiveWindow = window;
     if (window) window->Form_Activate();
+    ShowHistory(session);
 }
 
 } // namespace
@@ -66,6 +61,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     window.Visible = false;
     std::erase(session.Children, keepAlive);
     session.platform.children.close(window);
+    ForgetHistory(session, window);
     if (session.Children.empty())
         DisableDocumentCommands(session.mainWindow);
     else if (!session.ActiveWindow)

@@ -14,16 +14,52 @@ namespace dorvan {
 
 std::vector<CommandRow> ExtrasRows() {
     return {
+        // Steps taken back; their captions go on with the step's name (see session/history.h)
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasUndo",
+         .Caption = "&Undo",
+         .Shortcut = "Ctrl+Z",
+         .Calls = {.Any = "Undo"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasRedo",
+         .Caption = "&Redo",
+         .Shortcut = "Ctrl+Shift+Z",
+         .Calls = {.Any = "Redo"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
+
         // Orders of diagrams
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasBestOrder",
+         .Caption = "&Best order",
+         .Calls = {.Diagram = "frmDiagram.BestOrder"}},
 
         // What a window shows
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomIn",
+         .Caption = "Zoom &In",
+         .Shortcut = "Ctrl++",
+         .Calls = {.Diagram = "frmDiagram.ZoomIn"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomOut",
+         .Caption = "Zoom &Out",
+         .Shortcut = "Ctrl+-",
+         .Calls = {.Diagram = "frmDiagram.ZoomOut"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomActual",
+         .Caption = "&Actual Size",
+         .Shortcut = "Ctrl+0",
+         .Calls = {.Diagram = "frmDiagram.ZoomActual"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasZoomFit",
+         .Caption = "&Fit",
+         .Calls = {.Diagram = "frmDiagram.ZoomFit"}},
 
         // Sheets and their cells
 
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "&Reopen Closed Document",
+         .Caption = "Reopen &Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 

@@ -1,6 +1,7 @@
 #include "session/session.h"
 
 #include "numbers/number_text.h"
+#include "session/history.h"
 #include "session/menus.h"
 #include "session/recent_files.h"
 #include "session/window_switches.h"
@@ -56,6 +57,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     SetDefaults(session);
     LoadRecentFiles(session);
     DisableDocumentCommands(session.mainWindow);
+    ShowHistory(session);
     session.mainWindow.TypeOfForm = DocumentKind::Main;
 }
 

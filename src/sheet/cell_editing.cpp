@@ -8,6 +8,7 @@
 #include "platform/keys.h"
 #include "session/busy.h"
 #include "sheet/expression.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_values.h"
 
 #include <utility>
@@ -65,6 +66,7 @@ void frmNotePad::TakeCurrentCell() {
 
 void frmNotePad::StartCellEdit(int key, int mode) {
     Editing = true;
+    before_ = Grid1.Text(EditRow, EditCol);
     EditCell.Text = mode == 1 ? Grid1.Text(EditRow, EditCol) : std::string();
     EditCell.SelStart = static_cast<int>(CharacterCount(EditCell.Text));
     EditCell.SelLength = 0;
@@ -180,6 +182,12 @@ void frmNotePad::RestoreOldText() {
     OldText.clear();
     EditCell.Text.clear();
     EndEdit();
+    ForgetEdit();
+}
+
+// Also a refused text stands in its cell, and can be undone.
+void frmNotePad::KeepStep() {
+    if (before_) RecordCellEdit(session_, *this, EditRow, EditCol, *std::exchange(before_, std::nullopt));
 }
 
 // The edit field goes and the grid has the focus again. What the field loses by that is already taken out of
@@ -194,7 +202,10 @@ void frmNotePad::EndEdit() {
 void frmNotePad::EditCell_LostFocus() {
     const auto keepAlive = OwnReference();
     Editing = false;
-    if (!EditCell.Text.empty()) CommitCell(key::None);
+    if (!EditCell.Text.empty())
+        CommitCell(key::None);
+    else
+        KeepStep();
     EditPanel.Visible = false;
     if (ActiveControl == &EditCell) SetFocus(Grid1); // no other control of this window has taken it
 }
@@ -213,6 +224,9 @@ void frmNotePad::CommitCell(int key) {
     if (std::exchange(session_.Of<SheetValues>().SuppressCommit, false)) {
         EditCell.Text.clear();
         EditCell.SelStart = 0;
+        KeepStep();
+        if (Editing && EditRow < Grid1.Rows() && EditCol < Grid1.Columns()) // the edit stays open
+            before_ = Grid1.Text(EditRow, EditCol);
         return;
     }
     const std::string withPoints = ReplaceAll(EditCell.Text, ",", ".");
@@ -222,7 +236,11 @@ void frmNotePad::CommitCell(int key) {
         EditPanel.Visible = false;
     else
         EndEdit();
-    if (const auto refusal = WriteCell(text)) {
+    // The loss of focus that the field tells while events run is no end of its own.
+    auto before = std::exchange(before_, std::nullopt);
+    const auto refusal = WriteCell(text);
+    if (before) RecordCellEdit(session_, *this, EditRow, EditCol, std::move(*before));
+    if (refusal) {
         session_.platform.messages.show(*refusal);
         return;
     }

@@ -3,6 +3,7 @@
 #include "numbers/number_text.h"
 #include "numbers/text.h"
 #include "sheet/frmNotePad.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_structure.h"
 
 #include <fmt/format.h>
@@ -37,6 +38,7 @@ void frmDeleteVar::Form_Load() {
 void frmDeleteVar::Command1_Click() {
     if (List1.ListIndex < 0 || !Asked()) return;
     frmNotePad& sheet = ActiveDataWindow(session_);
+    const SheetStep step(session_, sheet, "Delete " + List1.Text());
     if (sheet.VariableCount() == 1)
         EmptyOnlyVariable();
     else

@@ -93,6 +93,9 @@ public:
     void OpisText_Change(); // after any change of the text by the user
     void OpisText_KeyPress(int& keyAscii);
 
+    // The rows of the grid have changed: an edit that has not been committed is no step any more.
+    void ForgetEdit() { before_.reset(); }
+
     void Form_Activate() override;
     void Form_Deactivate() override;
     bool Form_QueryUnload() override;
@@ -112,8 +115,10 @@ private:
     bool WriteEditedCell(const std::string& text);
     bool WriteCellLeftBehind(const std::string& text);
     void MarkChanged();
+    void KeepStep();
 
     Session& session_;
+    std::optional<std::string> before_; // the edited cell's text, until its step is kept
 };
 
 // A value as its cell shows it: a number of three decimals, "N/A", or nothing for an EmptyValue.

@@ -8,6 +8,7 @@
 #include "session/opening.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/frmStandard.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_structure.h"
 #include "sheet/standardizing.h"
 
@@ -37,6 +38,7 @@ bool LoadCell(Session& session, Grid& grid, int record, int variable) {
 }
 
 bool LoadValues(Session& session, frmNotePad& sheet) {
+    const SheetStep step(session, sheet, "Fill Empty Cells");
     session.tables.RecordNames = Names(sheet.RecordCount());
     session.tables.DataValues = FloatTable(sheet.RecordCount(), sheet.VariableCount());
     TakeVariableNames(session);

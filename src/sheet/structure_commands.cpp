@@ -3,10 +3,12 @@
 
 #include "numbers/text.h"
 #include "session/busy.h"
+#include "session/dialog.h"
 #include "sheet/add_dialogs.h"
 #include "sheet/frmDeleteVar.h"
 #include "sheet/frmNotePad.h"
 #include "sheet/frmVar.h"
+#include "sheet/sheet_history.h"
 #include "sheet/sheet_structure.h"
 
 #include <fmt/format.h>
@@ -39,6 +41,11 @@ void GiveEmptyColumn(Grid& grid, int variable) {
     grid.SetColumnAlignment(column, Alignment::Centre);
 }
 
+// "Add Record", "Add 3 Records"
+std::string Counted(const char* verb, int count, const char* what) {
+    return count == 1 ? fmt::format("{} {}", verb, what) : fmt::format("{} {} {}s", verb, count, what);
+}
+
 bool AsksToDelete(Session& session, int record) {
     return session.platform.messages.show(
                {.Text = fmt::format("Delete record number {}?", SignedText(record)),
@@ -68,6 +75,7 @@ void AddRecord(Session& session) {
     }
     int count = 0;
     if (!AskForCount<frmAddRec>(session, count)) return;
+    const SheetStep step(session, sheet, Counted("Add", count, "Record"));
     const int before = sheet.RecordCount();
     DocumentGrid::SetSize(sheet.Grid1, before + count, sheet.VariableCount());
     for (int record = before + 1; record <= before + count; ++record)
@@ -87,6 +95,7 @@ void AddVariable(Session& session) {
     }
     int count = 0;
     if (!AskForCount<frmAddVar>(session, count)) return;
+    const SheetStep step(session, sheet, Counted("Add", count, "Variable"));
     const int before = sheet.VariableCount();
     DocumentGrid::SetSize(sheet.Grid1, sheet.RecordCount(), before + count);
     for (int variable = before + 1; variable <= before + count; ++variable)
@@ -103,6 +112,7 @@ void DeleteRecord(Session& session) {
     if (row < 1) session.platform.signals.beep();
     if (sheet.RecordCount() >= 1 && row > 0) {
         if (AsksToDelete(session, row)) {
+            const SheetStep step(session, sheet, "Delete " + RecordCalled(grid.Text(row, NameColumn), row));
             session.Of<SheetValues>().SuppressCommit = true;
             RemoveRecord(sheet, row);
             grid.SetCurrent(grid.Row(), std::min(FirstValueColumn, grid.Columns() - 1));
@@ -116,13 +126,14 @@ void DeleteRecord(Session& session) {
 
 void EditVariables(Session& session) {
     if (RefusedWhileBusy(session)) return;
-    session.platform.forms.showModal(session.forms.Load<frmVar>(session));
+    const SheetStep step(session, ActiveDataWindow(session), "Rename Variables");
+    ShowModally<frmVar>(session);
     session.forms.Unload<frmVar>();
 }
 
 void DeleteVariable(Session& session) {
     if (RefusedWhileBusy(session)) return;
-    session.platform.forms.showModal(session.forms.Load<frmDeleteVar>(session));
+    ShowModally<frmDeleteVar>(session);
     session.forms.Unload<frmDeleteVar>();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/grid_window.h"
+#include "view/diagram_zoom.h"
 
 #include <cstdint>
 #include <string>
@@ -49,8 +50,14 @@ public:
     void EndRow();
     void Insert(); // to the grid's current row
 
-    // All records at once: the one at place `order(k)` goes to place k, and the selection with its record.
+    // The best order, all records at once: the one at place `order(k)` goes to place k, and the selection
+    // with its record.
     void TakeOrder(const Array1<std::int16_t>& order);
+
+    // The same as a step of the history, which is no new one.
+    void Reorder(const Array1<std::int16_t>& order);
+    // Classifies and repaints all where it stands; a selected row keeps its cross.
+    void Refresh();
 
     // Permutes matrix, names and missing-value marks: place k takes what stands at place `RowOrder(k)`; then
     // classifies and repaints all. `Data` keeps its order. Fails with SubscriptOutOfRange for an order that
@@ -68,6 +75,14 @@ public:
     void DataOrder();
     void Matrix();
     void BITMAP();
+
+    // How large the diagram is shown. A step tells itself in the status line.
+    DiagramZoom Zoom;
+    void ZoomIn();
+    void ZoomOut();
+    void ZoomActual();
+    void ZoomFit();
+    void TakeRoom(const DiagramRoom& room); // what the screen has for its boxes
 
     // Asks for a path and writes the dots form of the diagram as a placeable metafile over the start of that
     // file, of which a longer one keeps its tail.
@@ -97,6 +112,8 @@ public:
     void Form_Resize() override;
 
 private:
+    DiagramBoxes Boxes() const;
+    void TellZoom();
     void LayOut();
     void PaintNames();
     void PaintCells();
@@ -111,7 +128,8 @@ private:
     void StartOrder();
     void TakeOut(std::int32_t place);
     void MakeRoom(std::int32_t place);
-    void Exchange(std::int16_t neighbour);
+    void Exchange(std::int16_t neighbour, const char* direction);
+    std::string NameOfMove(const char* how) const;
     void LandOn(std::int16_t place);
 };
 

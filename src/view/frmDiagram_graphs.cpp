@@ -1,4 +1,6 @@
 #include "session/busy.h"
+#include "session/dialog.h"
+#include "view/diagram_history.h"
 #include "view/frmDiagram.h"
 #include "view/frmDiagramType.h"
 #include "view/frmHistogram.h"
@@ -19,12 +21,14 @@ void frmDiagram::RefreshActiveWindow() {
 void frmDiagram::Histogram() {
     if (RefusedWhileBusy(session_)) return;
     session_.NewWindowIndex = Index;
+    const DiagramLook before = LookOf(Document());
     const bool accepted = Accepted<frmHistogram>(session_);
     session_.forms.Unload<frmHistogram>();
     if (!accepted) return;
     RefreshActiveWindow();
     const WaitCursor waiting(session_.platform);
     RepaintInPlace(); // a selected row loses its cross and stays selected
+    RecordLook(session_, *this, "Section Limits", before);
 }
 
 void frmDiagram::Linear() {
@@ -40,13 +44,14 @@ void frmDiagram::Linear() {
 // Not refused while a diagram is being made.
 void frmDiagram::DiagramType() {
     session_.NewWindowIndex = Index;
-    const std::int16_t before = Document().DiagType;
-    session_.platform.forms.showModal(session_.forms.Load<frmDiagramType>(session_));
+    const DiagramLook before = LookOf(Document());
+    ShowModally<frmDiagramType>(session_);
     session_.forms.Unload<frmDiagramType>();
-    if (Document().DiagType == before) return;
+    if (Document().DiagType == before.Type) return;
     const WaitCursor waiting(session_.platform);
     RepaintInPlace();
     if (session_.mainWindow.ButtonEnabled("toolDiagram", "Home")) SelectRow(SelectedRow); // a row is selected
+    RecordLook(session_, *this, "Diagram Type", before);
 }
 
 } // namespace dorvan

@@ -1,10 +1,14 @@
 #include "view/frmDiagram.h"
 
 #include "numbers/runtime_failure.h"
+#include "numbers/text.h"
 #include "session/busy.h"
 #include "session/document_grid.h"
 #include "view/classes.h"
+#include "view/diagram_history.h"
 #include "view/document_order.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <numeric>
@@ -71,38 +75,47 @@ void frmDiagram::LandOn(std::int16_t place) {
     SelectRow(SelectedRow);
 }
 
-void frmDiagram::Exchange(std::int16_t neighbour) {
+// Of the selected record: "Move Georgia Up".
+std::string frmDiagram::NameOfMove(const char* how) const {
+    return fmt::format("Move {} {}", TrimSpaces(Siatka.Text(SelectedRow, DocumentGrid::NameColumn)), how);
+}
+
+void frmDiagram::Exchange(std::int16_t neighbour, const char* direction) {
     const WaitCursor cursor(session_.platform);
+    std::string name = NameOfMove(direction);
     StartOrder();
     std::swap(RowOrder(SelectedRow), RowOrder(neighbour));
     ApplyRowOrder();
     Siatka.SetCurrent(SelectedRow, DocumentGrid::NumberColumn);
     UnSelectRow(SelectedRow);
     LandOn(neighbour);
+    RecordReordering(session_, *this, std::move(name), RowOrder);
 }
 
 void frmDiagram::Down() {
     if (RefusedWhileBusy(session_)) return;
     if (SelectedRow >= Siatka.Rows() - 1) return Beep();
-    Exchange(static_cast<std::int16_t>(SelectedRow + 1));
+    Exchange(static_cast<std::int16_t>(SelectedRow + 1), "Down");
 }
 
 void frmDiagram::Up() {
     if (RefusedWhileBusy(session_)) return;
     if (SelectedRow <= 1) return Beep();
-    Exchange(static_cast<std::int16_t>(SelectedRow - 1));
+    Exchange(static_cast<std::int16_t>(SelectedRow - 1), "Up");
 }
 
 void frmDiagram::Home() {
     if (RefusedWhileBusy(session_)) return;
     if (SelectedRow <= 1) return Beep();
     const WaitCursor cursor(session_.platform);
+    std::string name = NameOfMove("Home");
     StartOrder();
     TakeOut(SelectedRow);
     MakeRoom(1);
     RowOrder(1) = SelectedRow;
     ApplyRowOrder();
     LandOn(1);
+    RecordReordering(session_, *this, std::move(name), RowOrder);
 }
 
 void frmDiagram::EndRow() {
@@ -110,11 +123,13 @@ void frmDiagram::EndRow() {
     const std::int16_t last = Document().RecCount;
     if (SelectedRow >= last) return Beep();
     const WaitCursor cursor(session_.platform);
+    std::string name = NameOfMove("to the End");
     StartOrder();
     TakeOut(SelectedRow);
     RowOrder(last) = SelectedRow;
     ApplyRowOrder();
     LandOn(last);
+    RecordReordering(session_, *this, std::move(name), RowOrder);
 }
 
 void frmDiagram::Insert() {
@@ -122,23 +137,38 @@ void frmDiagram::Insert() {
     const auto target = static_cast<std::int16_t>(Siatka.Row());
     if (target == SelectedRow || target < 1) return Beep();
     const WaitCursor cursor(session_.platform);
+    std::string name = NameOfMove(fmt::format("to Place {}", target).c_str());
     StartOrder();
     TakeOut(SelectedRow);
     MakeRoom(target);
     RowOrder(target) = SelectedRow;
     ApplyRowOrder();
     LandOn(target);
+    RecordReordering(session_, *this, std::move(name), RowOrder);
 }
 
 void frmDiagram::TakeOrder(const Array1<std::int16_t>& order) {
     if (RefusedWhileBusy(session_)) return;
+    Reorder(order);
+    RecordReordering(session_, *this, "Best Order", order);
+}
+
+// Without a selection the current cell keeps its place, and the window what it shows.
+void frmDiagram::Reorder(const Array1<std::int16_t>& order) {
     const WaitCursor cursor(session_.platform);
-    const std::int16_t selected = SelectedRow;
+    const int row = Siatka.Row();
+    const int column = Siatka.Column();
     RowOrder = order;
     ApplyRowOrder();
+    Siatka.SetCurrent(row, column);
     if (RowSelected != 1) return;
     const auto& places = RowOrder.Cells();
-    LandOn(static_cast<std::int16_t>(std::ranges::find(places, selected) - places.begin() + 1));
+    LandOn(static_cast<std::int16_t>(std::ranges::find(places, SelectedRow) - places.begin() + 1));
+}
+
+void frmDiagram::Refresh() {
+    StartOrder();
+    Reorder(Array1<std::int16_t>(RowOrder));
 }
 
 void frmDiagram::ApplyRowOrder() {

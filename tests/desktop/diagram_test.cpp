@@ -2,12 +2,18 @@
 #include "platform/twips.h"
 
 #include "desktop/qt_text.h"
+#include "session/children.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QRadioButton>
 #include <QToolBar>
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace dorvan::test {
 
@@ -32,6 +38,33 @@ TEST_F(DiagramTest, OpensAtItsUpperLeftCornerWithItsOwnToolbar) {
     EXPECT_TRUE(Find<QToolBar>(*desktop.mainWindow, "toolDiagram").isVisible());
     EXPECT_FALSE(Item("toolDiagram.Up").isEnabled());
     EXPECT_TRUE(Item("mnuEditUp").isEnabled());
+}
+
+// The townships have a perfect order; the distances are those of Euclid, whose order the sheet's is not.
+TEST_F(DiagramTest, TheBestOrderStandsOnTheScreenAndIsToldInTheStatusBar) {
+    QLabel& status = Find<QLabel>(*desktop.mainWindow, "StatusText");
+    EXPECT_EQ(status.text(), "");
+    EXPECT_EQ(Item("mnuExtrasBestOrder").text(), "&Best order");
+    ASSERT_TRUE(Item("mnuExtrasBestOrder").isEnabled());
+    std::vector<std::string> before;
+    for (int row = 1; row < Diagram().Siatka.Rows(); ++row) before.push_back(Name(row));
+    Click("mnuExtrasBestOrder");
+    EXPECT_TRUE(status.isVisible());
+    EXPECT_TRUE(status.text().startsWith(QString::fromUtf8("Best order: 2-SUM / n² = ")))
+        << status.text().toStdString();
+    std::vector<std::string> after;
+    for (int row = 1; row < Diagram().Siatka.Rows(); ++row) after.push_back(Name(row));
+    EXPECT_NE(after, before);
+    EXPECT_TRUE(std::is_permutation(after.begin(), after.end(), before.begin(), before.end()));
+    Click("mnuExtrasBestOrder");
+    EXPECT_TRUE(status.text().startsWith("No better order was found")) << status.text().toStdString();
+    for (int row = 1; row < Diagram().Siatka.Rows(); ++row) EXPECT_EQ(Name(row), after[std::size_t(row - 1)]);
+}
+
+TEST_F(DiagramTest, TheBestOrderIsOffForOtherWindows) {
+    ActivateChild(desktop.session, *sheet);
+    desktop.mainWindow->Mirror();
+    EXPECT_FALSE(Item("mnuExtrasBestOrder").isEnabled());
 }
 
 TEST_F(DiagramTest, TheGridFillsTheWindowUnderTheDescription) {
