@@ -3,6 +3,8 @@
 #include "desktop/icons.h"
 #include "desktop/journal_keeper.h"
 #include "desktop/qt_text.h"
+#include "export/diagram_pictures.h"
+#include "painting/picture_files.h"
 #include "program/open_document.h"
 #include "program/program.h"
 
@@ -18,6 +20,7 @@ namespace dorvan {
 
 Desktop::Desktop(const std::string& programFolder) {
     Compose(session);
+    session.Of<PictureWriter>().Bytes = painting::PictureBytes;
     shell.Form_Load(static_cast<std::uint64_t>(ports.clock.seconds()), programFolder);
     mainWindow = std::make_unique<MainWindowFace>(session, shell, dispatch);
     ports.children.Attach(

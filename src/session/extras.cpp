@@ -35,6 +35,15 @@ std::vector<CommandRow> ExtrasRows() {
 
         // What a window shows
 
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasSavePicture",
+         .Caption = "Save &Picture...",
+         .Calls = {.Diagram = "frmDiagram.SavePicture"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasCopyPicture",
+         .Caption = "Cop&y Picture...",
+         .Calls = {.Diagram = "frmDiagram.CopyPicture"}},
+
         // Sheets and their cells
 
         // Documents
