@@ -9,13 +9,14 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace dorvan {
 
 // What the pictures of a grid look like, and how they read.
 struct GridPictures {
-    std::function<QImage(std::uint8_t picture)> image; // at one image pixel per 15 twips
+    std::function<QImage(std::uint8_t picture, int side)> image; // in device pixels
     std::function<QString(std::uint8_t picture)> description;
 };
 
@@ -43,7 +44,20 @@ public:
     // Whether a new current cell is scrolled into view. Always, if not set.
     std::function<bool()> follows;
 
+    // How large the cells behind the labels are shown, in percent. 100, if not set. Of a grid with pictures.
+    std::function<double()> zoom;
+
     void SetPictures(GridPictures pictures);
+
+    // The first columns, which tell what a row is, stay in sight as long as they leave half of the room.
+    void SetLabelColumns(int columns);
+
+    // What a change of the zoom leaves in its place, as a place of the viewport; the current cell or else the
+    // middle, if not set.
+    std::optional<QPoint> zoomAnchor;
+
+    // What the cells behind the labels have, in device pixels, were there no scroll bars.
+    QSize RoomBehindLabels() const;
 
     // The grid's owner is about to go.
     void Detach() { grid_ = nullptr; }
@@ -94,18 +108,38 @@ private:
         int LastFirst(int room) const;                // the highest `first` that fills the room
         int CellsIn(int room) const;                  // whole cells from `first` on, at least 1
         int FirstThatShows(int cell, int room) const; // the nearest `first` that shows the cell whole
+        int FirstThatPuts(int cell,
+                          int place) const; // the `first` that brings the cell's middle nearest to it
     };
 
     struct CellPaint;
+    struct Anchor;
 
     double Ratio() const { return devicePixelRatioF(); }
+    double Zoom() const { return zoom ? zoom() / 100 : 1; }
+    bool ShowsPictures() const { return bool(pictures_.image); }
+    double TextScale() const;
+    QFont TextFont() const;
+    double WidthScale(int column) const;
+    double HeightScale(int row) const;
     Axis RowAxis() const;
     Axis ColumnAxis() const;
     void Measure();
     void UpdateScrollBars();
     void ShowCurrent();
+    void TakeZoom();
+    Anchor AnchorOfZoom() const;
+
     void PaintCell(CellPaint& paint, int row, int column) const;
-    const QImage& ScaledTile(std::uint8_t picture) const;
+    void PaintText(CellPaint& paint, int row, int column) const;
+    void PaintPictures(QPainter& painter, const QRect& exposed) const;
+    void PaintLabels(CellPaint& paint) const;
+    void PaintEdge(CellPaint& paint) const;
+    bool IsLabel(int row, int column) const { return row < rows_.fixed || column < labelColumns_; }
+    bool IsMarked(int row, int column) const;
+    QRect CellPlace(int row, int column) const; // in device pixels, also of one that is scrolled out
+    QRect Body() const;                         // what scrolls, in device pixels
+    const QImage& SidedPicture(std::uint8_t picture) const;
     void Forward(const std::function<void()>& handler);
     void ForwardLater(std::function<void()> handler);
     int PageRows() const;
@@ -116,10 +150,16 @@ private:
     GridPictures pictures_;
     Axis rows_;
     Axis columns_;
+    int labelColumns_ = 0;
     double measuredRatio_ = 0;
+    double measuredZoom_ = 1;
+    int pictureSide_ = 0; // in device pixels
+    // Labels stand closer than their texts need where the cells are small: every k-th has one.
+    int rowLabelStep_ = 1;
+    int columnLabelStep_ = 1;
     std::uint64_t revision_ = ~std::uint64_t(0);
     QPoint shownCurrent_{-1, -1};
-    mutable QHash<int, QImage> scaledTiles_; // for measuredRatio_
+    mutable QHash<int, QImage> sidedPictures_; // of pictureSide_
 };
 
 } // namespace dorvan

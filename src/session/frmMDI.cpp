@@ -3,6 +3,7 @@
 #include "numbers/text.h"
 #include "session/busy.h"
 #include "session/children.h"
+#include "session/dialog.h"
 #include "session/frmAbout.h"
 #include "session/registry.h"
 #include "session/status_bar.h"
@@ -192,7 +193,7 @@ void frmMDI::HelpContact() {
 
 void frmMDI::About() {
     if (RefusedWhileBusy(session_)) return;
-    session_.platform.forms.showModal(session_.forms.Load<frmAbout>(session_));
+    ShowModally<frmAbout>(session_);
 }
 
 } // namespace dorvan

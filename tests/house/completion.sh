@@ -19,6 +19,8 @@ offers() {
 offers "diagram" dia
 offers "--measure" diagram --mea
 offers "dots" diagram iris.mdt out.dgr --type d
+offers "best" diagram iris.mdt out.dgr --order b
+offers "best" order iris.dgr out.dgr --order b
 offers "samples" info samp
 offers "" diagram --seed 1
 for command in $(_dorvan_cli_subcommands "$("$program" --help)"); do

@@ -5,6 +5,8 @@
 //
 // Each round is a run of the program of its own, with the next seed, in a process of its own, so that an end
 // of one is seen from outside. The list of its actions is kept for a round that ended badly, and replays.
+#include "desktop/journal_keeper.h"
+#include "desktop/qt_text.h"
 #include "hammer/user.h"
 #include "support/golden.h"
 
@@ -12,8 +14,10 @@
 #include <QElapsedTimer>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -59,9 +63,11 @@ std::vector<Action> ListOf(const std::string& path) {
 // One run of the program.
 class Round {
 public:
-    Round(const Options& options, const std::string& list)
-        : options_(options), files_(CopyOfSamples()), desktop_(files_), user_(desktop_, files_, options.seed),
-          replay_(ListOf(options.replay)), list_(options.replay.empty() ? list : "/dev/null") {
+    // `folder`: empty, for all that the run writes.
+    Round(const Options& options, const std::string& folder, const std::string& list)
+        : options_(options), files_(CopyOfSamples(folder)), desktop_(files_),
+          user_(desktop_, files_, options.seed), replay_(ListOf(options.replay)),
+          list_(options.replay.empty() ? list : "/dev/null") {
         desktop_.dispatch.onEnd = [](const std::string& what) {
             const bool announced = what.starts_with("Run-time error");
             EndRound(announced ? EndedByDesign : Complained, "end of the run: " + what);
@@ -80,12 +86,19 @@ public:
     }
 
 private:
-    std::string CopyOfSamples() {
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
-        const std::string copy = folder_.path().toStdString() + "/files";
+    static std::string CopyOfSamples(const std::string& folder) {
+        setenv("HOME", folder.c_str(), 1);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, ToQt(folder));
+        const std::string copy = folder + "/files";
         std::filesystem::copy(sourcePath("samples"), copy);
         for (const auto* name : {"towns.mtx", "towns.dgr"})
             std::filesystem::copy(sourcePath("tests/desktop/journey/golden/") + name, copy);
+        const auto seed = [&](const char* from, const char* name) {
+            std::filesystem::copy(sourcePath("fuzz/seeds/") + from, copy + "/" + name);
+        };
+        seed("text_table/named.csv", "table.csv");
+        seed("text_matrix/named.txt", "square.txt");
+        seed("dbase_table/counties.dbf", "table.dbf");
         return copy;
     }
 
@@ -94,7 +107,18 @@ private:
         QTimer::singleShot(0, &timers_, [this] { Step(); });
     }
 
+    // A dialog or menu that has closed and has yet to return: its loop stands below this call. No user is
+    // quick enough to act then.
+    static bool ADialogHasYetToReturn() {
+        if (QApplication::activePopupWidget()) return false; // some have a loop of their own
+        const auto tops = QApplication::topLevelWidgets();
+        const auto open = std::count_if(
+            tops.begin(), tops.end(), [](const QWidget* top) { return top->isVisible() && top->isModal(); });
+        return QThread::currentThread()->loopLevel() > 1 + int(open);
+    }
+
     void Step() {
+        if (ADialogHasYetToReturn()) return Arm();
         desktop_.dispatch.RunWaiting();
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
@@ -111,9 +135,9 @@ private:
     }
 
     const Options& options_;
-    QTemporaryDir folder_;
     std::string files_;
     Desktop desktop_;
+    JournalKeeper journal_{desktop_.session, desktop_.dispatch, files_ + "/../state"};
     User user_;
     std::vector<Action> replay_;
     std::ofstream list_;
@@ -121,19 +145,20 @@ private:
     QObject timers_;
 };
 
-int RunRound(const Options& options, const std::string& list) {
+int RunRound(const Options& options, const std::string& folder, const std::string& list) {
     int count = 1;
     char name[] = "hammer";
     char* arguments[] = {name, nullptr};
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     const QApplication application(count, arguments);
-    Round(options, list).Run();
+    Round(options, folder, list).Run();
     return EXIT_SUCCESS;
 }
 
 int InProcess(const Options& options, const std::string& list) {
+    const QTemporaryDir folder;
     const pid_t process = ::fork();
-    if (process == 0) std::_Exit(RunRound(options, list));
+    if (process == 0) std::_Exit(RunRound(options, folder.path().toStdString(), list));
     int status = 0;
     ::waitpid(process, &status, 0);
     return status;
@@ -159,7 +184,7 @@ Options Read(int count, char** arguments) {
 
 int main(int count, char** arguments) {
     Options options = Read(count, arguments);
-    if (!options.replay.empty()) return RunRound(options, {});
+    if (!options.replay.empty()) return RunRound(options, QTemporaryDir().path().toStdString(), {});
     QElapsedTimer time;
     time.start();
     options.end = std::chrono::steady_clock::now() + std::chrono::seconds(options.seconds);

@@ -1,7 +1,10 @@
 #include "hammer/user.h"
 
 #include "desktop/qt_text.h"
+#include "session/command_rows.h"
 #include "sheet/frmNotePad.h"
+
+#include <fmt/format.h>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -21,43 +24,19 @@ namespace {
 constexpr std::size_t MostWindows = 8;
 
 constexpr const char* Files[] = {"Townships.mdt", "USArrests.mdt", "iris.mdt", "towns.mtx",
-                                 "towns.dgr",     "one.mdt",       "two.mtx",  "three.dgr"};
+                                 "towns.dgr",     "one.mdt",       "two.mtx",  "three.dgr",
+                                 "table.csv",     "square.txt",    "table.dbf"};
 
-constexpr const char* Items[] = {"mnuFNew",
-                                 "mnuFData",
-                                 "mnuFDiagram",
-                                 "mnuFMatrix",
-                                 "mnuSave",
-                                 "mnuSaveAs",
-                                 "mnuFileClose",
-                                 "mnuFilePrint",
-                                 "mnuEditSelect",
-                                 "mnuEditHome",
-                                 "mnuEditUp",
-                                 "mnuEditDown",
-                                 "mnuEditEnd",
-                                 "mnuEditInsert",
-                                 "mnuAnalysisMatrix",
-                                 "mnuAnalysisDiagram",
-                                 "mnuOToolbar",
-                                 "mnuCascade",
-                                 "mnuTile",
-                                 "mnuArrangeIcons",
-                                 "mnuDorvanHelp",
-                                 "mnuHelpContact",
-                                 "mnuAbout",
-                                 "toolMain.New",
-                                 "toolMain.Open",
-                                 "toolMain.Save",
-                                 "toolMain.SaveAs",
-                                 "toolMain.MakeMatrix",
-                                 "toolMain.MakeDiagram",
-                                 "toolDiagram.Select",
-                                 "toolDiagram.Home",
-                                 "toolDiagram.Up",
-                                 "toolDiagram.Down",
-                                 "toolDiagram.End",
-                                 "toolDiagram.Insert"};
+// Every item and button of the program but the one that ends it.
+std::vector<std::string> ItemsOf(const std::vector<CommandRow>& rows) {
+    std::vector<std::string> items;
+    for (const auto& row : rows) {
+        if (row.Kind == RowKind::Menu || row.Item == "mnuFExit") continue;
+        if (!row.Item.empty()) items.emplace_back(row.Item);
+        if (row.Button.Place > 0) items.push_back(fmt::format("{}.{}", row.Button.Toolbar, row.Button.Key));
+    }
+    return items;
+}
 
 constexpr int GridKeys[] = {Qt::Key_Left,    Qt::Key_Up,        Qt::Key_Right,  Qt::Key_Down,
                             Qt::Key_Home,    Qt::Key_End,       Qt::Key_PageUp, Qt::Key_PageDown,
@@ -69,7 +48,8 @@ constexpr char Characters[] = "0123456789+-*/.,nNaAxB ";
 } // namespace
 
 User::User(Desktop& desktop, std::string files, unsigned seed)
-    : desktop_(desktop), files_(ToQt(files)), random_(seed) {}
+    : desktop_(desktop), files_(ToQt(files)), items_(ItemsOf(desktop.session.commands.Rows())),
+      random_(seed) {}
 
 QMdiSubWindow* User::Window(int number) const {
     const auto windows = desktop_.mainWindow->Area().subWindowList();
@@ -152,7 +132,7 @@ Action User::WithCommands() {
         if (desktop_.session.Children.size() >= MostWindows) return {"close", {Draw(100)}, {}};
         return Draw(3) == 0 ? Action{"item", {}, "mnuFNew"} : Action{"open", {}, OneOf(Files)};
     }
-    return {"item", {}, OneOf(Items)};
+    return {"item", {}, items_[std::size_t(Draw(int(items_.size())))]};
 }
 
 Action User::WithKeys() {

@@ -8,6 +8,7 @@
 
 #include <random>
 #include <string>
+#include <vector>
 
 class QDialog;
 class QMdiSubWindow;
@@ -52,6 +53,7 @@ private:
 
     Desktop& desktop_;
     QString files_;
+    std::vector<std::string> items_; // names of actions
     std::mt19937 random_;
 };
 

@@ -68,13 +68,15 @@ def walk(accessible):
 
 
 class Program:
-    """One run of the program, from outside; with the state of another run when a folder of states is given."""
+    """One run of the program, from outside; with the state of another run when a folder of states is given.
+    One that asks something as it starts has its question in front of its main window."""
 
-    def __init__(self, path, *arguments, states=None):
+    def __init__(self, path, *arguments, states=None, asks=False):
         environment = {**os.environ, "XDG_STATE_HOME": states or tempfile.mkdtemp()}
         self.process = subprocess.Popen([path, *arguments], stderr=subprocess.PIPE, text=True, env=environment)
         self.root = wait_for("program on the accessibility bus", self._application)
-        wait_for("main window in front", self._bring_to_front)
+        if not asks:
+            wait_for("main window in front", self._bring_to_front)
         time.sleep(0.3)
 
     def _application(self):
