@@ -1,8 +1,10 @@
 #include "desktop/desktop.h"
 
+#include "desktop/file_drops.h"
 #include "desktop/icons.h"
 #include "desktop/journal_keeper.h"
 #include "desktop/qt_text.h"
+#include "desktop/workspace_hint.h"
 #include "export/diagram_pictures.h"
 #include "painting/picture_files.h"
 #include "program/open_document.h"
@@ -27,6 +29,8 @@ Desktop::Desktop(const std::string& programFolder) {
         {session, dispatch,
          [this](const std::string& menu, QPoint global) { mainWindow->PopUp(menu, global); }},
         mainWindow->Area());
+    new FileDrops(*mainWindow, session, dispatch);
+    new WorkspaceHint(mainWindow->Area(), session, shell, dispatch, programFolder + "/USArrests.mdt");
 }
 
 void Desktop::Show() {

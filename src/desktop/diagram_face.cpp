@@ -29,6 +29,9 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
                              .lostFocus = {}});
     grid.SetPictures(TilePictures());
     BindZoom(grid, window, context.dispatch);
+    grid.events.rightButton = [popUp = context.popUp](QPoint global) {
+        popUp(std::string(DocumentKind::Diagram), global);
+    };
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
 

@@ -51,7 +51,7 @@ void LegendWidget::paintEvent(QPaintEvent*) {
     int left = 0;
     for (const auto& entry : entries_) {
         painter.drawImage(left, (height() - TileSide) / 2,
-                          pictures.image(static_cast<std::uint8_t>(entry.Symbol)));
+                          pictures.image(static_cast<std::uint8_t>(entry.Symbol), TileSide));
         painter.drawText(QRect(left + TileSide + Gap, 0, width(), height()), Qt::AlignVCenter,
                          ToQt(entry.Text));
         left += WidthOf(entry);

@@ -4,7 +4,9 @@
 #include "desktop/legend_widget.h"
 #include "desktop/qt_text.h"
 #include "program/status_line.h"
+#include "session/busy.h"
 #include "session/menus.h"
+#include "session/popup_menus.h"
 #include "session/status_bar.h"
 
 #include <QAction>
@@ -199,9 +201,21 @@ void MainWindowFace::Mirror() {
     MirrorStatusBar();
 }
 
+// The name of a menu, or the kind of a window with a menu of its own.
 void MainWindowFace::PopUp(const std::string& menu, QPoint global) {
     for (const auto& [name, entry] : menus_)
         if (name == menu) entry->popup(global);
+    const auto wanted = PopUpItems(menu);
+    if (wanted.empty() || IsBusy(session_)) return;
+    auto* made = new QMenu(this);
+    made->setObjectName("PopUp");
+    made->setAttribute(Qt::WA_DeleteOnClose);
+    for (const auto item : wanted) {
+        if (item == "-") made->addSeparator();
+        for (const auto& [name, action] : items_)
+            if (name == item) made->addAction(action);
+    }
+    made->popup(global);
 }
 
 void MainWindowFace::closeEvent(QCloseEvent* event) {

@@ -9,7 +9,11 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <map>
 #include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
 
 namespace dorvan::painting {
 
@@ -42,95 +46,115 @@ std::string Escaped(std::string_view text) {
     return escaped;
 }
 
-class SvgPlayer {
+// How an operation looks, as a style sheet says it. Each says all, so that none inherits from another.
+std::string StyleOf(const drawing::Pen& pen) {
+    return fmt::format("fill:none;stroke:#{:06x};stroke-width:{};stroke-linecap:square;stroke-linejoin:miter",
+                       pen.Ink, Length(pen.Width));
+}
+std::string StyleOf(Colour fill) { return fmt::format("fill:#{:06x};stroke:none", fill); }
+std::string StyleOf(const drawing::Line& line) { return StyleOf(line.With); }
+std::string StyleOf(const drawing::Box& box) { return StyleOf(box.With); }
+std::string StyleOf(const drawing::FilledBox& box) { return StyleOf(box.Fill); }
+std::string StyleOf(const drawing::Disc& disc) { return StyleOf(disc.Fill); }
+std::string StyleOf(const drawing::Text& text) {
+    const QFont font = FontInTwips(text.With);
+    return fmt::format("{};font-family:'{}';font-size:{}px;font-weight:{}", StyleOf(text.Ink),
+                       font.family().toStdString(), font.pixelSize(), text.With.Bold ? 700 : 400);
+}
+std::string StyleOf(const drawing::NewPage&) { return {}; }
+
+// The styles of a sheet. The most frequent one is that of the whole picture: its operations need not name it.
+class Styles {
 public:
-    void Play(const drawing::Line& line) {
-        Stroke(line.With);
-        Add("<path d=\"M{} {}L{} {}\"/>\n", Length(line.From.X), Length(line.From.Y), Length(line.To.X),
-            Length(line.To.Y));
+    explicit Styles(const Drawing& sheet) {
+        std::map<std::string, std::size_t> counts;
+        for (const auto& operation : sheet.Operations) ++counts[Of(operation)];
+        for (const auto& [style, count] : counts) {
+            if (whole_.empty() || count > counts.at(whole_)) whole_ = style;
+            names_.emplace(style, fmt::format("s{}", names_.size()));
+        }
     }
 
-    void Play(const drawing::Box& box) {
-        Stroke(box.With);
-        AddRectangle(box.From, box.To);
+    static std::string Of(const drawing::Operation& operation) {
+        return std::visit([](const auto& drawn) { return StyleOf(drawn); }, operation);
     }
 
-    void Play(const drawing::FilledBox& box) {
-        Fill(box.Fill);
-        AddRectangle(box.From, box.To);
+    // What an operation of that style says: " class=\"s1\"", or nothing.
+    std::string Attribute(const std::string& style) const {
+        return style == whole_ ? std::string() : fmt::format(" class=\"{}\"", names_.at(style));
     }
-
-    void Play(const drawing::Disc& disc) {
-        if (disc.Radius <= 0) return;
-        Fill(disc.Fill);
-        Add("<circle cx=\"{}\" cy=\"{}\" r=\"{}\"/>\n", Length(disc.Centre.X), Length(disc.Centre.Y),
-            Length(disc.Radius));
-    }
-
-    void Play(const drawing::Text& text) {
-        const QFont font = FontInTwips(text.With);
-        Enter(fmt::format("fill=\"#{:06x}\" font-family=\"{}\" font-size=\"{}\" font-weight=\"{}\" "
-                          "xml:space=\"preserve\"",
-                          text.Ink, Escaped(font.family().toStdString()), font.pixelSize(),
-                          text.With.Bold ? 700 : 400));
-        Add("<text x=\"{}\" y=\"{}\">{}</text>\n", Length(text.At.X),
-            Length(text.At.Y + QFontMetricsF(font).ascent()), Escaped(text.Content));
-    }
-
-    void Play(const drawing::NewPage&) {}
-
-    std::string Take() {
-        Enter({});
-        return std::move(svg_);
+    std::string Whole() const { return whole_.empty() ? "s0" : names_.at(whole_); }
+    std::string Sheet() const {
+        std::string sheet;
+        for (const auto& [style, name] : names_) sheet += fmt::format(".{}{{{}}}\n", name, style);
+        return sheet;
     }
 
 private:
+    std::map<std::string, std::string> names_; // by style
+    std::string whole_;
+};
+
+class SvgPlayer {
+public:
+    explicit SvgPlayer(const Styles& styles) : styles_(styles) {}
+
+    void Play(const drawing::Operation& operation) {
+        attribute_ = styles_.Attribute(Styles::Of(operation));
+        std::visit([this](const auto& drawn) { Draw(drawn); }, operation);
+    }
+    std::string Take() { return std::move(svg_); }
+
+private:
+    void Draw(const drawing::Line& line) {
+        Add("<path{} d=\"M{} {}L{} {}\"/>\n", attribute_, Length(line.From.X), Length(line.From.Y),
+            Length(line.To.X), Length(line.To.Y));
+    }
+    void Draw(const drawing::Box& box) { AddRectangle(box.From, box.To); }
+    void Draw(const drawing::FilledBox& box) { AddRectangle(box.From, box.To); }
+    void Draw(const drawing::Disc& disc) {
+        if (disc.Radius <= 0) return;
+        Add("<circle{} cx=\"{}\" cy=\"{}\" r=\"{}\"/>\n", attribute_, Length(disc.Centre.X),
+            Length(disc.Centre.Y), Length(disc.Radius));
+    }
+    void Draw(const drawing::Text& text) {
+        Add("<text{} x=\"{}\" y=\"{}\">{}</text>\n", attribute_, Length(text.At.X),
+            Length(text.At.Y + QFontMetricsF(FontInTwips(text.With)).ascent()), Escaped(text.Content));
+    }
+    void Draw(const drawing::NewPage&) {}
+
     template <class... Values> void Add(fmt::format_string<Values...> format, Values&&... values) {
         fmt::format_to(std::back_inserter(svg_), format, std::forward<Values>(values)...);
     }
-
     void AddRectangle(drawing::Point from, drawing::Point to) {
-        Add("<rect x=\"{}\" y=\"{}\" width=\"{}\" height=\"{}\"/>\n", Length(std::min(from.X, to.X)),
-            Length(std::min(from.Y, to.Y)), Length(std::fabs(to.X - from.X)),
+        Add("<rect{} x=\"{}\" y=\"{}\" width=\"{}\" height=\"{}\"/>\n", attribute_,
+            Length(std::min(from.X, to.X)), Length(std::min(from.Y, to.Y)), Length(std::fabs(to.X - from.X)),
             Length(std::fabs(to.Y - from.Y)));
     }
 
-    void Stroke(const drawing::Pen& pen) {
-        Enter(fmt::format("fill=\"none\" stroke=\"#{:06x}\" stroke-width=\"{}\" stroke-linecap=\"square\" "
-                          "stroke-linejoin=\"miter\"",
-                          pen.Ink, Length(pen.Width)));
-    }
-
-    void Fill(Colour colour) { Enter(fmt::format("fill=\"#{:06x}\"", colour)); }
-
-    // What follows has these attributes; empty: none.
-    void Enter(const std::string& attributes) {
-        if (attributes == attributes_) return;
-        if (!attributes_.empty()) svg_ += "</g>\n";
-        attributes_ = attributes;
-        if (!attributes_.empty()) Add("<g {}>\n", attributes_);
-    }
-
+    const Styles& styles_;
+    std::string attribute_;
     std::string svg_;
-    std::string attributes_;
 };
 
 } // namespace
 
 std::string SvgOf(const Drawing& drawing, double scale) {
-    SvgPlayer player;
-    for (const auto& operation : PagesOf(drawing).front().Operations)
-        std::visit([&](const auto& drawn) { player.Play(drawn); }, operation);
+    const std::vector<Drawing> pages = PagesOf(drawing);
+    const Styles styles(pages.front());
+    SvgPlayer player(styles);
+    for (const auto& operation : pages.front().Operations) player.Play(operation);
     const double width = drawing.Width * scale;
     const double height = drawing.Height * scale;
     return fmt::format("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\"?>\n"
                        "<svg width=\"{:.6g}mm\" height=\"{:.6g}mm\" viewBox=\"0 0 {} {}\" version=\"1.1\" "
                        "xmlns=\"http://www.w3.org/2000/svg\">\n"
                        "<rect width=\"{}\" height=\"{}\" fill=\"#ffffff\"/>\n"
-                       "<g transform=\"scale({}) translate({},{})\">\n",
+                       "<style type=\"text/css\">\n{}</style>\n"
+                       "<g class=\"{}\" transform=\"scale({}) translate({},{})\" xml:space=\"preserve\">\n",
                        std::ceil(width) / TwipsPerMillimetre, std::ceil(height) / TwipsPerMillimetre,
-                       Length(width), Length(height), Length(width), Length(height), scale, HalfPixel,
-                       HalfPixel) +
+                       Length(width), Length(height), Length(width), Length(height), styles.Sheet(),
+                       styles.Whole(), scale, HalfPixel, HalfPixel) +
            player.Take() + "</g>\n</svg>\n";
 }
 

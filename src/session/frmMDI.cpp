@@ -5,6 +5,7 @@
 #include "session/children.h"
 #include "session/dialog.h"
 #include "session/frmAbout.h"
+#include "session/open_documents.h"
 #include "session/registry.h"
 #include "session/status_bar.h"
 
@@ -104,6 +105,7 @@ void frmMDI::MenuClick(const std::string& item) {
 }
 
 void frmMDI::MenuOpens(const std::string& menu) {
+    if (menu == ExtrasMenu) ShowDocuments(session_); // a save has changed a caption
     if (menu == "mnuOptions")
         session_.mainWindow.CheckMenu("mnuOToolbar", session_.mainWindow.ToolbarShown("toolMain"));
 }

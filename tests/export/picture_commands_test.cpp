@@ -62,7 +62,7 @@ TEST_F(PictureCommands, WriteTheDiagramAtTheChosenSize) {
 
 TEST_F(PictureCommands, WriteTheGraphs) {
     const auto& document = window.Document();
-    for (auto* option : {&frmPicture::Option2, &frmPicture::Option3, &frmPicture::Option4}) {
+    for (const auto option : {&frmPicture::Option2, &frmPicture::Option3, &frmPicture::Option4}) {
         InDialog([option](frmPicture& dialog) { Choose(dialog, dialog.*option); });
         files.paths.push_back(target);
         SavePicture(session, window.Index);

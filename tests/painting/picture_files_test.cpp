@@ -11,6 +11,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace dorvan::test {
 namespace {
 
@@ -73,6 +76,21 @@ QImage Rendered(const std::string& svg, QSize size) {
     return image;
 }
 
+// Of 255, where the digits of the two writers round an edge to other shares of a pixel.
+constexpr int MostRounding = 8;
+
+int MostDifference(const QImage& one, const QImage& other) {
+    int most = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb left = one.pixel(x, y);
+            const QRgb right = other.pixel(x, y);
+            most = std::max({most, std::abs(qRed(left) - qRed(right)), std::abs(qGreen(left) - qGreen(right)),
+                             std::abs(qBlue(left) - qBlue(right))});
+        }
+    return most;
+}
+
 Drawing everything() {
     Canvas canvas(3000, 1500);
     canvas.Pen.Width = 30;
@@ -97,7 +115,9 @@ Drawing everything() {
 TEST(PictureFiles, SvgShowsThePixelsOfThePlainOne) {
     const Drawing drawing = everything();
     for (const QSize size : {QSize(200, 100), QSize(500, 250), QSize(3000, 1500)})
-        EXPECT_EQ(Rendered(painting::SvgOf(drawing), size), Rendered(PlainSvgOf(drawing), size));
+        EXPECT_LE(
+            MostDifference(Rendered(painting::SvgOf(drawing), size), Rendered(PlainSvgOf(drawing), size)),
+            MostRounding);
 }
 
 TEST(PictureFiles, SvgSaysOnceWhatOperationsHaveInCommon) {
@@ -109,7 +129,7 @@ TEST(PictureFiles, SvgSaysOnceWhatOperationsHaveInCommon) {
         }
     const std::string svg = painting::SvgOf(canvas.Take());
     EXPECT_LT(svg.size(), 10000u * 45);
-    EXPECT_EQ(svg.find("fill=\"#000000\""), svg.rfind("fill=\"#000000\""));
+    EXPECT_EQ(svg.find("fill:#000000"), svg.rfind("fill:#000000"));
     EXPECT_THAT(svg, HasSubstr("cx=\"15.12\" cy=\"15\" r=\"7.5\""));
 }
 

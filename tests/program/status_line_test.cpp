@@ -98,11 +98,12 @@ TEST_F(StatusLineTest, DistancesWithoutACriterionLeaveItOut) {
 
 TEST_F(StatusLineTest, TheLegendGoesFromTheNearestClassOn) {
     auto& window = NewDiagram();
-    EXPECT_EQ(LegendOf(session, window), (std::vector<LegendEntry>{{Tile::picCircle05, "0 - 1.00"},
-                                                                   {Tile::picCircle04, "1.00 - 2.00"},
-                                                                   {Tile::picCircle03, "2.00 - 3.00"},
-                                                                   {Tile::picCircle02, "3.00 - 4.00"},
-                                                                   {Tile::picCircle01, ">= 4.00"}}));
+    std::vector<std::string> shown;
+    for (const auto& [symbol, text] : LegendOf(session, window))
+        shown.push_back(std::string(TileName(symbol)) + ": " + text);
+    EXPECT_EQ(shown, (std::vector<std::string>{"picCircle05: 0 - 1.00", "picCircle04: 1.00 - 2.00",
+                                               "picCircle03: 2.00 - 3.00", "picCircle02: 3.00 - 4.00",
+                                               "picColor01: >= 4.00"}));
     window.Document().DiagType = 1;
     EXPECT_EQ(LegendOf(session, window).front().Symbol, Tile::picColor05);
 }
