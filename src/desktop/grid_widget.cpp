@@ -4,17 +4,18 @@
 #include "desktop/grid_accessibility.h"
 #include "desktop/grid_marks.h"
 #include "desktop/grid_mosaic.h"
-#include "desktop/grid_text.h"
 #include "desktop/qt_text.h"
 #include "platform/keys.h"
 #include "platform/twips.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -28,10 +29,18 @@ constexpr double StandardFont = 9;   // points of the application's font that le
 constexpr double SmallestFont = 0.7; // of the grid's own; no smaller where the rows are low
 constexpr double LineOfFont = 1.25;  // a line's height of the font's size
 constexpr int DigitsOfColumn = 3;
-constexpr double EdgeShare = 0.5; // of the text's colour in that of a diagram's edge
-constexpr int ScrollStep = 17;    // pixels at a ratio of 1
+constexpr int NumberGap = 4;        // pixels at a ratio of 1, between the numbers of narrow columns
+constexpr double EdgeShare = 0.5;   // of the text's colour in that of a diagram's edge
+constexpr int ScrollStep = 17;      // pixels at a ratio of 1
+constexpr float MarkedShare = 0.3F; // of the highlight over what is marked
 
 int DevicePixels(double twips, double ratio) { return int(std::lround(twips * ratio / TwipsPerPixel)); }
+
+// On each side of a text, in device pixels; none in the narrow columns of a diagram.
+int TextMarginIn(const QRect& cell, double ratio) {
+    const int margin = int(std::lround(TextMargin * ratio));
+    return cell.width() < 4 * margin + int(10 * ratio) ? 0 : margin;
+}
 
 Qt::Alignment ToQt(Alignment alignment) {
     switch (alignment) {
@@ -102,7 +111,6 @@ struct GridWidget::CellPaint {
     QFont font;
     QPen gridPen;
     QColor fixedBack;
-    int margin;
     QRect rect; // of the cell, in device pixels
 };
 
@@ -120,6 +128,7 @@ GridWidget::GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled); // see GridTyping
 }
 
 void GridWidget::SetPictures(GridPictures pictures) {
@@ -235,18 +244,38 @@ void GridWidget::Mirror() {
         // A document opens at its upper left corner, wherever its filling left the current cell.
         const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        if (!opening && (!follows || follows())) ShowCurrent();
+        leftBehind_ = opening || grid_->Passed() || (follows && !follows());
+        if (!leftBehind_) FollowCurrent();
         TellCurrent();
     }
+    movedByHand_ = false;
     viewport()->update();
 }
 
-void GridWidget::ShowCurrent() {
-    if (grid_->Rows() == 0 || grid_->Columns() == 0) return;
-    verticalScrollBar()->setValue(rows_.FirstThatShows(grid_->Row(), int(viewport()->height() * Ratio())) -
+void GridWidget::FollowCurrent() {
+    const bool sideways = followsRulesSideways || movedByHand_;
+    leftBehind_ = !sideways;
+    if (grid_->Rows() > 0 && grid_->Columns() > 0)
+        ScrollTo(grid_->Row(), sideways ? grid_->Column() : columns_.first);
+}
+
+void GridWidget::ScrollTo(int row, int column) {
+    verticalScrollBar()->setValue(rows_.FirstThatShows(row, int(viewport()->height() * Ratio())) -
                                   rows_.fixed);
-    horizontalScrollBar()->setValue(
-        columns_.FirstThatShows(grid_->Column(), int(viewport()->width() * Ratio())) - columns_.fixed);
+    horizontalScrollBar()->setValue(columns_.FirstThatShows(column, int(viewport()->width() * Ratio())) -
+                                    columns_.fixed);
+}
+
+// The user's keys go on from what is seen, where a rule has left the current cell out of sight.
+void GridWidget::StartInSight() {
+    if (!std::exchange(leftBehind_, false) || grid_->Rows() == 0 || grid_->Columns() == 0) return;
+    const bool rowHidden =
+        rows_.Scrolled(grid_->Row()) || rows_.Start(grid_->Row()) >= int(viewport()->height() * Ratio());
+    const bool columnHidden = columns_.Scrolled(grid_->Column()) ||
+                              columns_.Start(grid_->Column()) >= int(viewport()->width() * Ratio());
+    if (rowHidden || columnHidden)
+        grid_->SetCurrent(rowHidden ? rows_.first : grid_->Row(),
+                          columnHidden ? columns_.first : grid_->Column());
 }
 
 GridWidget::Anchor GridWidget::AnchorOfZoom() const {
@@ -346,21 +375,29 @@ void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
     }
 }
 
+// Numbers of narrow columns keep a gap between each other.
+FittedText GridWidget::FittedIn(const QRect& cell, const QFont& font, int row, int column) const {
+    const int margin = TextMarginIn(cell, Ratio());
+    const int room =
+        margin > 0 ? cell.width() - 2 * margin : cell.width() - int(std::lround(NumberGap * Ratio()));
+    return FitText(dorvan::ToQt(grid_->Text(row, column)), font, room);
+}
+
+bool GridWidget::IsCut(int row, int column) const {
+    return !grid_->Text(row, column).empty() && FittedIn(CellPlace(row, column), TextFont(), row, column).Cut;
+}
+
 void GridWidget::PaintText(CellPaint& paint, int row, int column) const {
-    const auto& text = grid_->Text(row, column);
-    if (text.empty()) return;
-    const QRect& rect = paint.rect;
-    const QRect inner =
-        rect.width() < 4 * paint.margin ? rect : rect.adjusted(paint.margin, 0, -paint.margin, 0);
-    // Numbers of narrow columns keep a gap between each other.
-    const int room = inner == rect ? rect.width() - 2 : inner.width();
-    const FittedText fitted = FitText(dorvan::ToQt(text), paint.font, room);
+    if (grid_->Text(row, column).empty()) return;
+    const int margin = TextMarginIn(paint.rect, Ratio());
+    const FittedText fitted = FittedIn(paint.rect, paint.font, row, column);
     const Alignment alignment =
         row < grid_->FixedRows ? grid_->HeaderAlignment(column) : grid_->ColumnAlignment(column);
     const bool fixed = row < grid_->FixedRows || column < grid_->FixedColumns;
     paint.painter.setFont(fitted.Font);
     paint.painter.setPen(palette().color(fixed ? QPalette::ButtonText : QPalette::Text));
-    paint.painter.drawText(inner, int(ToQt(alignment)) | Qt::TextSingleLine | Qt::TextDontClip, fitted.Shown);
+    paint.painter.drawText(paint.rect.adjusted(margin, 0, -margin, 0),
+                           int(ToQt(alignment)) | Qt::TextSingleLine | Qt::TextDontClip, fitted.Shown);
 }
 
 void GridWidget::PaintPictures(QPainter& painter, const QRect& exposed) const {
@@ -458,7 +495,6 @@ void GridWidget::paintEvent(QPaintEvent* event) {
                     TextFont(),
                     QPen(Blend(base, text, 0.22), std::max(1, int(ratio))),
                     Blend(palette().color(QPalette::Button), text, 0.04),
-                    int(std::lround(TextMargin * ratio)),
                     {}};
     const QRect exposed(int(std::floor(event->rect().left() * ratio)),
                         int(std::floor(event->rect().top() * ratio)),
@@ -474,6 +510,7 @@ void GridWidget::paintEvent(QPaintEvent* event) {
             PaintCell(paint, row, column);
         });
     });
+    PaintMarked(painter);
     if (ShowsPictures()) PaintLabels(paint);
     PaintEdge(paint);
     const int row = grid_->Row();
@@ -481,6 +518,21 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     if (rows_.Scrolled(row) || columns_.Scrolled(column)) return;
     if (row >= rows_.fixed && column >= columns_.fixed) painter.setClipRect(Body());
     PaintCurrentFrame(painter, CellPlace(row, column), ratio, palette(), hasFocus());
+}
+
+// A veil over the marked cells, in device pixels.
+void GridWidget::PaintMarked(QPainter& painter) const {
+    const CellRange marked = grid_->Marked();
+    if (marked.IsOneCell() && marked.Has(grid_->Row(), grid_->Column())) return;
+    QColor veil = palette().color(QPalette::Highlight);
+    veil.setAlphaF(MarkedShare);
+    for (int row = marked.Top; row <= marked.Bottom; ++row) {
+        if (rows_.Scrolled(row)) continue;
+        for (int column = marked.Left; column <= marked.Right; ++column)
+            if (!columns_.Scrolled(column))
+                painter.fillRect(columns_.Start(column), rows_.Start(row), columns_.Size(column),
+                                 rows_.Size(row), veil);
+    }
 }
 
 void GridWidget::resizeEvent(QResizeEvent* event) {
@@ -524,7 +576,10 @@ void GridWidget::ForwardLater(std::function<void()> handler) {
 
 void GridWidget::MakeCurrent(int row, int column) {
     setFocus(Qt::OtherFocusReason);
-    ForwardLater([this, row, column] { grid_->Press(row, column); });
+    ForwardLater([this, row, column] {
+        movedByHand_ = true;
+        grid_->Press(row, column);
+    });
     dispatch_.RunWaiting();
 }
 
@@ -542,6 +597,16 @@ bool GridWidget::event(QEvent* event) {
     return QAbstractScrollArea::event(event);
 }
 
+// The whole of a text that its cell cuts.
+bool GridWidget::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !grid_) return QAbstractScrollArea::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QPoint cell = CellAt(help->pos());
+    const bool cut = cell.x() >= 0 && cell.y() >= 0 && IsCut(cell.y(), cell.x());
+    QToolTip::showText(help->globalPos(), cut ? CellReading(cell.y(), cell.x()) : QString(), viewport());
+    return true;
+}
+
 void GridWidget::keyPressEvent(QKeyEvent* event) {
     if (!grid_) return;
     int keyCode = KeyCodeOf(*event);
@@ -555,7 +620,11 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     }
     bool moved = false;
     const bool control = event->modifiers() & Qt::ControlModifier;
-    Forward([&] { moved = grid_->MoveByKey(keyCode, control, PageRows()); });
+    Forward([&] {
+        movedByHand_ = true;
+        if (keyCode >= key::PageUp && keyCode <= key::Down) StartInSight();
+        moved = grid_->MoveByKey(keyCode, control, PageRows());
+    });
     if (!moved) event->ignore();
 }
 
@@ -565,6 +634,7 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     ForwardLater([this, place = event->position().toPoint()] {
         const QPoint cell = CellAt(place);
+        movedByHand_ = true;
         grid_->Press(cell.y(), cell.x());
     });
     if (event->button() == Qt::RightButton)
