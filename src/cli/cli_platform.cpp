@@ -1,8 +1,6 @@
 #include "cli/cli_platform.h"
 
-#include "making/frmBestOrder.h"
-#include "making/frmWork.h"
-#include "making/frmWorkUM.h"
+#include "making/progress_window.h"
 #include "numbers/text.h"
 
 #include <fmt/format.h>
@@ -20,26 +18,11 @@ constexpr int BarLength = 30; // characters
 
 std::string OneLine(std::string_view text) { return ReplaceAll(ReplaceAll(text, "\r\n", " "), "\n", " "); }
 
-std::string BarLine(const Bar& track, const Bar& filled, const std::string& text) {
-    const int length = static_cast<int>(filled.Width / track.Width * BarLength);
-    return fmt::format("[{:=<{}}{:<{}}] {}", "", length, "", BarLength - length, text);
-}
-
-std::string ProgressLine(const frmBestOrder& form) {
-    return BarLine(form.Procent, form.Procent1,
-                   fmt::format("{} {}", form.Label1.Caption, form.lblCriterion.Caption));
-}
-
-std::string ProgressLine(const frmWork& form) {
-    return BarLine(form.Procent, form.Procent1,
-                   fmt::format("{}  {}  F = {}", form.InfoString.Caption, form.InfoTime.Caption,
-                               form.lblFunkcja.Caption));
-}
-
-std::string ProgressLine(const frmWorkUM& form) {
-    return fmt::format("generation {}  mutation {}  UM {}  best {}  {}", form.Generacje.Caption,
-                       form.Mutacje.Caption, form.lblFunkcja.Caption, form.BestUm.Caption,
-                       form.InfoTime.Caption);
+std::string LineOf(const ProgressWindow& window) {
+    const auto share = window.shareDone();
+    if (!share) return window.onOneLine();
+    const int length = static_cast<int>(*share * BarLength);
+    return fmt::format("[{:=<{}}{:<{}}] {}", "", length, "", BarLength - length, window.onOneLine());
 }
 
 // Ctrl+C once asks a search to end early; a second one ends the process as usual.
@@ -101,11 +84,8 @@ void CliPlatform::update(Form& form) {
     const double now = seconds();
     if (!isatty(STDERR_FILENO) || now - shownAt_ < 0.1) return;
     shownAt_ = now;
-    std::string line;
-    if (const auto* best = dynamic_cast<const frmBestOrder*>(&form)) line = ProgressLine(*best);
-    if (const auto* genetic = dynamic_cast<const frmWork*>(&form)) line = ProgressLine(*genetic);
-    if (const auto* ravelin = dynamic_cast<const frmWorkUM*>(&form)) line = ProgressLine(*ravelin);
-    fmt::print(stderr, "\r{}\x1b[K", line);
+    if (const auto* window = dynamic_cast<const ProgressWindow*>(&form))
+        fmt::print(stderr, "\r{}\x1b[K", LineOf(*window));
 }
 
 void CliPlatform::close(Form& form) {

@@ -13,27 +13,19 @@ namespace {
 struct Given {
     std::string in;
     std::string out;
-    std::string separator = "semicolon";
-    bool noVariableNames = false;
+    TextChoices text;
     Surroundings surroundings;
 };
-
-template <class Dialog> void ChooseSeparator(Dialog& form, const std::string& separator) {
-    form.Option1.Value = separator == "semicolon";
-    form.Option2.Value = separator == "comma";
-    form.Option3.Value = separator == "tab";
-}
 
 int ExportText(const Given& given) {
     return Reported(given.in, [&] {
         Run run(given.surroundings);
         run.ports.OnDialog<frmExportOptions>([&](frmExportOptions& form) {
-            ChooseSeparator(form, given.separator);
-            form.Check1.Value = !given.noVariableNames;
+            form.Enter(given.text);
             form.Command2_Click();
         });
         run.ports.OnDialog<frmTextOptions>([&](frmTextOptions& form) {
-            ChooseSeparator(form, given.separator);
+            form.Enter(given.text);
             form.Command2_Click();
         });
         run.Open(given.in, {DocumentKind::Data, DocumentKind::Matrix});
@@ -56,9 +48,9 @@ Subcommand TextExport() {
     Options options;
     options.Argument("IN", given->in, "data sheet (.mdt) or matrix (.mtx)");
     options.Argument("OUT", given->out, "text to write (.txt)");
-    options.OneOf("--separator", given->separator, {"semicolon", "comma", "tab"},
-                  "between the fields: semicolon, comma or tab (semicolon)");
-    options.Flag("--no-variable-names", given->noVariableNames, "leave out the line of a sheet's names");
+    options.Numbered("--separator", given->text.Separator, {"semicolon", "comma", "tab"},
+                     "between the fields: semicolon, comma or tab (semicolon)");
+    options.Off("--no-variable-names", given->text.VariableNames, "leave out the line of a sheet's names");
     AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "text",

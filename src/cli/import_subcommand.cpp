@@ -2,12 +2,9 @@
 #include "import/frmImpDBF.h"
 #include "import/frmImpMatrix.h"
 #include "import/frmImportText.h"
+#include "import/separators.h"
 #include "numbers/text.h"
 
-#include <fmt/format.h>
-
-#include <algorithm>
-#include <cstdint>
 #include <memory>
 
 // The imports fill the dialogs of the desktop and press their OK.
@@ -18,12 +15,9 @@ namespace {
 struct Given {
     std::string file;
     std::string out;
-    std::string separator; // semicolon, tab
-    bool noVariableNames = false;
-    bool noRecordNames = false;
-    std::optional<std::int16_t> precision; // decimals of a matrix
-    std::string fields;                    // numeric fields of a table, between commas; empty: all
-    std::string names;                     // its field of the records' names; empty: the first
+    TextImportChoices text;
+    MatrixImportChoices matrix;
+    DBaseImportChoices dbase;
     Surroundings surroundings;
 };
 
@@ -48,10 +42,7 @@ int ImportText(const Given& given) {
     return Import<frmImportText>(given, "mnuImportTextFile", [&](frmImportText& dialog) {
         dialog.Command3_Click();
         if (dialog.Label1.Caption.empty()) return; // refused with a message
-        dialog.Option3.Value = given.separator == "tab";
-        dialog.Option1.Value = !dialog.Option3.Value;
-        dialog.Check1.Value = !given.noVariableNames;
-        dialog.Check2.Value = !given.noRecordNames;
+        dialog.Enter(given.text);
         dialog.Command2_Click();
     });
 }
@@ -60,42 +51,16 @@ int ImportMatrix(const Given& given) {
     return Import<frmImpMatrix>(given, "mnuImportMatrix", [&](frmImpMatrix& dialog) {
         dialog.Command3_Click();
         if (dialog.Label1.Caption.empty()) return;
-        dialog.optSep2.Value = given.separator == "tab";
-        dialog.optSep1.Value = !dialog.optSep2.Value;
-        dialog.chkFirstCol.Value = !given.noRecordNames;
-        if (given.precision) dialog.txtPrecision.Text = std::to_string(*given.precision);
+        dialog.Enter(given.matrix);
         dialog.Command1_Click();
     });
-}
-
-// The place of a name in a list of the dialog.
-int PlaceOf(const ListBox& list, std::string_view name, const char* kind) {
-    const auto found = std::find(list.List.begin(), list.List.end(), TrimSpaces(name));
-    if (found == list.List.end())
-        throw Refusal(fmt::format("the table has no {} field \"{}\"", kind, TrimSpaces(name)));
-    return static_cast<int>(found - list.List.begin());
-}
-
-// The fields are moved one by one, in the order in which they were named.
-void SelectFields(frmImpDBF& dialog, const std::string& fields) {
-    if (fields.empty()) {
-        dialog.AList.SelectAll();
-        if (dialog.AList.AnySelected()) dialog.cmdCopyToRight_Click();
-        return;
-    }
-    for (const std::string_view name : SplitFields(fields, ',')) {
-        dialog.AList.Selected.at(std::size_t(PlaceOf(dialog.AList, name, "numeric"))) = true;
-        dialog.cmdCopyToRight_Click();
-    }
 }
 
 int ImportDBase(const Given& given) {
     return Import<frmImpDBF>(given, "mnuImportDBase", [&](frmImpDBF& dialog) {
         dialog.cmdBrowse_Click();
         if (dialog.Label1.Caption.empty()) return;
-        SelectFields(dialog, given.fields);
-        if (!given.names.empty())
-            dialog.cmbString.ListIndex = PlaceOf(dialog.cmbString, given.names, "character");
+        dialog.Enter(given.dbase);
         dialog.cmdOK_Click();
     });
 }
@@ -108,16 +73,21 @@ Options CommonOptions(Given& given, const char* file, const char* out) {
     return options;
 }
 
-void AddSeparator(Options& options, Given& given) {
-    options.OneOf("--separator", given.separator, {"semicolon", "tab"}, "semicolon or tab (semicolon)");
-    options.Flag("--no-record-names", given.noRecordNames, "the first field is a value");
+template <class Choices> void AddSeparator(Options& options, Choices& choices) {
+    options.OneOf(
+        "--separator", {"semicolon", "tab"},
+        [&choices](const std::string& text) {
+            choices.Separator = text == "tab" ? TabSeparator : SemicolonSeparator;
+        },
+        "semicolon or tab (semicolon)");
+    options.Off("--no-record-names", choices.RecordNames, "the first field is a value");
 }
 
 Subcommand TextSubcommand() {
     const auto given = std::make_shared<Given>();
     Options options = CommonOptions(*given, "delimited text", "data sheet to write (.mdt)");
-    AddSeparator(options, *given);
-    options.Flag("--no-variable-names", given->noVariableNames, "the first line is a record");
+    AddSeparator(options, given->text);
+    options.Off("--no-variable-names", given->text.VariableNames, "the first line is a record");
     return {.Name = "text",
             .Help = "Make a data sheet from delimited text (at most 250 records, 100 variables)",
             .Takes = options,
@@ -131,8 +101,8 @@ Subcommand TextSubcommand() {
 Subcommand MatrixTextSubcommand() {
     const auto given = std::make_shared<Given>();
     Options options = CommonOptions(*given, "delimited text, a line a row", "matrix to write (.mtx)");
-    AddSeparator(options, *given);
-    options.Number<std::int16_t>("--precision", given->precision, "decimals that are kept (3)",
+    AddSeparator(options, given->matrix);
+    options.Number<std::int16_t>("--precision", given->matrix.Precision, "decimals that are kept (3)",
                                  [](std::int16_t precision) { return precision >= 0; });
     return {.Name = "matrix",
             .Help = "Make a matrix from a square of delimited text (at most 250 records)",
@@ -142,11 +112,20 @@ Subcommand MatrixTextSubcommand() {
             .Run = [given] { return ImportMatrix(*given); }};
 }
 
+auto TakeFields(std::vector<std::string>& fields) {
+    return [&fields](const std::string& text) {
+        for (const std::string_view name : SplitFields(text, ',')) fields.emplace_back(TrimSpaces(name));
+        return std::string();
+    };
+}
+
 Subcommand DBaseSubcommand() {
     const auto given = std::make_shared<Given>();
     Options options = CommonOptions(*given, "dBase III table (.dbf)", "data sheet to write (.mdt)");
-    options.Text("--fields", given->fields, "numeric fields, between commas (every numeric field)");
-    options.Text("--names", given->names, "character field of the records' names (the first one)");
+    options.Checked("--fields", "TEXT", TakeFields(given->dbase.Fields),
+                    "numeric fields, between commas (every numeric field)");
+    options.Text("--names", given->dbase.RecordNames,
+                 "character field of the records' names (the first one)");
     return {.Name = "dbase",
             .Help = "Make a data sheet from a dBase III table (its first 250 records)",
             .Takes = options,

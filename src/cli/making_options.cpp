@@ -7,8 +7,6 @@
 #include "making/frmGeneticUM.h"
 #include "making/frmPrzedzal.h"
 
-#include <algorithm>
-
 namespace dorvan::cli {
 
 namespace {
@@ -93,11 +91,8 @@ void AddDiagram(Options& options, DiagramChoices& diagram) {
         diagram.OrderMethod = NumberOf(diagram.BestOrder ? orders.front() : order, orders);
     };
     options.OneOf("--order", orders, takeOrder, "none, simple, genetic, ravelin or best (none)");
-    const std::vector<std::string> types{"greyscale", "dots", "classic"};
-    const auto takeType = [&diagram, types](const std::string& type) {
-        diagram.DiagType = NumberOf(type, types);
-    };
-    options.OneOf("--type", types, takeType, "greyscale, dots or classic (dots)");
+    options.Numbered("--type", diagram.DiagType, {"greyscale", "dots", "classic"},
+                     "greyscale, dots or classic (dots)");
 }
 
 void AddSearches(Options& options, DiagramChoices& diagram) {

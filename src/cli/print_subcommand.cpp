@@ -11,17 +11,11 @@ namespace {
 struct Given {
     std::string in;
     std::string out;
-    std::string size = "normal";
+    std::optional<std::int16_t> size;
     std::string font;
     painting::PageChoices page;
     Surroundings surroundings;
 };
-
-// The dialog offers the printer's fonts; here any name will do, and none is the program's own font.
-void ChooseFont(frmOpisDiagramu& form, const std::string& font) {
-    form.Combo1.List = {font};
-    form.Combo1.ListIndex = 0;
-}
 
 int Print(const Given& given) {
     return Reported(given.in, [&] {
@@ -31,10 +25,7 @@ int Print(const Given& given) {
         run.ports.printer.setFontName(given.font);
         run.ports.OnDialog<frmPrintMatrix>([](frmPrintMatrix& form) { form.Command1_Click(); });
         run.ports.OnDialog<frmOpisDiagramu>([&](frmOpisDiagramu& form) {
-            ChooseFont(form, given.font);
-            form.Option1.Value = given.size == "normal";
-            form.Option2.Value = given.size == "small";
-            form.Option3.Value = given.size == "large";
+            form.Enter(given.size.value_or(1), given.font);
             form.Command1_Click();
         });
         run.Open(given.in, {DocumentKind::Matrix, DocumentKind::Diagram});
@@ -49,7 +40,7 @@ Subcommand PrintSubcommand() {
     Options options;
     options.Argument("IN", given->in, "matrix (.mtx) or diagram (.dgr)");
     options.Argument("OUT", given->out, "file to write (.pdf)");
-    options.OneOf("--size", given->size, {"normal", "small", "large"}, "of a diagram (normal)");
+    options.Numbered("--size", given->size, {"normal", "small", "large"}, "of a diagram (normal)");
     options.Text("--font", given->font, "family of the texts (a plain one)");
     options.OneOf("--paper", given->page.Paper, {"a4", "a3", "letter"}, "size of the pages (a4)");
     options.Flag("--landscape", given->page.Landscape, "pages that are wider than high");

@@ -3,8 +3,9 @@
 #include "view/frmDiagramType.h"
 #include "view/frmHistogram.h"
 
+#include <algorithm>
+#include <array>
 #include <memory>
-#include <vector>
 
 // Fills the dialogs of the desktop and presses their OK.
 namespace dorvan::cli {
@@ -14,23 +15,18 @@ namespace {
 struct Given {
     std::string diagram;
     std::string out;
-    std::string type; // empty: as it is
-    std::vector<std::string> limits;
+    std::optional<std::int16_t> type; // as it is when not given
+    std::optional<std::array<std::string, 4>> limits;
     Surroundings surroundings;
 };
 
 void AnswerDialogs(CliPlatform& ports, const Given& given) {
     ports.OnDialog<frmDiagramType>([&](frmDiagramType& dialog) {
-        dialog.Option1.Value = given.type == "greyscale";
-        dialog.Option2.Value = given.type == "dots";
-        dialog.Option3.Value = given.type == "classic";
+        dialog.Enter(given.type.value());
         dialog.OKButton_Click();
     });
     ports.OnDialog<frmHistogram>([&](frmHistogram& dialog) {
-        dialog.Text1.Text = given.limits.at(0);
-        dialog.Text2.Text = given.limits.at(1);
-        dialog.Text3.Text = given.limits.at(2);
-        dialog.Text4.Text = given.limits.at(3);
+        dialog.Enter(given.limits.value());
         dialog.Command1_Click();
     });
 }
@@ -40,17 +36,17 @@ int Retype(const Given& given) {
         Run run(given.surroundings);
         AnswerDialogs(run.ports, given);
         run.Open(given.diagram, {DocumentKind::Diagram});
-        if (!given.type.empty()) run.mainWindow.MenuClick("mnuEditDiagramType");
-        if (!given.limits.empty()) run.mainWindow.MenuClick("mnuEditHistogram");
+        if (given.type) run.mainWindow.MenuClick("mnuEditDiagramType");
+        if (given.limits) run.mainWindow.MenuClick("mnuEditHistogram");
         run.Save(given.out);
     });
 }
 
-void AddLimits(Options& options, std::vector<std::string>& limits) {
+void AddLimits(Options& options, std::optional<std::array<std::string, 4>>& limits) {
     const auto take = [&limits](const std::string& text) -> std::string {
         const auto fields = SplitFields(text, ',');
         if (fields.size() != 4) return "not four limits: " + text;
-        limits.assign(fields.begin(), fields.end());
+        std::copy(fields.begin(), fields.end(), limits.emplace().begin());
         return {};
     };
     options.Checked("--limits", "A,B,C,D", take,
@@ -64,8 +60,8 @@ Subcommand RetypeSubcommand() {
     Options options;
     options.Argument("DIAGRAM", given->diagram, "diagram (.dgr)");
     options.Argument("OUT", given->out, "diagram to write (.dgr)");
-    options.OneOf("--type", given->type, {"greyscale", "dots", "classic"},
-                  "greyscale, dots or classic (as it is)");
+    options.Numbered("--type", given->type, {"greyscale", "dots", "classic"},
+                     "greyscale, dots or classic (as it is)");
     AddLimits(options, given->limits);
     AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);

@@ -10,7 +10,7 @@ namespace {
 struct Given {
     std::string sheet;
     std::string out;
-    std::string method; // empty: the dialog's own choice
+    std::optional<std::int16_t> method; // of the dialog
     Surroundings surroundings;
 };
 
@@ -18,8 +18,7 @@ int Standardize(const Given& given) {
     return Reported(given.sheet, [&] {
         Run run(given.surroundings);
         run.ports.OnDialog<frmStandard>([&](frmStandard& dialog) {
-            dialog.Option1.Value = given.method == "deviation";
-            dialog.Option2.Value = !dialog.Option1.Value;
+            if (given.method) dialog.Enter(*given.method);
             dialog.Command2_Click();
         });
         run.Open(given.sheet, {DocumentKind::Data});
@@ -39,8 +38,12 @@ Subcommand StandardizeSubcommand() {
     Options options;
     options.Argument("SHEET", given->sheet, "data sheet (.mdt)");
     options.Argument("OUT", given->out, "data sheet to write (.mdt)");
-    options.OneOf("--method", given->method, {"range", "deviation"},
-                  "range (each variable from 0 to 100) or deviation (mean 0, deviation 1) (range)");
+    options.OneOf(
+        "--method", {"range", "deviation"},
+        [given](const std::string& text) {
+            given->method = text == "deviation" ? frmStandard::ByDeviation : frmStandard::ToRange;
+        },
+        "range (each variable from 0 to 100) or deviation (mean 0, deviation 1) (range)");
     AddYes(options, given->surroundings);
     AddCodePage(options, given->surroundings);
     return {.Name = "standardize",

@@ -1,5 +1,7 @@
 #include "cli/subcommand.h"
 
+#include <algorithm>
+
 namespace dorvan::cli {
 
 namespace {
@@ -36,6 +38,17 @@ void Options::OneOf(std::string name, std::vector<std::string> choices,
     all_.back().OneOf = std::move(choices);
 }
 
+void Options::Numbered(std::string name, std::optional<std::int16_t>& number, std::vector<std::string> names,
+                       std::string help) {
+    OneOf(
+        std::move(name), names,
+        [&number, names](const std::string& text) {
+            const auto found = std::find(names.begin(), names.end(), text);
+            number = static_cast<std::int16_t>(found - names.begin() + 1);
+        },
+        std::move(help));
+}
+
 void Options::Decimal(std::string name, double& number, double least, double most, std::string help) {
     const auto take = [&number, least, most](const std::string& text) -> std::string {
         double value = 0;
@@ -52,6 +65,14 @@ void Options::Decimal(std::string name, double& number, double least, double mos
 void Options::Flag(std::string name, bool& given, std::string help) {
     const auto take = [&given](const std::string&) {
         given = true;
+        return std::string();
+    };
+    Checked(std::move(name), "", take, std::move(help));
+}
+
+void Options::Off(std::string name, std::optional<bool>& given, std::string help) {
+    const auto take = [&given](const std::string&) {
+        given = false;
         return std::string();
     };
     Checked(std::move(name), "", take, std::move(help));

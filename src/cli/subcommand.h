@@ -1,6 +1,7 @@
 #pragma once
 
 #include <charconv>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -32,10 +33,14 @@ class Options {
 public:
     void Argument(std::string name, std::string& text, std::string help);
     void Flag(std::string name, bool& given, std::string help);
+    void Off(std::string name, std::optional<bool>& given, std::string help); // a flag that says no
     void Text(std::string name, std::string& text, std::string help);
     void OneOf(std::string name, std::string& text, std::vector<std::string> choices, std::string help);
     void OneOf(std::string name, std::vector<std::string> choices,
                std::function<void(const std::string&)> take, std::string help);
+    // One of some names, which stand for 1, 2 and so on.
+    void Numbered(std::string name, std::optional<std::int16_t>& number, std::vector<std::string> names,
+                  std::string help);
 
     // With a point, from `least` to `most`.
     void Decimal(std::string name, double& number, double least, double most, std::string help);

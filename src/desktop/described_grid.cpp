@@ -1,6 +1,7 @@
 #include "desktop/described_grid.h"
 
 #include "platform/twips.h"
+#include "session/document_grid.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -37,6 +38,7 @@ GridWidget& LayOutDescribedGrid(ChildFace& face, GridWindow& window, const QStri
     row->addWidget(field, 1);
     column->addWidget(panel);
     auto& shown = face.ShowGrid(window.Siatka, gridName);
+    shown.SetLabelColumns(DocumentGrid::FirstValueColumn); // numbers and names
     column->addWidget(&shown, 1);
     if (!window.ActiveControl) window.SetFocus(window.Siatka);
     return shown;

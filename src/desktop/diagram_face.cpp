@@ -1,12 +1,26 @@
 #include "desktop/described_grid.h"
+#include "desktop/grid_zoom.h"
 #include "desktop/tile_pictures.h"
+#include "platform/twips.h"
 #include "view/frmDiagram.h"
 
 namespace dorvan {
 
 namespace {
 
-void LayOut(ChildFace& face, frmDiagram& window, const ChildContext&) {
+void BindZoom(GridWidget& grid, frmDiagram& window, EventDispatch& dispatch) {
+    grid.zoom = [&window] { return window.Zoom.Percent(); };
+    new GridZoom(grid, dispatch,
+                 {.in = [&window] { window.ZoomIn(); },
+                  .out = [&window] { window.ZoomOut(); },
+                  .room =
+                      [&window](QSize room, double ratio) {
+                          const double pixel = TwipsPerPixel / ratio;
+                          window.TakeRoom({room.width() * pixel, room.height() * pixel, pixel});
+                      }});
+}
+
+void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
     auto& grid =
         LayOutDescribedGrid(face, window, "Diagram",
                             {.change = [&window] { window.BottomText_Change(); },
@@ -14,6 +28,11 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext&) {
                              .keyDown = {},
                              .lostFocus = {}});
     grid.SetPictures(TilePictures());
+    grid.followsRulesSideways = false; // the names stay in sight while rows are moved
+    BindZoom(grid, window, context.dispatch);
+    grid.events.rightButton = [popUp = context.popUp](QPoint global) {
+        popUp(std::string(DocumentKind::Diagram), global);
+    };
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
 

@@ -1,21 +1,25 @@
 #pragma once
 
 #include "desktop/event_dispatch.h"
+#include "desktop/grid_text.h"
 #include "platform/grid.h"
 
 #include <QAbstractScrollArea>
 #include <QHash>
 #include <QImage>
 
+class QPainter;
+
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace dorvan {
 
 // What the pictures of a grid look like, and how they read.
 struct GridPictures {
-    std::function<QImage(std::uint8_t picture)> image; // at one image pixel per 15 twips
+    std::function<QImage(std::uint8_t picture, int side)> image; // in device pixels
     std::function<QString(std::uint8_t picture)> description;
 };
 
@@ -37,10 +41,29 @@ public:
 
     GridEvents events;
 
+    // What is told of a cell beside its reading; empty: nothing.
+    std::function<QString(int row, int column)> words;
+
     // Whether a new current cell is scrolled into view. Always, if not set.
     std::function<bool()> follows;
 
+    // Whether it is scrolled sideways too where a rule, and not the user's key or click, made it current.
+    bool followsRulesSideways = true;
+
+    // How large the cells behind the labels are shown, in percent. 100, if not set. Of a grid with pictures.
+    std::function<double()> zoom;
+
     void SetPictures(GridPictures pictures);
+
+    // The first columns, which tell what a row is, stay in sight as long as they leave half of the room.
+    void SetLabelColumns(int columns);
+
+    // What a change of the zoom leaves in its place, as a place of the viewport; the current cell or else the
+    // middle, if not set.
+    std::optional<QPoint> zoomAnchor;
+
+    // What the cells behind the labels have, in device pixels, were there no scroll bars.
+    QSize RoomBehindLabels() const;
 
     // The grid's owner is about to go.
     void Detach() { grid_ = nullptr; }
@@ -60,6 +83,12 @@ public:
     // What a screen reader says of the cell.
     QString CellReading(int row, int column) const;
 
+    // Scrolls no further than it takes to show the cell.
+    void ScrollTo(int row, int column);
+
+    // How far a page key moves.
+    int PageRows() const;
+
     // A screen reader moves the current cell, as a click would.
     void MakeCurrent(int row, int column);
 
@@ -74,6 +103,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     // Sizes and places along one axis, in device pixels.
@@ -91,32 +121,64 @@ private:
         int LastFirst(int room) const;                // the highest `first` that fills the room
         int CellsIn(int room) const;                  // whole cells from `first` on, at least 1
         int FirstThatShows(int cell, int room) const; // the nearest `first` that shows the cell whole
+        int FirstThatPuts(int cell,
+                          int place) const; // the `first` that brings the cell's middle nearest to it
     };
 
     struct CellPaint;
+    struct Anchor;
 
     double Ratio() const { return devicePixelRatioF(); }
+    double Zoom() const { return zoom ? zoom() / 100 : 1; }
+    bool ShowsPictures() const { return bool(pictures_.image); }
+    double TextScale() const;
+    QFont TextFont() const;
+    double WidthScale(int column) const;
+    double HeightScale(int row) const;
     Axis RowAxis() const;
     Axis ColumnAxis() const;
     void Measure();
     void UpdateScrollBars();
-    void ShowCurrent();
+    void FollowCurrent();
+    void StartInSight();
+    void TakeZoom();
+    Anchor AnchorOfZoom() const;
+
     void PaintCell(CellPaint& paint, int row, int column) const;
-    const QImage& ScaledTile(std::uint8_t picture) const;
+    void PaintText(CellPaint& paint, int row, int column) const;
+    FittedText FittedIn(const QRect& cell, const QFont& font, int row, int column) const;
+    bool IsCut(int row, int column) const;
+    void PaintPictures(QPainter& painter, const QRect& exposed) const;
+    void PaintLabels(CellPaint& paint) const;
+    void PaintEdge(CellPaint& paint) const;
+    bool IsLabel(int row, int column) const { return row < rows_.fixed || column < labelColumns_; }
+    bool IsMarked(int row, int column) const;
+    QRect CellPlace(int row, int column) const; // in device pixels, also of one that is scrolled out
+    QRect Body() const;                         // what scrolls, in device pixels
+    const QImage& SidedPicture(std::uint8_t picture) const;
     void Forward(const std::function<void()>& handler);
     void ForwardLater(std::function<void()> handler);
-    int PageRows() const;
     void TellCurrent();
+    void PaintMarked(QPainter& painter) const;
 
     Grid* grid_;
     EventDispatch& dispatch_;
     GridPictures pictures_;
     Axis rows_;
     Axis columns_;
+    int labelColumns_ = 0;
     double measuredRatio_ = 0;
+    double measuredZoom_ = 1;
+    int pictureSide_ = 0; // in device pixels
+    // Labels stand closer than their texts need where the cells are small: every k-th has one.
+    int rowLabelStep_ = 1;
+    int columnLabelStep_ = 1;
     std::uint64_t revision_ = ~std::uint64_t(0);
     QPoint shownCurrent_{-1, -1};
-    mutable QHash<int, QImage> scaledTiles_; // for measuredRatio_
+    bool movedByHand_ = false; // since the last mirroring, by the user's key or click
+    bool leftBehind_ = false;  // a rule moved the current cell, and the grid was not scrolled there
+    mutable QHash<int, QImage> scaledTiles_;   // for measuredRatio_
+    mutable QHash<int, QImage> sidedPictures_; // of pictureSide_
 };
 
 } // namespace dorvan

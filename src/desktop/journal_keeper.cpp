@@ -1,6 +1,8 @@
 #include "desktop/journal_keeper.h"
 
 #include "desktop/event_dispatch.h"
+#include "session/registry.h"
+#include "session/status_bar.h"
 
 #include <QTimer>
 
@@ -34,10 +36,15 @@ JournalKeeper::JournalKeeper(Session& session, EventDispatch& dispatch, const st
     : session_(session), dispatch_(dispatch), folder_(stateFolder),
       journal_(folder_, [this](std::function<void()> piece) { Add(std::move(piece)); }),
       thread_([this] { Work(); }) {
-    session_.onClosing = [this](const ChildWindow& window) { journal_.DocumentCloses(session_, window); };
+    session_.onClosing = [this](const ChildWindow& window) {
+        Try([&] { journal_.DocumentCloses(session_, window); });
+    };
     session_.commands.Set("ReopenClosedDocument", [this](const CommandCall&) { Reopen(); });
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this] { journal_.Look(session_, SteadySeconds()); });
+    connect(timer, &QTimer::timeout, this, [this] {
+        Try([this] { journal_.Look(session_, SteadySeconds()); });
+        TellUnsaved();
+    });
     timer->start(MillisecondsBetweenTicks);
 }
 
@@ -49,6 +56,18 @@ JournalKeeper::~JournalKeeper() {
     }
     changed_.notify_all();
     thread_.join();
+}
+
+// Of the active document, in the status bar.
+void JournalKeeper::TellUnsaved() {
+    const ChildWindow* window = session_.ActiveWindow;
+    const bool unsaved = window && journal_.IsUnsaved(*window);
+    std::string words;
+    if (unsaved) words = IsUntitled(window->Caption) ? "Not saved in a file" : "Not held by its file";
+    std::string& shown = session_.forms.Load<StatusBar>(session_).Unsaved.Caption;
+    if (shown == words) return;
+    shown = words;
+    dispatch_.Mirror();
 }
 
 void JournalKeeper::Add(std::function<void()> piece) {
@@ -82,16 +101,12 @@ void JournalKeeper::WaitForAll() {
 
 void JournalKeeper::OfferLeftDocuments() {
     WaitForAll();
-    dispatch_.Run([this] {
-        Try([this] {
-            if (dorvan::OfferLeftDocuments(session_, folder_)) journal_.TakeOver(session_);
-        });
-    });
+    dispatch_.Run([this] { Try([this] { dorvan::OfferLeftDocuments(session_, folder_, journal_); }); });
 }
 
 void JournalKeeper::Reopen() {
     WaitForAll();
-    Try([this] { ReopenClosedDocument(session_, folder_); });
+    Try([this] { ReopenClosedDocument(session_, folder_, journal_); });
 }
 
 void JournalKeeper::EndCleanly() {

@@ -7,10 +7,16 @@ frmExportOptions::frmExportOptions(Session& session)
 
 // The tick does not follow `DataTextNames`.
 void frmExportOptions::Form_Load() {
-    Option1.Value = session_.DataTextSeparator == 1;
-    Option2.Value = session_.DataTextSeparator == 2;
-    Option3.Value = session_.DataTextSeparator == 3;
-    Check1.Value = true;
+    Enter({.Separator = session_.DataTextSeparator, .VariableNames = true});
+}
+
+void frmExportOptions::Enter(const TextChoices& choices) {
+    if (choices.Separator) {
+        Option1.Value = *choices.Separator == 1;
+        Option2.Value = *choices.Separator == 2;
+        Option3.Value = *choices.Separator == 3;
+    }
+    Check1.Value = choices.VariableNames.value_or(Check1.Value);
 }
 
 void frmExportOptions::Command1_Click() {

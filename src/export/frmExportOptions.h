@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/text_choices.h"
 #include "platform/form.h"
 #include "session/session.h"
 
@@ -18,6 +19,8 @@ public:
     CheckBox Check1{"Check1", "&Insert variable names"};
     CommandButton Command1{"Command1", "Cancel"};
     CommandButton Command2{"Command2", "O&K"};
+
+    void Enter(const TextChoices& choices);
 
     void Form_Load() override;
     void Command1_Click();

@@ -9,6 +9,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -27,7 +28,27 @@ template <class Moves> void MoveItems(MultiListBox& from, MultiListBox& to, cons
     to.SetList(std::move(to.List));
 }
 
+int PlaceOf(const ListBox& list, const std::string& name, const char* kind) {
+    const auto found = std::find(list.List.begin(), list.List.end(), name);
+    if (found == list.List.end())
+        throw UnknownField(fmt::format("the table has no {} field \"{}\"", kind, name));
+    return static_cast<int>(found - list.List.begin());
+}
+
 } // namespace
+
+void frmImpDBF::Enter(const DBaseImportChoices& choices) {
+    for (const std::string& name : choices.Fields) {
+        AList.Selected.at(std::size_t(PlaceOf(AList, name, "numeric"))) = true;
+        cmdCopyToRight_Click();
+    }
+    if (choices.Fields.empty()) {
+        AList.SelectAll();
+        if (AList.AnySelected()) cmdCopyToRight_Click();
+    }
+    if (!choices.RecordNames.empty())
+        cmbString.ListIndex = PlaceOf(cmbString, choices.RecordNames, "character");
+}
 
 void frmImpDBF::cmdBrowse_Click() {
     Table.DBPath.clear();

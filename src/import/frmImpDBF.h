@@ -1,13 +1,21 @@
 #pragma once
 
+#include "import/import_choices.h"
 #include "import/import_dialog.h"
 #include "import/modDBF.h"
 #include "import/reading_dbase.h"
 #include "platform/multi_list_box.h"
 
 #include <cstdint>
+#include <stdexcept>
 
 namespace dorvan {
+
+// The table has no field of that name, or not of the kind that is asked for.
+class UnknownField : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 // The dialog of the import of a dBase III table: opens the table, lets its numeric fields be moved between
 // two lists, and reads the selected ones into the working arrays.
@@ -35,6 +43,9 @@ public:
     CommandButton cmdCancel{"cmdCancel", "Cancel"};
 
     modDBF Table;
+
+    // Of the table that is open: moves the fields to the selected ones. Fails with UnknownField.
+    void Enter(const DBaseImportChoices& choices);
 
     void cmdBrowse_Click();
     void cmdCopyToRight_Click() { MoveSelected(AList, SList); }

@@ -4,6 +4,8 @@
 #include "numbers/number_text.h"
 #include "numbers/runtime_failure.h"
 
+#include <fmt/format.h>
+
 namespace dorvan {
 
 void frmImpMatrix::Form_Load() {
@@ -14,6 +16,15 @@ void frmImpMatrix::Form_Load() {
 void frmImpMatrix::Form_Show() {
     optSep1.Value = ImpMatrixSeparator == SemicolonSeparator;
     optSep2.Value = ImpMatrixSeparator == TabSeparator;
+}
+
+void frmImpMatrix::Enter(const MatrixImportChoices& choices) {
+    if (choices.Separator) {
+        optSep1.Value = *choices.Separator == SemicolonSeparator;
+        optSep2.Value = *choices.Separator == TabSeparator;
+    }
+    chkFirstCol.Value = choices.RecordNames.value_or(chkFirstCol.Value);
+    if (choices.Precision) txtPrecision.Text = fmt::format("{}", *choices.Precision);
 }
 
 void frmImpMatrix::Command3_Click() {

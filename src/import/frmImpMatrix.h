@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/import_choices.h"
 #include "import/import_dialog.h"
 #include "platform/number_field.h"
 
@@ -35,6 +36,8 @@ public:
     bool ImpMatrixFirstColumn = true;
     std::string ImpMatrixPath;
     std::int16_t ImpMatrixPrecision = 0;
+
+    void Enter(const MatrixImportChoices& choices);
 
     void Form_Load() override;
     void Form_Show() override;

@@ -10,6 +10,15 @@ void frmImportText::Form_Load() {
     Check2.Value = true;
 }
 
+void frmImportText::Enter(const TextImportChoices& choices) {
+    if (choices.Separator) {
+        Option1.Value = *choices.Separator == SemicolonSeparator;
+        Option3.Value = *choices.Separator == TabSeparator;
+    }
+    Check1.Value = choices.VariableNames.value_or(Check1.Value);
+    Check2.Value = choices.RecordNames.value_or(Check2.Value);
+}
+
 void frmImportText::Command3_Click() {
     ChooseFile(Label1, FileFiltersOf("text csv", "csv"), " - Select csv/txt file");
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/import_choices.h"
 #include "import/import_dialog.h"
 #include "import/text_table.h"
 
@@ -29,6 +30,8 @@ public:
     std::string ImportPath;
     bool ImportFirstRowNames = false;
     bool ImportFirstColumnNames = false;
+
+    void Enter(const TextImportChoices& choices);
 
     void Form_Load() override;
     void Command3_Click();

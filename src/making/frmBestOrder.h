@@ -1,13 +1,13 @@
 #pragma once
 
 #include "making/best_order.h"
-#include "platform/form.h"
+#include "making/progress_window.h"
 #include "session/session.h"
 
 namespace dorvan {
 
 // The progress of the search for the best order.
-class frmBestOrder : public Form {
+class frmBestOrder : public ProgressWindow {
 public:
     explicit frmBestOrder(Session& session);
 
@@ -20,6 +20,9 @@ public:
     bool Cancelled = false;
 
     void ShowProgress(const BestOrderProgress& progress);
+
+    std::string onOneLine() const override;
+    std::optional<double> shareDone() const override { return Procent1.Width / Procent.Width; }
 
     // Asks the search to end with the best order so far, and closes the window.
     void Command1_Click();

@@ -4,9 +4,11 @@
 #include "making/ordering_options.h"
 #include "numbers/number_text.h"
 
+#include <fmt/format.h>
+
 namespace dorvan {
 
-frmWork::frmWork(Session& session) : Form("frmWork", "At work..."), session_(session) {}
+frmWork::frmWork(Session& session) : ProgressWindow("frmWork", "At work..."), session_(session) {}
 
 void frmWork::ShowProgress(const GeneticProgress& progress, float seconds) {
     const char separator = session_.DecimalSeparator;
@@ -14,6 +16,10 @@ void frmWork::ShowProgress(const GeneticProgress& progress, float seconds) {
     InfoString.Caption = FormatPattern(progress.Percent, "#0.0", separator) + " %";
     lblFunkcja.Caption = FormatPattern(progress.Fitness, "###0.000", separator);
     Procent1.Width = progress.Percent / 100.0 * Procent.Width;
+}
+
+std::string frmWork::onOneLine() const {
+    return fmt::format("{}  {}  F = {}", InfoString.Caption, InfoTime.Caption, lblFunkcja.Caption);
 }
 
 void frmWork::ShowEnd() { InfoString.Caption = "100 %"; }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "making/genetic_ordering.h"
-#include "platform/form.h"
+#include "making/progress_window.h"
 #include "session/session.h"
 
 namespace dorvan {
 
 // The progress of the simple genetic ordering.
-class frmWork : public Form {
+class frmWork : public ProgressWindow {
 public:
     explicit frmWork(Session& session);
 
@@ -23,6 +23,9 @@ public:
     // The figures of a generation that has begun; `seconds` since the start of the run.
     void ShowProgress(const GeneticProgress& progress, float seconds);
     void ShowEnd();
+
+    std::string onOneLine() const override;
+    std::optional<double> shareDone() const override { return Procent1.Width / Procent.Width; }
 
     // Asks the run to end with the best order so far, and closes the window.
     void Command1_Click();

@@ -23,7 +23,7 @@ template <class Float> std::string Figure(const std::optional<Float>& value, cha
 
 } // namespace
 
-frmWorkUM::frmWorkUM(Session& session) : Form("frmWorkUM", "At work..."), session_(session) {}
+frmWorkUM::frmWorkUM(Session& session) : ProgressWindow("frmWorkUM", "At work..."), session_(session) {}
 
 void frmWorkUM::ShowProgress(const RavelinProgress& progress, float seconds) {
     const char separator = session_.DecimalSeparator;
@@ -35,6 +35,11 @@ void frmWorkUM::ShowProgress(const RavelinProgress& progress, float seconds) {
     lblActualUM.Caption = Figure(progress.Trial, separator);
     BestUm.Caption = Figure(progress.BestUm, separator);
     if (progress.TimeDue) InfoTime.Caption = ElapsedText(seconds, separator);
+}
+
+std::string frmWorkUM::onOneLine() const {
+    return fmt::format("generation {}  mutation {}  UM {}  best {}  {}", Generacje.Caption, Mutacje.Caption,
+                       lblFunkcja.Caption, BestUm.Caption, InfoTime.Caption);
 }
 
 void frmWorkUM::Command1_Click() {

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "making/progress_window.h"
 #include "making/ravelin_ordering.h"
-#include "platform/form.h"
 #include "session/session.h"
 
 namespace dorvan {
 
 // The progress of the Ravelin ordering. Counters are decimal text, figures have five decimals.
-class frmWorkUM : public Form {
+class frmWorkUM : public ProgressWindow {
 public:
     explicit frmWorkUM(Session& session);
 
@@ -29,6 +29,8 @@ public:
 
     // What the run shows at the moment. The time is shown anew where it is due; `seconds` since the start.
     void ShowProgress(const RavelinProgress& progress, float seconds);
+
+    std::string onOneLine() const override;
 
     // Asks the run to end with the best order so far, and closes the window.
     void Command1_Click();

@@ -9,6 +9,7 @@
 #include "making/ordering_options.h"
 #include "making/paint_pace.h"
 #include "making/ravelin_ordering.h"
+#include "session/dialog.h"
 #include "session/status_bar.h"
 
 #include <utility>
@@ -16,10 +17,6 @@
 namespace dorvan {
 
 namespace {
-
-template <class Dialog> void AskOptions(Session& session) {
-    session.platform.forms.showModal(session.forms.Load<Dialog>(session));
-}
 
 // The progress window of one run, on the screen for as long as it lives.
 template <class Window> class Watch {
@@ -92,8 +89,8 @@ Order RunRavelin(Session& session, const FloatTable& distances) {
 
 void AddGeneticOrderings(Session& session) {
     auto& methods = session.Of<OrderingMethods>();
-    methods[3] = {.askOptions = AskOptions<frmGenetic>, .run = RunSimpleGenetic};
-    methods[4] = {.askOptions = AskOptions<frmGeneticUM>, .run = RunRavelin};
+    methods[3] = {.askOptions = ShowModally<frmGenetic>, .run = RunSimpleGenetic};
+    methods[4] = {.askOptions = ShowModally<frmGeneticUM>, .run = RunRavelin};
 }
 
 } // namespace dorvan

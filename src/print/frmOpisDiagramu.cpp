@@ -23,6 +23,14 @@ void frmOpisDiagramu::Form_Load() {
     if (!Combo1.List.empty()) Combo1.ListIndex = 0;
 }
 
+void frmOpisDiagramu::Enter(std::int16_t size, const std::string& font) {
+    Option1.Value = size == 1;
+    Option2.Value = size == 2;
+    Option3.Value = size == 3;
+    Combo1.List = {font};
+    Combo1.ListIndex = 0;
+}
+
 void frmOpisDiagramu::Command1_Click() {
     session_.OutputDialogOutcome = 1;
     std::int16_t& size = session_.Of<PrintValues>().DiagramPrintSize;

@@ -20,6 +20,9 @@ public:
     CommandButton Command2{"Command2", "Cancel"};
     CommandButton Command3{"Command3", "&Printer options"};
 
+    // A size, 1 to 3, and a font, which need not be one of the list.
+    void Enter(std::int16_t size, const std::string& font);
+
     void Form_Load() override;
     void Command1_Click();
     void Command2_Click();

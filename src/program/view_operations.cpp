@@ -17,6 +17,10 @@ void RegisterViewOperations(Session& session) {
     Register(session, "frmDiagram.DataOrder", DiagramWindow, &frmDiagram::DataOrder);
     Register(session, "frmDiagram.Matrix", DiagramWindow, &frmDiagram::Matrix);
     Register(session, "frmDiagram.BITMAP", DiagramWindow, &frmDiagram::BITMAP);
+    Register(session, "frmDiagram.ZoomIn", DiagramWindow, &frmDiagram::ZoomIn);
+    Register(session, "frmDiagram.ZoomOut", DiagramWindow, &frmDiagram::ZoomOut);
+    Register(session, "frmDiagram.ZoomActual", DiagramWindow, &frmDiagram::ZoomActual);
+    Register(session, "frmDiagram.ZoomFit", DiagramWindow, &frmDiagram::ZoomFit);
     Register(session, "frmBMP.BitmapClip", BitmapWindow, &frmBMP::BitmapClip);
 }
 

@@ -41,15 +41,22 @@ protected:
     Session& session_;
 };
 
+// Shows the window of that class modally, loaded when it is not yet.
+template <class Window> Window& ShowModally(Session& session) {
+    Window& window = session.forms.Load<Window>(session);
+    session.platform.forms.showModal(window);
+    return window;
+}
+
 // Shows the dialog of that class modally; false when it was cancelled.
 template <class Window> bool Accepted(Session& session) {
-    session.platform.forms.showModal(session.forms.Load<Window>(session));
+    ShowModally<Window>(session);
     return session.DialogOutcome != DialogResult::Cancelled;
 }
 
 // The same for the dialogs of export and print, which report through `OutputDialogOutcome`.
 template <class Window> bool AcceptedForOutput(Session& session) {
-    session.platform.forms.showModal(session.forms.Load<Window>(session));
+    ShowModally<Window>(session);
     return session.OutputDialogOutcome == DialogResult::Accepted;
 }
 

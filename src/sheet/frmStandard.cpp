@@ -2,9 +2,11 @@
 
 namespace dorvan {
 
-void frmStandard::Form_Show() {
-    Option1.Value = false;
-    Option2.Value = true;
+void frmStandard::Form_Show() { Enter(ToRange); }
+
+void frmStandard::Enter(std::int16_t method) {
+    Option1.Value = method == ByDeviation;
+    Option2.Value = method == ToRange;
 }
 
 void frmStandard::Command2_Click() {

@@ -21,6 +21,9 @@ public:
 
     std::int16_t StandardMethod = ToRange; // as accepted
 
+    // Chooses a method, as a user does before OK.
+    void Enter(std::int16_t method);
+
     void Form_Show() override;
     void Command2_Click();
     void Command1_Click() { Close(DialogResult::Cancelled); }

@@ -30,9 +30,7 @@ void FillWithDefaults(frmNotePad& window, int recordCount, int variableCount) {
 
 void NewDataSheet(Session& session) {
     if (RefusedWhileBusy(session)) return;
-    auto& dialog = session.forms.Load<frmNowy>(session);
-    session.platform.forms.showModal(dialog);
-    if (dialog.Result == DialogResult::Cancelled) return;
+    if (ShowModally<frmNowy>(session).Result == DialogResult::Cancelled) return;
     OpenDocumentWindow<frmNotePad>(session, {.Dirty = false}, [&](frmNotePad& window) {
         FillWithDefaults(window, session.PendingRecCount, session.PendingVarCount);
     });

@@ -3,6 +3,7 @@
 
 #include "numbers/text.h"
 #include "session/busy.h"
+#include "session/dialog.h"
 #include "sheet/add_dialogs.h"
 #include "sheet/frmDeleteVar.h"
 #include "sheet/frmNotePad.h"
@@ -126,13 +127,13 @@ void DeleteRecord(Session& session) {
 void EditVariables(Session& session) {
     if (RefusedWhileBusy(session)) return;
     const SheetStep step(session, ActiveDataWindow(session), "Rename Variables");
-    session.platform.forms.showModal(session.forms.Load<frmVar>(session));
+    ShowModally<frmVar>(session);
     session.forms.Unload<frmVar>();
 }
 
 void DeleteVariable(Session& session) {
     if (RefusedWhileBusy(session)) return;
-    session.platform.forms.showModal(session.forms.Load<frmDeleteVar>(session));
+    ShowModally<frmDeleteVar>(session);
     session.forms.Unload<frmDeleteVar>();
 }
 

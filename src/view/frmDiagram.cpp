@@ -6,6 +6,7 @@
 #include "session/children.h"
 #include "session/document_grid.h"
 #include "session/registry.h"
+#include "session/status_bar.h"
 #include "session/window_switches.h"
 #include "view/tiles.h"
 
@@ -75,14 +76,14 @@ void frmDiagram::PaintNames() {
     Siatka.SetText(HeaderRow, NameColumn, "Name");
     for (int row = 1; row <= document.RecCount; ++row)
         Siatka.SetText(row, NameColumn, document.RecordNames(row));
-    Siatka.SetCurrent(document.RecCount, NameColumn);
+    Siatka.PassTo(document.RecCount, NameColumn);
 }
 
 void frmDiagram::PaintCells() {
     const int count = Document().RecCount;
     for (int row = 1; row <= count; ++row)
         for (int record = 1; record <= count; ++record) PaintCell(row, record, false);
-    if (count > 0) Siatka.SetCurrent(count, ValueColumn(count));
+    if (count > 0) Siatka.PassTo(count, ValueColumn(count));
 }
 
 // A cell without a tile keeps the picture that it shows.
@@ -143,7 +144,7 @@ void frmDiagram::Form_Unload() {
 
 void frmDiagram::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
-void frmDiagram::Beep() { session_.platform.signals.beep(); }
+void frmDiagram::Beep(const char* reason) { BeepBecause(session_, reason); }
 
 frmDiagram& DiagramWindow(Session& session, std::int16_t slot) {
     return WindowInSlot<frmDiagram>(session.DiagramWindows, slot);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/grid_window.h"
+#include "view/diagram_zoom.h"
 
 #include <cstdint>
 #include <string>
@@ -75,6 +76,14 @@ public:
     void Matrix();
     void BITMAP();
 
+    // How large the diagram is shown. A step tells itself in the status line.
+    DiagramZoom Zoom;
+    void ZoomIn();
+    void ZoomOut();
+    void ZoomActual();
+    void ZoomFit();
+    void TakeRoom(const DiagramRoom& room); // what the screen has for its boxes
+
     // Asks for a path and writes the dots form of the diagram as a placeable metafile over the start of that
     // file, of which a longer one keeps its tail.
     void Metafile();
@@ -103,13 +112,15 @@ public:
     void Form_Resize() override;
 
 private:
+    DiagramBoxes Boxes() const;
+    void TellZoom();
     void LayOut();
     void PaintNames();
     void PaintCells();
     void PaintCell(int row, int record, bool selected);
     void PaintCross(std::int16_t row, bool selected);
 
-    void Beep();
+    void Beep(const char* reason);
     void RepaintInPlace();
     void RefreshActiveWindow();
     void SelectCurrentRow();

@@ -22,6 +22,8 @@ public:
 
     std::int16_t Index = 0; // the diagram's slot
 
+    void Enter(std::int16_t type);
+
     void OKButton_Click();
     void CancelButton_Click() { Hide(); }
 

@@ -1,4 +1,5 @@
 #include "session/busy.h"
+#include "session/dialog.h"
 #include "view/diagram_history.h"
 #include "view/frmDiagram.h"
 #include "view/frmDiagramType.h"
@@ -44,7 +45,7 @@ void frmDiagram::Linear() {
 void frmDiagram::DiagramType() {
     session_.NewWindowIndex = Index;
     const DiagramLook before = LookOf(Document());
-    session_.platform.forms.showModal(session_.forms.Load<frmDiagramType>(session_));
+    ShowModally<frmDiagramType>(session_);
     session_.forms.Unload<frmDiagramType>();
     if (Document().DiagType == before.Type) return;
     const WaitCursor waiting(session_.platform);

@@ -37,6 +37,11 @@ void frmHistogram::Form_Load() {
     Draw(limits);
 }
 
+void frmHistogram::Enter(const std::array<std::string, 4>& limits) {
+    const auto boxes = Boxes();
+    for (std::size_t place = 0; place < boxes.size(); ++place) boxes[place]->Text = limits[place];
+}
+
 void frmHistogram::Draw(const Array1<float>& limits) {
     Counts = CountSections(Document(), limits);
     if (Option2.Value) Counts.Accumulate();

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 namespace dorvan {
 
@@ -39,6 +40,9 @@ public:
 
     std::int16_t Index = 0; // the diagram's slot
     SectionCounts Counts;   // running sums in a cumulative chart
+
+    // The limits as a user types them.
+    void Enter(const std::array<std::string, 4>& limits);
 
     void Command1_Click();
     void Command2_Click();
