@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -358,6 +360,8 @@ void Bindings::FocusOut(QWidget* widget, Qt::FocusReason reason) {
 }
 
 bool Bindings::KeyToField(Field_& field, QObject* watched, QKeyEvent& event) {
+    // A dialog takes its Esc before any of its fields.
+    if (event.key() == Qt::Key_Escape && qobject_cast<QDialog*>(root_)) return false;
     field.read();
     if (int keyCode = KeyCodeOf(event); keyCode != key::None && field.events.keyDown) {
         Forward([&] { field.events.keyDown(keyCode); });
@@ -373,6 +377,27 @@ bool Bindings::KeyToField(Field_& field, QObject* watched, QKeyEvent& event) {
                     QString::fromUcs4(reinterpret_cast<const char32_t*>(&keyAscii), 1));
     passing_ = true;
     QCoreApplication::sendEvent(watched, &other);
+    passing_ = false;
+    return true;
+}
+
+// Characters that dead keys or an input method have composed pass the field's handler one by one, as typed
+// ones do. What is still being composed is the field's own.
+bool Bindings::ComposedToField(Field_& field, QObject* watched, const QInputMethodEvent& event) {
+    if (!field.events.keyPress || event.commitString().isEmpty()) return false;
+    passing_ = true;
+    QInputMethodEvent composed; // ends the composing
+    QCoreApplication::sendEvent(watched, &composed);
+    for (const char32_t character : event.commitString().toUcs4()) {
+        if (!form_) break;
+        field.read();
+        int keyAscii = static_cast<int>(character);
+        Forward([&] { field.events.keyPress(keyAscii); });
+        if (keyAscii == key::None || !form_) continue;
+        QInputMethodEvent taken;
+        taken.setCommitString(QString::fromUcs4(reinterpret_cast<const char32_t*>(&keyAscii), 1));
+        QCoreApplication::sendEvent(watched, &taken);
+    }
     passing_ = false;
     return true;
 }
@@ -396,6 +421,11 @@ bool Bindings::eventFilter(QObject* watched, QEvent* event) {
             return KeyToList(list->second, key);
         const auto field = fields_.find(watched);
         return field != fields_.end() && KeyToField(field->second, watched, key);
+    }
+    case QEvent::InputMethod: {
+        const auto field = fields_.find(watched);
+        return field != fields_.end() &&
+               ComposedToField(field->second, watched, static_cast<QInputMethodEvent&>(*event));
     }
     default: return false;
     }

@@ -13,6 +13,7 @@
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
+class QInputMethodEvent;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -98,6 +99,7 @@ private:
     void Name(QWidget* widget, const Control& control, const QString& accessibleName);
     void Forward(const Handler& handler);
     bool KeyToField(Field_& field, QObject* watched, QKeyEvent& event);
+    bool ComposedToField(Field_& field, QObject* watched, const QInputMethodEvent& event);
     bool KeyToList(const std::function<void(int& keyCode)>& keyDown, const QKeyEvent& event);
     void FocusIn(QWidget* widget, Qt::FocusReason reason);
     void FocusOut(QWidget* widget, Qt::FocusReason reason);

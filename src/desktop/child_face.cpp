@@ -1,5 +1,7 @@
 #include "desktop/child_face.h"
 
+#include "desktop/grid_marking.h"
+#include "desktop/grid_typing.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 #include "platform/twips.h"
@@ -31,6 +33,8 @@ ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispa
 
 GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
     grid_ = new GridWidget(grid, dispatch_, widget());
+    new GridTyping(*grid_, dispatch_);
+    new GridMarking(*grid_, grid, dispatch_);
     bindings_->Plain(grid_, grid, accessibleName);
     bindings_->Also([shown = grid_] { shown->Mirror(); });
     // A computation reads the sheet by way of its current cell; what the user looks at stays in view then.

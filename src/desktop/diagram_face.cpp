@@ -28,6 +28,7 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
                              .keyDown = {},
                              .lostFocus = {}});
     grid.SetPictures(TilePictures());
+    grid.followsRulesSideways = false; // the names stay in sight while rows are moved
     BindZoom(grid, window, context.dispatch);
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }

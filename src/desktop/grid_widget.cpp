@@ -29,9 +29,10 @@ constexpr double StandardFont = 9;   // points of the application's font that le
 constexpr double SmallestFont = 0.7; // of the grid's own; no smaller where the rows are low
 constexpr double LineOfFont = 1.25;  // a line's height of the font's size
 constexpr int DigitsOfColumn = 3;
-constexpr int NumberGap = 4;      // pixels at a ratio of 1, between the numbers of narrow columns
-constexpr double EdgeShare = 0.5; // of the text's colour in that of a diagram's edge
-constexpr int ScrollStep = 17;    // pixels at a ratio of 1
+constexpr int NumberGap = 4;        // pixels at a ratio of 1, between the numbers of narrow columns
+constexpr double EdgeShare = 0.5;   // of the text's colour in that of a diagram's edge
+constexpr int ScrollStep = 17;      // pixels at a ratio of 1
+constexpr float MarkedShare = 0.3F; // of the highlight over what is marked
 
 int DevicePixels(double twips, double ratio) { return int(std::lround(twips * ratio / TwipsPerPixel)); }
 
@@ -127,6 +128,7 @@ GridWidget::GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_InputMethodEnabled); // see GridTyping
 }
 
 void GridWidget::SetPictures(GridPictures pictures) {
@@ -242,18 +244,38 @@ void GridWidget::Mirror() {
         // A document opens at its upper left corner, wherever its filling left the current cell.
         const bool opening = shownCurrent_.x() < 0;
         shownCurrent_ = current;
-        if (!opening && (!follows || follows())) ShowCurrent();
+        leftBehind_ = opening || grid_->Passed() || (follows && !follows());
+        if (!leftBehind_) FollowCurrent();
         TellCurrent();
     }
+    movedByHand_ = false;
     viewport()->update();
 }
 
-void GridWidget::ShowCurrent() {
-    if (grid_->Rows() == 0 || grid_->Columns() == 0) return;
-    verticalScrollBar()->setValue(rows_.FirstThatShows(grid_->Row(), int(viewport()->height() * Ratio())) -
+void GridWidget::FollowCurrent() {
+    const bool sideways = followsRulesSideways || movedByHand_;
+    leftBehind_ = !sideways;
+    if (grid_->Rows() > 0 && grid_->Columns() > 0)
+        ScrollTo(grid_->Row(), sideways ? grid_->Column() : columns_.first);
+}
+
+void GridWidget::ScrollTo(int row, int column) {
+    verticalScrollBar()->setValue(rows_.FirstThatShows(row, int(viewport()->height() * Ratio())) -
                                   rows_.fixed);
-    horizontalScrollBar()->setValue(
-        columns_.FirstThatShows(grid_->Column(), int(viewport()->width() * Ratio())) - columns_.fixed);
+    horizontalScrollBar()->setValue(columns_.FirstThatShows(column, int(viewport()->width() * Ratio())) -
+                                    columns_.fixed);
+}
+
+// The user's keys go on from what is seen, where a rule has left the current cell out of sight.
+void GridWidget::StartInSight() {
+    if (!std::exchange(leftBehind_, false) || grid_->Rows() == 0 || grid_->Columns() == 0) return;
+    const bool rowHidden =
+        rows_.Scrolled(grid_->Row()) || rows_.Start(grid_->Row()) >= int(viewport()->height() * Ratio());
+    const bool columnHidden = columns_.Scrolled(grid_->Column()) ||
+                              columns_.Start(grid_->Column()) >= int(viewport()->width() * Ratio());
+    if (rowHidden || columnHidden)
+        grid_->SetCurrent(rowHidden ? rows_.first : grid_->Row(),
+                          columnHidden ? columns_.first : grid_->Column());
 }
 
 GridWidget::Anchor GridWidget::AnchorOfZoom() const {
@@ -488,6 +510,7 @@ void GridWidget::paintEvent(QPaintEvent* event) {
             PaintCell(paint, row, column);
         });
     });
+    PaintMarked(painter);
     if (ShowsPictures()) PaintLabels(paint);
     PaintEdge(paint);
     const int row = grid_->Row();
@@ -495,6 +518,21 @@ void GridWidget::paintEvent(QPaintEvent* event) {
     if (rows_.Scrolled(row) || columns_.Scrolled(column)) return;
     if (row >= rows_.fixed && column >= columns_.fixed) painter.setClipRect(Body());
     PaintCurrentFrame(painter, CellPlace(row, column), ratio, palette(), hasFocus());
+}
+
+// A veil over the marked cells, in device pixels.
+void GridWidget::PaintMarked(QPainter& painter) const {
+    const CellRange marked = grid_->Marked();
+    if (marked.IsOneCell() && marked.Has(grid_->Row(), grid_->Column())) return;
+    QColor veil = palette().color(QPalette::Highlight);
+    veil.setAlphaF(MarkedShare);
+    for (int row = marked.Top; row <= marked.Bottom; ++row) {
+        if (rows_.Scrolled(row)) continue;
+        for (int column = marked.Left; column <= marked.Right; ++column)
+            if (!columns_.Scrolled(column))
+                painter.fillRect(columns_.Start(column), rows_.Start(row), columns_.Size(column),
+                                 rows_.Size(row), veil);
+    }
 }
 
 void GridWidget::resizeEvent(QResizeEvent* event) {
@@ -538,7 +576,10 @@ void GridWidget::ForwardLater(std::function<void()> handler) {
 
 void GridWidget::MakeCurrent(int row, int column) {
     setFocus(Qt::OtherFocusReason);
-    ForwardLater([this, row, column] { grid_->Press(row, column); });
+    ForwardLater([this, row, column] {
+        movedByHand_ = true;
+        grid_->Press(row, column);
+    });
     dispatch_.RunWaiting();
 }
 
@@ -579,7 +620,11 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
     }
     bool moved = false;
     const bool control = event->modifiers() & Qt::ControlModifier;
-    Forward([&] { moved = grid_->MoveByKey(keyCode, control, PageRows()); });
+    Forward([&] {
+        movedByHand_ = true;
+        if (keyCode >= key::PageUp && keyCode <= key::Down) StartInSight();
+        moved = grid_->MoveByKey(keyCode, control, PageRows());
+    });
     if (!moved) event->ignore();
 }
 
@@ -589,6 +634,7 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     ForwardLater([this, place = event->position().toPoint()] {
         const QPoint cell = CellAt(place);
+        movedByHand_ = true;
         grid_->Press(cell.y(), cell.x());
     });
     if (event->button() == Qt::RightButton)

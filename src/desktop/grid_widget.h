@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QImage>
 
+class QPainter;
+
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -42,6 +44,9 @@ public:
     // Whether a new current cell is scrolled into view. Always, if not set.
     std::function<bool()> follows;
 
+    // Whether it is scrolled sideways too where a rule, and not the user's key or click, made it current.
+    bool followsRulesSideways = true;
+
     // How large the cells behind the labels are shown, in percent. 100, if not set. Of a grid with pictures.
     std::function<double()> zoom;
 
@@ -74,6 +79,12 @@ public:
 
     // What a screen reader says of the cell.
     QString CellReading(int row, int column) const;
+
+    // Scrolls no further than it takes to show the cell.
+    void ScrollTo(int row, int column);
+
+    // How far a page key moves.
+    int PageRows() const;
 
     // A screen reader moves the current cell, as a click would.
     void MakeCurrent(int row, int column);
@@ -125,7 +136,8 @@ private:
     Axis ColumnAxis() const;
     void Measure();
     void UpdateScrollBars();
-    void ShowCurrent();
+    void FollowCurrent();
+    void StartInSight();
     void TakeZoom();
     Anchor AnchorOfZoom() const;
 
@@ -143,8 +155,8 @@ private:
     const QImage& SidedPicture(std::uint8_t picture) const;
     void Forward(const std::function<void()>& handler);
     void ForwardLater(std::function<void()> handler);
-    int PageRows() const;
     void TellCurrent();
+    void PaintMarked(QPainter& painter) const;
 
     Grid* grid_;
     EventDispatch& dispatch_;
@@ -160,6 +172,9 @@ private:
     int columnLabelStep_ = 1;
     std::uint64_t revision_ = ~std::uint64_t(0);
     QPoint shownCurrent_{-1, -1};
+    bool movedByHand_ = false; // since the last mirroring, by the user's key or click
+    bool leftBehind_ = false;  // a rule moved the current cell, and the grid was not scrolled there
+    mutable QHash<int, QImage> scaledTiles_;   // for measuredRatio_
     mutable QHash<int, QImage> sidedPictures_; // of pictureSide_
 };
 

@@ -1,4 +1,6 @@
+#include "desktop/cell_tabs.h"
 #include "desktop/child_faces.h"
+#include "desktop/qt_text.h"
 #include "platform/keys.h"
 #include "sheet/frmNotePad.h"
 
@@ -81,6 +83,7 @@ void LayOut(ChildFace& face, frmNotePad& window, const ChildContext& context) {
                            if (window.Grid1_MouseDown(mouse::Right)) popUp("mnuEdit", global);
                        }};
     column->addWidget(&grid, 1);
+    BindTabs(grid, *face.findChild<QLineEdit*>(ToQt(window.EditCell.Name)), window, context.dispatch);
     if (!window.ActiveControl) window.SetFocus(window.Grid1);
 }
 

@@ -43,7 +43,7 @@ bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
     const bool& pendingError = session.Of<SheetValues>().PendingError;
     for (std::int32_t variable = 1; variable <= session.tables.VariableNames.Count(); ++variable) {
         const int column = DocumentGrid::ValueColumn(variable);
-        grid.SetCurrent(record, column);
+        grid.PassTo(record, column);
         LoadCell(session, grid.Text(record, column), record, variable);
         if (pendingError) {
             ShowDataError(session, record, variable);
@@ -68,7 +68,7 @@ bool LoadWorkingData(Session& session) {
     window.LeaveField(); // the grid gets the focus
     const SheetStep step(session, window, "Fill Empty Cells");
     window.SetFocus(grid);
-    if (n >= 1 && m >= 1) grid.SetCurrent(1, DocumentGrid::FirstValueColumn);
+    if (n >= 1 && m >= 1) grid.PassTo(1, DocumentGrid::FirstValueColumn);
     session.tables.RecordNames = Names(n);
     session.tables.DataValues = FloatTable(n, m);
     session.tables.RecordHasNA = Flags(n);

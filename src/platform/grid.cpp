@@ -48,6 +48,7 @@ void Grid::SetSize(int rows, int columns) {
     columns_ = columns;
     row_ = std::clamp(row_, 0, std::max(0, rows - 1));
     column_ = std::clamp(column_, 0, std::max(0, columns - 1));
+    marked_.reset();
     ++revision_;
 }
 
@@ -60,6 +61,21 @@ void Grid::Clear() {
 void Grid::SetCurrent(int row, int column) {
     row_ = static_cast<int>(RowPlace(row));
     column_ = static_cast<int>(ColumnPlace(column));
+    passed_ = false;
+    marked_.reset();
+    ++revision_;
+}
+
+void Grid::PassTo(int row, int column) {
+    SetCurrent(row, column);
+    passed_ = true;
+}
+
+CellRange Grid::Marked() const { return marked_.value_or(CellRange{row_, column_, row_, column_}); }
+
+void Grid::Mark(const CellRange& range) {
+    marked_ = CellRange{static_cast<int>(RowPlace(range.Top)), static_cast<int>(ColumnPlace(range.Left)),
+                        static_cast<int>(RowPlace(range.Bottom)), static_cast<int>(ColumnPlace(range.Right))};
     ++revision_;
 }
 
@@ -114,6 +130,7 @@ void Grid::RemoveRow(int row) {
     heights_.erase(heights_.begin() + place);
     --rows_;
     row_ = std::clamp(row_, 0, std::max(0, rows_ - 1));
+    marked_.reset();
     ++revision_;
 }
 

@@ -3,10 +3,27 @@
 #include "platform/controls.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace dorvan {
+
+// A block of cells, its edges included.
+struct CellRange {
+    int Top = 0;
+    int Left = 0;
+    int Bottom = 0;
+    int Right = 0;
+
+    int Rows() const { return Bottom - Top + 1; }
+    int Columns() const { return Right - Left + 1; }
+    bool IsOneCell() const { return Top == Bottom && Left == Right; }
+    bool Has(int row, int column) const {
+        return row >= Top && row <= Bottom && column >= Left && column <= Right;
+    }
+    bool operator==(const CellRange&) const = default;
+};
 
 // A grid of cells with text or a picture, some fixed rows and columns, and a current cell. Rows and columns
 // count from 0; an index outside fails with SubscriptOutOfRange. Lengths in twips.
@@ -32,6 +49,16 @@ public:
     int Row() const { return row_; }
     int Column() const { return column_; }
     void SetCurrent(int row, int column);
+
+    // The same for a rule that only passes by, reading or filling the cells: a face does not scroll there,
+    // and the user's next key starts from what is in sight.
+    void PassTo(int row, int column);
+    bool Passed() const { return passed_; }
+
+    // What the user has marked, the fixed cells perhaps among it; the current cell alone when nothing is. It
+    // goes with any change of the current cell, and of the number of rows and columns.
+    CellRange Marked() const;
+    void Mark(const CellRange& range);
 
     const std::string& Text(int row, int column) const;
     void SetText(int row, int column, std::string text);
@@ -84,6 +111,8 @@ private:
     int row_ = 0;
     int column_ = 0;
     int pressedRow_ = -1;
+    bool passed_ = false;
+    std::optional<CellRange> marked_;
     std::uint64_t revision_ = 0;
     std::vector<std::vector<std::string>> texts_; // by rows, each up to its last text
     std::vector<std::uint8_t> pictures_;

@@ -109,6 +109,27 @@ void frmNotePad::Grid1_DblClick() {
 
 bool frmNotePad::Grid1_MouseDown(int button) { return button == mouse::Right && !IsBusy(session_); }
 
+bool frmNotePad::Grid1_Tab(bool back) {
+    if (IsBusy(session_)) return true;
+    const int column = Grid1.Column() + (back ? -1 : 1);
+    if (column < Grid1.FixedColumns || column >= Grid1.Columns()) return false;
+    Grid1.ArrowKey(back ? key::Left : key::Right);
+    return true;
+}
+
+std::string frmNotePad::CellTitle() const {
+    const int row = Editing ? EditRow : Grid1.Row();
+    const int column = Editing ? EditCol : Grid1.Column();
+    if (row <= 0 || row >= Grid1.Rows() || column <= 0 || column >= Grid1.Columns()) return {};
+    // A name that is edited changes while it is typed: its record goes by its number then.
+    std::string record(TrimSpaces(Grid1.Text(row, NameColumn)));
+    if (column == NameColumn || record.empty())
+        record = TrimSpaces(Grid1.Text(row, DocumentGrid::NumberColumn));
+    return record + ", " + std::string(TrimSpaces(Grid1.Text(DocumentGrid::HeaderRow, column))) + ":";
+}
+
+void frmNotePad::EditCell_Tab(bool back) { CommitCell(back ? key::Left : key::Right); }
+
 void frmNotePad::EditCell_Change() {
     if (Editing && AtEditedCell()) Grid1.SetText(EditRow, EditCol, EditCell.Text);
 }

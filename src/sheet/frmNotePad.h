@@ -37,6 +37,9 @@ public:
     std::string OldText; // the cell's text when the edit began
     bool Editing = false;
 
+    // The record and the variable of the cell that is edited, else of the current one: "Georgia, Height:".
+    std::string CellTitle() const;
+
     // The path as it was chosen or opened. The caption shows it in lower case; a save to the caption's path
     // goes to this one, which is the same file where case does not tell files apart.
     std::string FilePath;
@@ -71,6 +74,9 @@ public:
     void Grid1_KeyDown(int& keyCode);
     void Grid1_KeyPress(int& keyAscii);
     void Grid1_DblClick();
+    // Tab moves to the right, Shift+Tab to the left. False at the end of the row, where the face moves the
+    // focus.
+    bool Grid1_Tab(bool back);
     // True when the face has to open the menu mnuEdit at the pointer.
     bool Grid1_MouseDown(int button);
 
@@ -80,6 +86,8 @@ public:
     void EditCell_KeyDown(int& keyCode);
     void EditCell_KeyPress(int& keyAscii);
     void EditCell_LostFocus();
+    // Tab commits and moves to the right, Shift+Tab (`back`) to the left, as the arrows do.
+    void EditCell_Tab(bool back);
     void LeaveField() override; // commits an open edit
 
     void OpisText_Change(); // after any change of the text by the user

@@ -75,14 +75,14 @@ void frmDiagram::PaintNames() {
     Siatka.SetText(HeaderRow, NameColumn, "Name");
     for (int row = 1; row <= document.RecCount; ++row)
         Siatka.SetText(row, NameColumn, document.RecordNames(row));
-    Siatka.SetCurrent(document.RecCount, NameColumn);
+    Siatka.PassTo(document.RecCount, NameColumn);
 }
 
 void frmDiagram::PaintCells() {
     const int count = Document().RecCount;
     for (int row = 1; row <= count; ++row)
         for (int record = 1; record <= count; ++record) PaintCell(row, record, false);
-    if (count > 0) Siatka.SetCurrent(count, ValueColumn(count));
+    if (count > 0) Siatka.PassTo(count, ValueColumn(count));
 }
 
 // A cell without a tile keeps the picture that it shows.

@@ -68,6 +68,56 @@ struct EditTest : SheetSession {
     std::string Current() const { return std::to_string(grid.Row()) + "," + std::to_string(grid.Column()); }
 };
 
+TEST(TabInACell, CommitsAndMovesAlongTheRowAsTheArrowsDo) {
+    EditTest t;
+    t.KeyDown(key::F2);
+    t.SetField("2*3");
+    t.window.EditCell_Tab(false);
+    EXPECT_EQ(t.grid.Text(1, 2), "6.000");
+    EXPECT_EQ(t.Current(), "1,3");
+    EXPECT_FALSE(t.window.EditPanel.Visible);
+    t.KeyDown(key::F2);
+    t.SetField("7");
+    t.window.EditCell_Tab(true);
+    EXPECT_EQ(t.grid.Text(1, 3), "7.000");
+    EXPECT_EQ(t.Current(), "1,2");
+}
+
+TEST(TabInACell, WithoutAnEditMovesUntilTheEndsOfTheRow) {
+    EditTest t;
+    EXPECT_TRUE(t.window.Grid1_Tab(true));
+    EXPECT_EQ(t.Current(), "1,1");
+    EXPECT_FALSE(t.window.Grid1_Tab(true));
+    EXPECT_EQ(t.Current(), "1,1");
+    t.GoTo(1, 3);
+    EXPECT_TRUE(t.window.Grid1_Tab(false));
+    EXPECT_EQ(t.Current(), "1,4");
+    EXPECT_FALSE(t.window.Grid1_Tab(false));
+    t.session.DiagramBusy = 1;
+    EXPECT_TRUE(t.window.Grid1_Tab(true)); // taken, for nothing
+    EXPECT_EQ(t.Current(), "1,4");
+}
+
+TEST(TitleOfACell, NamesTheRecordAndTheVariable) {
+    EditTest t;
+    t.grid.SetText(1, 1, " Georgia ");
+    t.grid.SetText(0, 2, "Height ");
+    EXPECT_EQ(t.window.CellTitle(), "Georgia, Height:");
+    t.GoTo(1, 1);
+    EXPECT_EQ(t.window.CellTitle(), "1, Record Name:");
+    t.GoTo(2, 2);
+    t.grid.SetText(2, 1, "");
+    EXPECT_EQ(t.window.CellTitle(), "2, Height:");
+    t.KeyDown(key::F2);
+    t.GoTo(1, 3); // the edit stays that of its own cell
+    EXPECT_EQ(t.window.CellTitle(), "2, Height:");
+    t.window.Editing = false;
+    t.GoTo(0, 2);
+    EXPECT_EQ(t.window.CellTitle(), "");
+    t.GoTo(1, 0);
+    EXPECT_EQ(t.window.CellTitle(), "");
+}
+
 TEST(StartOfAnEdit, EnterAndF2OpenTheCellsText) {
     for (const int code : {key::Enter, key::F2}) {
         EditTest test;

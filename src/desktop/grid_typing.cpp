@@ -1,0 +1,68 @@
+#include "desktop/grid_typing.h"
+
+#include "desktop/grid_widget.h"
+#include "desktop/qt_text.h"
+#include "platform/keys.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+
+namespace dorvan {
+
+GridTyping::GridTyping(GridWidget& grid, EventDispatch& dispatch)
+    : QObject(&grid), grid_(grid), dispatch_(dispatch) {
+    grid.installEventFilter(this);
+}
+
+// Only a grid that can be typed into composes anything.
+void GridTyping::Answer(QInputMethodQueryEvent& query) const {
+    const Grid* grid = grid_.Shown();
+    const bool types = grid && grid_.events.keyPress;
+    if (query.queries() & Qt::ImEnabled) query.setValue(Qt::ImEnabled, types);
+    if (!types) return;
+    if (query.queries() & Qt::ImCursorRectangle)
+        query.setValue(Qt::ImCursorRectangle, grid_.CellRect(grid->Row(), grid->Column()));
+    if (query.queries() & Qt::ImFont) query.setValue(Qt::ImFont, grid_.font());
+}
+
+// The first character opens the edit, which takes the focus: the others follow it there.
+void GridTyping::TakeComposed(const QInputMethodEvent& event) {
+    if (!grid_.events.keyPress) return;
+    const auto characters = event.commitString().toUcs4();
+    for (int place = 0; place < int(characters.size()) && grid_.Shown(); ++place) {
+        QWidget* focus = QApplication::focusWidget();
+        if (focus && focus != &grid_) {
+            QInputMethodEvent rest;
+            rest.setCommitString(event.commitString().mid(UnitsBefore(event.commitString(), place)));
+            QCoreApplication::sendEvent(focus, &rest);
+            return;
+        }
+        int character = int(characters[place]);
+        dispatch_.Run([&] { grid_.events.keyPress(character); });
+    }
+}
+
+bool GridTyping::OpenMenu() {
+    const Grid* grid = grid_.Shown();
+    if (!grid || !grid_.events.rightButton) return false;
+    const QRect cell = grid_.CellRect(grid->Row(), grid->Column());
+    const QPoint place = cell.isEmpty() ? grid_.viewport()->rect().center() : cell.bottomLeft();
+    dispatch_.Run([&] { grid_.events.rightButton(grid_.viewport()->mapToGlobal(place)); });
+    return true;
+}
+
+bool GridTyping::eventFilter(QObject*, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::InputMethodQuery: Answer(static_cast<QInputMethodQueryEvent&>(*event)); return true;
+    case QEvent::InputMethod:
+        TakeComposed(static_cast<QInputMethodEvent&>(*event));
+        event->accept();
+        return true;
+    case QEvent::ContextMenu:
+        return static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard && OpenMenu();
+    default: return false;
+    }
+}
+
+} // namespace dorvan
