@@ -30,6 +30,9 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
     grid.SetPictures(TilePictures());
     grid.followsRulesSideways = false; // the names stay in sight while rows are moved
     BindZoom(grid, window, context.dispatch);
+    grid.events.rightButton = [popUp = context.popUp](QPoint global) {
+        popUp(std::string(DocumentKind::Diagram), global);
+    };
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
 
