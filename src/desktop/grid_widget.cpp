@@ -359,13 +359,16 @@ bool GridWidget::IsMarked(int row, int column) const {
             row >= grid_->FixedRows);
 }
 
+QColor GridWidget::GroundOf(const CellPaint& paint, int row, int column) const {
+    const bool fixed = row < grid_->FixedRows || column < grid_->FixedColumns;
+    const QColor ground = fixed ? paint.fixedBack : palette().color(QPalette::Base);
+    return IsMarked(row, column) ? MarkedHead(ground, palette()) : ground;
+}
+
 void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
     QPainter& painter = paint.painter;
     const QRect& rect = paint.rect;
-    const bool fixed = row < grid_->FixedRows || column < grid_->FixedColumns;
-    const QColor ground = fixed ? paint.fixedBack : palette().color(QPalette::Base);
-    if (!ShowsPictures() || IsLabel(row, column))
-        painter.fillRect(rect, IsMarked(row, column) ? MarkedHead(ground, palette()) : ground);
+    if (!ShowsPictures() || IsLabel(row, column)) painter.fillRect(rect, GroundOf(paint, row, column));
     if (!IsLabel(row, column) || (column < labelColumns_ ? rowLabelStep_ : columnLabelStep_) == 1)
         PaintText(paint, row, column);
     if (grid_->GridLines) {
@@ -441,6 +444,7 @@ void GridWidget::PaintLabels(CellPaint& paint) const {
             for (int column = 0; column < std::min(labelColumns_, columns_.fixed); ++column) {
                 const QRect cell = CellPlace(row, column);
                 paint.rect = QRect(cell.left(), cell.center().y() - line / 2, cell.width(), line);
+                if (row == grid_->Row()) paint.painter.fillRect(paint.rect, GroundOf(paint, row, column));
                 PaintText(paint, row, column);
             }
         });
@@ -456,6 +460,7 @@ void GridWidget::PaintLabels(CellPaint& paint) const {
                 return;
             const QRect cell = CellPlace(0, column);
             paint.rect = QRect(cell.center().x() - width / 2, cell.top(), width - margin, cell.height());
+            if (place == current) paint.painter.fillRect(paint.rect, GroundOf(paint, 0, column));
             PaintText(paint, 0, column);
         });
     }
@@ -511,8 +516,8 @@ void GridWidget::paintEvent(QPaintEvent* event) {
         });
     });
     PaintMarked(painter);
-    if (ShowsPictures()) PaintLabels(paint);
     PaintEdge(paint);
+    if (ShowsPictures()) PaintLabels(paint);
     const int row = grid_->Row();
     const int column = grid_->Column();
     if (rows_.Scrolled(row) || columns_.Scrolled(column)) return;

@@ -145,6 +145,7 @@ private:
     Anchor AnchorOfZoom() const;
 
     void PaintCell(CellPaint& paint, int row, int column) const;
+    QColor GroundOf(const CellPaint& paint, int row, int column) const;
     void PaintText(CellPaint& paint, int row, int column) const;
     FittedText FittedIn(const QRect& cell, const QFont& font, int row, int column) const;
     bool IsCut(int row, int column) const;

@@ -209,6 +209,12 @@ TEST_F(GridZoomTest, FewerHeadsHaveALabelWhereTheyWouldRunTogetherAndTheCurrentO
     const int between = 103;
     ClickCell(grid, between, 90);
     EXPECT_TRUE(isLabelled(between));
+    const auto groundAbove = [&](int row) { // the row above, in the label's room
+        const QRect name = grid.CellRect(row - 1, 1);
+        return Painted(*grid.viewport())
+            .pixel(int((name.right() - 4) * Ratio()), int(name.top() * Ratio()) + 1);
+    };
+    EXPECT_NE(groundAbove(between), groundAbove(200)) << "all of the current one is marked";
     ClickCell(grid, 200, 90);
     Click("mnuExtrasZoomActual");
     EXPECT_TRUE(isLabelled(grid.verticalScrollBar()->value() + 4)) << "each one at 100 percent";
