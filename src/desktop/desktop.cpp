@@ -2,9 +2,11 @@
 
 #include "desktop/icons.h"
 #include "desktop/journal_keeper.h"
+#include "desktop/qt_cell_clipboard.h"
 #include "desktop/qt_text.h"
 #include "program/open_document.h"
 #include "program/program.h"
+#include "session/cell_copying.h"
 
 #include <QApplication>
 #include <QDir>
@@ -18,6 +20,7 @@ namespace dorvan {
 
 Desktop::Desktop(const std::string& programFolder) {
     Compose(session);
+    session.Of<CellPorts>().clipboard = &session.Of<QtCellClipboard>();
     shell.Form_Load(static_cast<std::uint64_t>(ports.clock.seconds()), programFolder);
     mainWindow = std::make_unique<MainWindowFace>(session, shell, dispatch);
     ports.children.Attach(

@@ -55,11 +55,21 @@ std::vector<CommandRow> ExtrasRows() {
          .Calls = {.Diagram = "frmDiagram.ZoomFit"}},
 
         // Sheets and their cells
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasCopy",
+         .Caption = "&Copy",
+         .Shortcut = "Ctrl+C",
+         .Calls = {.Data = "CopySheetCells", .Matrix = "CopyMatrixCells", .Diagram = "CopyDiagramCells"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasPaste",
+         .Caption = "&Paste",
+         .Shortcut = "Ctrl+V",
+         .Calls = {.Data = "PasteCells"}},
 
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "Reopen &Closed Document",
+         .Caption = "Reopen Closed &Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 
