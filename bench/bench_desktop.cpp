@@ -130,10 +130,46 @@ void MoveByHandWithRepaint(benchmark::State& state) {
     }
 }
 
+// The whole viewport anew, at a percentage: of all boxes at 12, of those in sight at more.
+void RepaintZoomed(benchmark::State& state) {
+    auto desktop = Start();
+    desktop->Open(DiagramPath());
+    auto& window = dynamic_cast<frmDiagram&>(*desktop->session.ActiveWindow);
+    GridWidget& grid = OpenedGrid(*desktop);
+    desktop->ports.children.FaceOf(window)->showMaximized();
+    QCoreApplication::processEvents();
+    desktop->dispatch.Run([&] {
+        window.ZoomFit();
+        while (window.Zoom.Percent() < double(state.range(0))) window.ZoomIn();
+    });
+    Paint(grid);
+    for (auto _ : state) grid.viewport()->repaint();
+    state.counters["percent"] = window.Zoom.Percent();
+}
+
+// From the turn of the wheel to the end of the painting, in and out between the whole diagram and the tiles.
+void ZoomStep(benchmark::State& state) {
+    auto desktop = Start();
+    desktop->Open(DiagramPath());
+    auto& window = dynamic_cast<frmDiagram&>(*desktop->session.ActiveWindow);
+    GridWidget& grid = OpenedGrid(*desktop);
+    desktop->ports.children.FaceOf(window)->showMaximized();
+    Paint(grid);
+    bool in = false;
+    for (auto _ : state) {
+        if (window.Zoom.Percent() <= 12) in = true;
+        if (window.Zoom.Percent() >= 100) in = false;
+        desktop->dispatch.Run([&] { in ? window.ZoomIn() : window.ZoomOut(); });
+        Paint(grid);
+    }
+}
+
 BENCHMARK(StartToFirstPaintedMainWindow)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenDiagramToFirstPaintedFrame)->Unit(benchmark::kMillisecond);
 BENCHMARK(ScrollStep)->Unit(benchmark::kMillisecond);
 BENCHMARK(MoveByHandWithRepaint)->Unit(benchmark::kMillisecond);
+BENCHMARK(RepaintZoomed)->Arg(12)->Arg(35)->Arg(100)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomStep)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace dorvan

@@ -96,20 +96,7 @@ inline void checkMatrixFile(std::string_view bytes) {
 
 inline std::string composeDiagram(const DiagramHeader& header, const DocumentTables& tables,
                                   const FileText& text) {
-    DiagramDocument document;
-    document.RecCount = header.RecCount;
-    document.VarCount = header.VarCount;
-    document.DistType = header.DistType;
-    document.DiagType = header.DiagType;
-    document.Par_P = header.Par_P;
-    document.Par_R = header.Par_R;
-    document.NoData = header.Type != 0;
-    document.SectionLimits = header.SectionLimits;
-    document.RecordNames = tables.RecordNames;
-    document.VariableNames = tables.VariableNames;
-    document.Data = tables.DataValues;
-    document.Matrix = tables.DistanceValues;
-    return ComposeDiagramFile(document, header.Description, text);
+    return ComposeDiagramFile(DiagramOf(header, tables), header.Description, text);
 }
 
 // The older format holds no distances: they stay 0 here.

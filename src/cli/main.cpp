@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 
 // The one file that knows how a command line is parsed.
@@ -85,5 +86,6 @@ int RunProgram(int argumentCount, char** arguments) {
 
 int main(int argumentCount, char** arguments) {
     std::setlocale(LC_ALL, "");
+    std::signal(SIGXFSZ, SIG_IGN); // the write fails instead, which is told
     return dorvan::cli::RunProgram(argumentCount, arguments);
 }

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <new>
 
 namespace dorvan::cli {
 
@@ -127,6 +128,8 @@ int Reported(const std::string& file, const std::function<void()>& work) {
         return 0;
     } catch (const SaveFailure& failure) {
         reason = failure.what();
+    } catch (const std::bad_alloc&) {
+        reason = file + ": The memory does not suffice";
     } catch (const std::exception& failure) {
         reason = failure.what();
         if (reason.find(file) == std::string::npos) reason = file + ": " + reason;

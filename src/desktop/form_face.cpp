@@ -1,6 +1,7 @@
 #include "desktop/form_face.h"
 
 #include "desktop/qt_text.h"
+#include "desktop/scrolled_dialog.h"
 
 #include <QCloseEvent>
 #include <QDialogButtonBox>
@@ -51,6 +52,7 @@ void FormFace::RunModal() {
         form_.Form_Resize();
     });
     if (!form_.Visible) return;
+    FitIntoScreen(*this);
     show();
     dispatch_.Mirror();
     if (form_.Visible) loop.exec();

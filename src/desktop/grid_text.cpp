@@ -8,8 +8,8 @@ namespace dorvan {
 
 namespace {
 
-constexpr int NarrowestCutCell = 34; // pixels; in narrower ones three dots would take all the room
-constexpr int LeastStretch = 65;     // percent of the font's own width
+constexpr int NarrowestCutCell = 26; // pixels; in narrower ones three dots would take all the room
+constexpr int LeastStretch = 60;     // percent of the font's own width
 constexpr int LeastStretchUncut = 50;
 constexpr int StretchStep = 5; // each step is a font of its own in the toolkit's memory
 

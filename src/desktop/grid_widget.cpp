@@ -4,17 +4,18 @@
 #include "desktop/grid_accessibility.h"
 #include "desktop/grid_marks.h"
 #include "desktop/grid_mosaic.h"
-#include "desktop/grid_text.h"
 #include "desktop/qt_text.h"
 #include "platform/keys.h"
 #include "platform/twips.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -28,11 +29,18 @@ constexpr double StandardFont = 9;   // points of the application's font that le
 constexpr double SmallestFont = 0.7; // of the grid's own; no smaller where the rows are low
 constexpr double LineOfFont = 1.25;  // a line's height of the font's size
 constexpr int DigitsOfColumn = 3;
+constexpr int NumberGap = 4;        // pixels at a ratio of 1, between the numbers of narrow columns
 constexpr double EdgeShare = 0.5;   // of the text's colour in that of a diagram's edge
 constexpr int ScrollStep = 17;      // pixels at a ratio of 1
 constexpr float MarkedShare = 0.3F; // of the highlight over what is marked
 
 int DevicePixels(double twips, double ratio) { return int(std::lround(twips * ratio / TwipsPerPixel)); }
+
+// On each side of a text, in device pixels; none in the narrow columns of a diagram.
+int TextMarginIn(const QRect& cell, double ratio) {
+    const int margin = int(std::lround(TextMargin * ratio));
+    return cell.width() < 4 * margin + int(10 * ratio) ? 0 : margin;
+}
 
 Qt::Alignment ToQt(Alignment alignment) {
     switch (alignment) {
@@ -103,7 +111,6 @@ struct GridWidget::CellPaint {
     QFont font;
     QPen gridPen;
     QColor fixedBack;
-    int margin;
     QRect rect; // of the cell, in device pixels
 };
 
@@ -370,21 +377,29 @@ void GridWidget::PaintCell(CellPaint& paint, int row, int column) const {
     }
 }
 
+// Numbers of narrow columns keep a gap between each other.
+FittedText GridWidget::FittedIn(const QRect& cell, const QFont& font, int row, int column) const {
+    const int margin = TextMarginIn(cell, Ratio());
+    const int room =
+        margin > 0 ? cell.width() - 2 * margin : cell.width() - int(std::lround(NumberGap * Ratio()));
+    return FitText(dorvan::ToQt(grid_->Text(row, column)), font, room);
+}
+
+bool GridWidget::IsCut(int row, int column) const {
+    return !grid_->Text(row, column).empty() && FittedIn(CellPlace(row, column), TextFont(), row, column).Cut;
+}
+
 void GridWidget::PaintText(CellPaint& paint, int row, int column) const {
-    const auto& text = grid_->Text(row, column);
-    if (text.empty()) return;
-    const QRect& rect = paint.rect;
-    const QRect inner =
-        rect.width() < 4 * paint.margin ? rect : rect.adjusted(paint.margin, 0, -paint.margin, 0);
-    // Numbers of narrow columns keep a gap between each other.
-    const int room = inner == rect ? rect.width() - 2 : inner.width();
-    const FittedText fitted = FitText(dorvan::ToQt(text), paint.font, room);
+    if (grid_->Text(row, column).empty()) return;
+    const int margin = TextMarginIn(paint.rect, Ratio());
+    const FittedText fitted = FittedIn(paint.rect, paint.font, row, column);
     const Alignment alignment =
         row < grid_->FixedRows ? grid_->HeaderAlignment(column) : grid_->ColumnAlignment(column);
     const bool fixed = row < grid_->FixedRows || column < grid_->FixedColumns;
     paint.painter.setFont(fitted.Font);
     paint.painter.setPen(palette().color(fixed ? QPalette::ButtonText : QPalette::Text));
-    paint.painter.drawText(inner, int(ToQt(alignment)) | Qt::TextSingleLine | Qt::TextDontClip, fitted.Shown);
+    paint.painter.drawText(paint.rect.adjusted(margin, 0, -margin, 0),
+                           int(ToQt(alignment)) | Qt::TextSingleLine | Qt::TextDontClip, fitted.Shown);
 }
 
 void GridWidget::PaintPictures(QPainter& painter, const QRect& exposed) const {
@@ -482,7 +497,6 @@ void GridWidget::paintEvent(QPaintEvent* event) {
                     TextFont(),
                     QPen(Blend(base, text, 0.22), std::max(1, int(ratio))),
                     Blend(palette().color(QPalette::Button), text, 0.04),
-                    int(std::lround(TextMargin * ratio)),
                     {}};
     const QRect exposed(int(std::floor(event->rect().left() * ratio)),
                         int(std::floor(event->rect().top() * ratio)),
@@ -583,6 +597,16 @@ bool GridWidget::event(QEvent* event) {
         return true;
     }
     return QAbstractScrollArea::event(event);
+}
+
+// The whole of a text that its cell cuts.
+bool GridWidget::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !grid_) return QAbstractScrollArea::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QPoint cell = CellAt(help->pos());
+    const bool cut = cell.x() >= 0 && cell.y() >= 0 && IsCut(cell.y(), cell.x());
+    QToolTip::showText(help->globalPos(), cut ? CellReading(cell.y(), cell.x()) : QString(), viewport());
+    return true;
 }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/event_dispatch.h"
+#include "desktop/grid_text.h"
 #include "platform/grid.h"
 
 #include <QAbstractScrollArea>
@@ -103,6 +104,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     // Sizes and places along one axis, in device pixels.
@@ -144,6 +146,8 @@ private:
 
     void PaintCell(CellPaint& paint, int row, int column) const;
     void PaintText(CellPaint& paint, int row, int column) const;
+    FittedText FittedIn(const QRect& cell, const QFont& font, int row, int column) const;
+    bool IsCut(int row, int column) const;
     void PaintPictures(QPainter& painter, const QRect& exposed) const;
     void PaintLabels(CellPaint& paint) const;
     void PaintEdge(CellPaint& paint) const;

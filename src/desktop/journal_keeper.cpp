@@ -34,10 +34,13 @@ JournalKeeper::JournalKeeper(Session& session, EventDispatch& dispatch, const st
     : session_(session), dispatch_(dispatch), folder_(stateFolder),
       journal_(folder_, [this](std::function<void()> piece) { Add(std::move(piece)); }),
       thread_([this] { Work(); }) {
-    session_.onClosing = [this](const ChildWindow& window) { journal_.DocumentCloses(session_, window); };
+    session_.onClosing = [this](const ChildWindow& window) {
+        Try([&] { journal_.DocumentCloses(session_, window); });
+    };
     session_.commands.Set("ReopenClosedDocument", [this](const CommandCall&) { Reopen(); });
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this] { journal_.Look(session_, SteadySeconds()); });
+    connect(timer, &QTimer::timeout, this,
+            [this] { Try([this] { journal_.Look(session_, SteadySeconds()); }); });
     timer->start(MillisecondsBetweenTicks);
 }
 
@@ -82,16 +85,12 @@ void JournalKeeper::WaitForAll() {
 
 void JournalKeeper::OfferLeftDocuments() {
     WaitForAll();
-    dispatch_.Run([this] {
-        Try([this] {
-            if (dorvan::OfferLeftDocuments(session_, folder_)) journal_.TakeOver(session_);
-        });
-    });
+    dispatch_.Run([this] { Try([this] { dorvan::OfferLeftDocuments(session_, folder_, journal_); }); });
 }
 
 void JournalKeeper::Reopen() {
     WaitForAll();
-    Try([this] { ReopenClosedDocument(session_, folder_); });
+    Try([this] { ReopenClosedDocument(session_, folder_, journal_); });
 }
 
 void JournalKeeper::EndCleanly() {

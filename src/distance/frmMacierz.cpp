@@ -35,7 +35,7 @@ float HighestOf(const FloatTable& distances) {
 int MatrixColumnWidth(std::size_t textLength) {
     static constexpr double factors[] = {1.3, 1.5, 1.75, 2, 2.3, 2.5, 2.75};
     const double factor = factors[std::clamp<std::size_t>(textLength, 4, 10) - 4];
-    return RoundToInt32(Grid::DefaultColumnWidth * factor);
+    return RoundToInt32(frmMacierz::BaseColumnWidth * factor);
 }
 
 frmMacierz::frmMacierz(Session& session) : GridWindow("frmMacierz", session) {}
@@ -72,7 +72,8 @@ void frmMacierz::PresentDistances(const FloatTable& distances, const std::string
 void frmMacierz::LayOutColumns(int valueColumnWidth) {
     for (int column = 0; column < Siatka.Columns() - 1; ++column)
         Siatka.SetHeaderAlignment(column, Alignment::Centre);
-    Siatka.SetColumnWidth(NameColumn, Grid::DefaultColumnWidth * NameWidthFactor);
+    Siatka.SetColumnWidth(NumberColumn, BaseColumnWidth);
+    Siatka.SetColumnWidth(NameColumn, BaseColumnWidth * NameWidthFactor);
     for (int record = 1; record <= Document().Size; ++record) {
         const int column = ValueColumn(record);
         Siatka.SetColumnAlignment(column, Alignment::Right);

@@ -14,6 +14,10 @@ class frmMacierz : public GridWindow {
 public:
     static constexpr std::string_view Kind = DocumentKind::Matrix;
 
+    // Of a column without a factor, in twips. Narrow, for many distances side by side; the screen narrows a
+    // number that is wider.
+    static constexpr int BaseColumnWidth = 520;
+
     explicit frmMacierz(Session& session);
 
     DistanceMatrix& Document();

@@ -18,32 +18,12 @@ namespace dorvan {
 
 namespace {
 
-DiagramDocument DocumentOf(const Session& session, const DiagramHeader& header) {
-    DiagramDocument document;
-    document.RecCount = header.RecCount;
-    document.VarCount = header.VarCount;
-    document.DistType = header.DistType;
-    document.DiagType = header.DiagType;
-    document.Par_P = header.Par_P;
-    document.Par_R = header.Par_R;
-    document.NoData = header.Type != 0;
-    document.SectionLimits = header.SectionLimits;
-    document.Matrix = session.tables.DistanceValues;
-    document.RecordNames = session.tables.RecordNames;
-    document.RecordHasNA = session.tables.RecordHasNA;
-    document.Classes = Array2<std::int16_t>(header.RecCount, header.RecCount);
-    if (!document.NoData) {
-        document.Data = session.tables.DataValues;
-        document.VariableNames = session.tables.VariableNames;
-    }
-    return document;
-}
-
 void OpenDiagramWindow(Session& session, const std::string& path, const DiagramHeader& header, bool dirty) {
     const std::int16_t slot = session.NewWindowIndex = FindFreeDiagramSlot(session);
     OpensWithoutFault(session, path, DocumentKind::Diagram, [&] {
         DiagramDocument& document = session.DiagramDocuments.at(std::size_t(slot));
-        document = DocumentOf(session, header);
+        document = DiagramOf(header, session.tables);
+        document.Classes = Array2<std::int16_t>(header.RecCount, header.RecCount);
         ClassifyDiagram(document);
         OpenDocumentWindow<frmDiagram>(
             session, {.Caption = fmt::format("[DIAGRAM]: {}", path), .Dirty = dirty, .Slot = slot},

@@ -9,6 +9,8 @@
 
 #include <fmt/format.h>
 
+#include <utility>
+
 namespace dorvan {
 
 namespace {
@@ -157,6 +159,26 @@ DiagramHeader ParseOldDiagramFile(std::string_view bytes, const FileText& text, 
         header.Par_P = cursor.Int16();
     }
     return header;
+}
+
+DiagramDocument DiagramOf(const DiagramHeader& header, DocumentTables tables) {
+    DiagramDocument document;
+    document.RecCount = header.RecCount;
+    document.VarCount = header.VarCount;
+    document.DistType = header.DistType;
+    document.DiagType = header.DiagType;
+    document.Par_P = header.Par_P;
+    document.Par_R = header.Par_R;
+    document.NoData = header.Type != 0;
+    document.SectionLimits = header.SectionLimits;
+    document.Matrix = std::move(tables.DistanceValues);
+    document.RecordNames = std::move(tables.RecordNames);
+    document.RecordHasNA = std::move(tables.RecordHasNA);
+    if (!document.NoData) {
+        document.Data = std::move(tables.DataValues);
+        document.VariableNames = std::move(tables.VariableNames);
+    }
+    return document;
 }
 
 std::string ComposeDiagramFile(const DiagramDocument& document, std::string_view description,

@@ -35,6 +35,9 @@ DiagramHeader ParseDiagramFile(std::string_view bytes, const FileText& text, Doc
 // stand in the file of a customized measure only; else they are 0. Fails with a FileFault.
 DiagramHeader ParseOldDiagramFile(std::string_view bytes, const FileText& text, DocumentTables& tables);
 
+// The diagram of a file, not classified yet. Data and names of the variables are left out where it has none.
+DiagramDocument DiagramOf(const DiagramHeader& header, DocumentTables tables);
+
 // Fails with Overflow for a value that is not finite.
 std::string ComposeDiagramFile(const DiagramDocument& document, std::string_view description,
                                const FileText& text);

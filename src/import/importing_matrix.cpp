@@ -52,7 +52,7 @@ int ColumnWidth(const FloatTable& distances, char decimalSeparator) {
     std::size_t longest = 0;
     for (const float distance : distances.Cells())
         longest = std::max(longest, CharacterCount(PlainText(distance, decimalSeparator)));
-    return RoundToInt32(Grid::DefaultColumnWidth * factors[std::clamp<std::size_t>(longest, 5, 12) - 5]);
+    return RoundToInt32(frmMacierz::BaseColumnWidth * factors[std::clamp<std::size_t>(longest, 5, 12) - 5]);
 }
 
 void FillDocument(const Session& session, DistanceMatrix& document) {

@@ -74,20 +74,7 @@ std::string SavedAgain(const DistanceMatrix&, const std::string& bytes, const Fi
 std::string SavedAgain(const DiagramDocument&, const std::string& bytes, const FileText& text) {
     DocumentTables tables;
     const DiagramHeader header = ParseDiagramFile(bytes, text, tables);
-    DiagramDocument document;
-    document.RecCount = header.RecCount;
-    document.VarCount = header.VarCount;
-    document.DistType = header.DistType;
-    document.DiagType = header.DiagType;
-    document.Par_P = header.Par_P;
-    document.Par_R = header.Par_R;
-    document.NoData = header.Type != 0;
-    document.SectionLimits = header.SectionLimits;
-    document.RecordNames = std::move(tables.RecordNames);
-    document.VariableNames = std::move(tables.VariableNames);
-    document.Data = std::move(tables.DataValues);
-    document.Matrix = std::move(tables.DistanceValues);
-    return ComposeDiagramFile(document, header.Description, text);
+    return ComposeDiagramFile(DiagramOf(header, std::move(tables)), header.Description, text);
 }
 
 std::string Composed(const SheetTable& sheet, const DocumentSnapshot& document) {

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <exception>
 #include <filesystem>
 #include <utility>
 #include <vector>
@@ -70,13 +71,37 @@ void Journal::Look(const Session& session, double seconds) {
     if (seconds < next_) return;
     next_ = seconds + SecondsBetweenLooks;
     ForgetClosed(session);
-    for (const auto& window : session.Children) LookAt(session, window);
+    if (failed_ && seconds >= retry_) {
+        failed_ = false;
+        retry_ = seconds + SecondsBetweenRetries;
+        for (auto& [window, seen] : seen_) seen.State.clear();
+    }
+    std::exception_ptr failure;
+    for (const auto& window : session.Children) {
+        try {
+            LookAt(session, window);
+        } catch (const std::exception&) {
+            failure = std::current_exception(); // one that the memory does not hold twice; the others go on
+        }
+    }
+    if (failure) std::rethrow_exception(failure);
+}
+
+void Journal::InBackground(std::function<void()> piece) {
+    background_([this, piece = std::move(piece)] {
+        try {
+            piece();
+        } catch (...) {
+            failed_ = true;
+            throw;
+        }
+    });
 }
 
 void Journal::LookAt(const Session& session, const std::shared_ptr<ChildWindow>& window) {
     Seen& seen = seen_[window.get()];
     if (seen.Window.lock() != window) {
-        if (seen.Number != 0) background_([this, number = seen.Number] { folder_.Forget(number); });
+        if (seen.Number != 0) InBackground([this, number = seen.Number] { folder_.Forget(number); });
         seen = {window, ++last_, {}};
     }
     std::string state = StateOf(*window);
@@ -84,7 +109,7 @@ void Journal::LookAt(const Session& session, const std::shared_ptr<ChildWindow>&
     auto document = SnapshotOf(session, *window);
     if (!document) return;
     seen.State = std::move(state);
-    background_(
+    InBackground(
         [this, number = seen.Number, copy = std::make_shared<DocumentSnapshot>(std::move(*document))] {
             folder_.Keep(number, *copy);
         });
@@ -95,7 +120,7 @@ void Journal::ForgetClosed(const Session& session) {
         const auto window = entry.second.Window.lock();
         const auto& open = session.Children;
         if (window && std::find(open.begin(), open.end(), window) != open.end()) return false;
-        background_([this, number = entry.second.Number] { folder_.Forget(number); });
+        InBackground([this, number = entry.second.Number] { folder_.Forget(number); });
         return true;
     });
 }
@@ -108,14 +133,33 @@ void Journal::DocumentCloses(const Session& session, const ChildWindow& window) 
     });
 }
 
-void Journal::TakeOver(const Session& session) {
+// What is dropped is the last copy until then.
+void Journal::KeepAndThen(const Session& session, std::function<void()> drop) {
     next_ = 0;
     Look(session, 0);
-    background_([this] { folder_.RemoveOtherRuns(); });
+    InBackground([this, drop = std::move(drop)] {
+        if (!failed_) drop();
+    });
+}
+
+void Journal::TakeOverOtherRuns(const Session& session) {
+    KeepAndThen(session, [this] { folder_.RemoveOtherRuns(); });
+}
+
+void Journal::TakeOver(const Session& session, const LeftDocument& document) {
+    KeepAndThen(session, [this, document] { folder_.Remove(document); });
+}
+
+void Journal::CloseOtherRuns() {
+    InBackground([this] { folder_.CloseOtherRuns(); });
 }
 
 void Journal::EndCleanly(const Session& session) {
-    for (const auto& window : session.Children) DocumentCloses(session, *window);
+    try {
+        for (const auto& window : session.Children) DocumentCloses(session, *window);
+    } catch (const std::exception&) {
+        return; // what the journal holds of it stays for the next start
+    }
     background_([this] { folder_.RemoveThisRun(); });
 }
 
@@ -133,30 +177,30 @@ bool Reopen(Session& session, const LeftDocument& document) {
     return true;
 }
 
-bool OfferLeftDocuments(Session& session, JournalFolder& folder) {
+void OfferLeftDocuments(Session& session, const JournalFolder& folder, Journal& journal) {
     const auto left = folder.LeftByOtherRuns();
     const auto opens = [&](const LeftDocument& document) { return Reopen(session, document); };
-    bool opened = false;
-    if (!left.empty()) {
-        const Message question{.Text = fmt::format("Dorvan ended before these documents were saved:{}\r\n\r\n"
-                                                   "Open them again?",
-                                                   ListOf(left)),
-                               .Icon = MessageIcon::Question,
-                               .Buttons = MessageButtons::YesNo};
-        opened = session.platform.messages.show(question) == Answer::Yes &&
-                 std::count_if(left.begin(), left.end(), opens) == std::ptrdiff_t(left.size());
-    }
-    if (!opened) folder.CloseOtherRuns();
-    return opened;
+    if (left.empty()) return journal.CloseOtherRuns();
+    const Message question{.Text = fmt::format("Dorvan ended before these documents were saved:{}\r\n\r\n"
+                                               "Open them again?",
+                                               ListOf(left)),
+                           .Icon = MessageIcon::Question,
+                           .Buttons = MessageButtons::YesNo};
+    const bool opened = session.platform.messages.show(question) == Answer::Yes &&
+                        std::count_if(left.begin(), left.end(), opens) == std::ptrdiff_t(left.size());
+    if (opened)
+        journal.TakeOverOtherRuns(session);
+    else
+        journal.CloseOtherRuns();
 }
 
-void ReopenClosedDocument(Session& session, JournalFolder& folder) {
+void ReopenClosedDocument(Session& session, const JournalFolder& folder, Journal& journal) {
     const auto document = folder.LastClosed();
     if (!document) {
         session.platform.signals.beep();
         return;
     }
-    if (Reopen(session, *document)) folder.Remove(*document);
+    if (Reopen(session, *document)) journal.TakeOver(session, *document);
 }
 
 } // namespace dorvan

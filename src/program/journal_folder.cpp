@@ -50,8 +50,11 @@ std::string NameByTime() {
 
 fs::path OriginOf(const fs::path& file) { return fs::path(file).replace_extension(OriginEnding); }
 
-std::string ComposeOrigin(const std::string& path, const std::string& caption, int codePage) {
-    return fmt::format("{}\n{}\n{}\n", path, caption, codePage);
+// A path that is no line of text is left out: the document is untitled then.
+std::string ComposeOrigin(const std::string& path, std::string caption, int codePage) {
+    const bool isLine = path.find('\n') == std::string::npos;
+    std::replace(caption.begin(), caption.end(), '\n', ' ');
+    return fmt::format("{}\n{}\n{}\n", isLine ? path : "", caption, codePage);
 }
 
 // A private file, in the place of the one that is there.

@@ -1,8 +1,10 @@
+#include "cli/run.h"
 #include "cli/subcommands.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <new>
 #include <set>
 
 namespace dorvan::cli {
@@ -113,6 +115,12 @@ void ExpectComplete(const std::vector<Subcommand>& subcommands, const std::strin
 TEST(Subcommands, EachHasANameOfItsOwnHelpAnExampleAndItsWork) {
     EXPECT_FALSE(Subcommands().empty());
     ExpectComplete(Subcommands(), "");
+}
+
+TEST(Reported, AMemoryThatDoesNotSufficeIsNamed) {
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(Reported("f.dgr", [] { throw std::bad_alloc(); }), 1);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "dorvan-cli: f.dgr: The memory does not suffice\n");
 }
 
 } // namespace

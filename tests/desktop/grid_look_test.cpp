@@ -3,8 +3,10 @@
 #include "view/tiles.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -232,6 +234,25 @@ TEST_F(GridLookTest, NumbersFrom100OnKeepAGapBetweenThem) {
             EXPECT_LE(std::abs(qGray(painted.pixel(left.x(), y)) - qGray(ground.rgb())), 40)
                 << "column " << column << " line " << y;
     }
+}
+
+TEST_F(GridLookTest, TheWholeOfACutTextIsInItsToolTip) {
+    grid.SetText(3, 1, "a name that is far too long for any column of names");
+    grid.SetText(3, 2, "12345.678");
+    grid.SetColumnWidth(2, 700); // too narrow by a little
+    Show();
+    const auto tipAt = [this](int row, int column) {
+        QToolTip::hideText(); // which takes a while
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 2000));
+        const QPoint place = widget.CellRect(row, column).center();
+        QHelpEvent help(QEvent::ToolTip, place, widget.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(widget.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    EXPECT_EQ(tipAt(3, 1), "a name that is far too long for any column of names");
+    EXPECT_TRUE(tipAt(3, 2).isEmpty()) << "narrow, and whole";
+    EXPECT_TRUE(tipAt(4, 1).isEmpty());
+    QToolTip::hideText();
 }
 
 TEST_F(GridLookTest, TheTextOfASheetFollowsTheFontOfTheApplicationAndItsCellsGrow) {

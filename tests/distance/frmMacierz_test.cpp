@@ -51,8 +51,8 @@ TEST_F(frmMacierzTest, AReadMatrixIsShownLikeAMadeOne) {
     EXPECT_EQ(window.Siatka.Text(0, 3), "2");
     EXPECT_EQ(window.Siatka.Text(2, 1), "n2");
     EXPECT_EQ(window.Siatka.Text(2, 2), "12.346");
-    EXPECT_EQ(window.Siatka.ColumnWidth(1), 3 * Grid::DefaultColumnWidth);
-    EXPECT_EQ(window.Siatka.ColumnWidth(2), 2208); // 8 characters
+    EXPECT_EQ(window.Siatka.ColumnWidth(1), 3 * frmMacierz::BaseColumnWidth);
+    EXPECT_EQ(window.Siatka.ColumnWidth(2), 1196); // 8 characters
 }
 
 TEST_F(frmMacierzTest, ReadsItsCellsWithTheSeparatorOfTheProcess) {
@@ -85,34 +85,32 @@ TEST_F(frmMacierzTest, OpensWithTheFirstNameAsItsCurrentCell) {
 }
 
 TEST_F(frmMacierzTest, TheLengthOfTheHighestDistanceSetsTheWidthOfItsColumns) {
-    EXPECT_EQ(ColumnWidthFor("0"), 1248); // 1.3 x 960
-    EXPECT_EQ(ColumnWidthFor("12.5"), 1248);
-    EXPECT_EQ(ColumnWidthFor("123.5"), 1440);
-    EXPECT_EQ(ColumnWidthFor("1234.5"), 1680);
-    EXPECT_EQ(ColumnWidthFor("1234.56"), 1920);
-    EXPECT_EQ(ColumnWidthFor("1234.567"), 2208);
-    EXPECT_EQ(ColumnWidthFor("0.1234567"), 2400);
-    EXPECT_EQ(ColumnWidthFor("0.00123456"), 2640);   // 10
-    EXPECT_EQ(ColumnWidthFor("1.234567E-05"), 2640); // 12
+    EXPECT_EQ(ColumnWidthFor("0"), 676); // 1.3 x 520
+    EXPECT_EQ(ColumnWidthFor("12.5"), 676);
+    EXPECT_EQ(ColumnWidthFor("123.5"), 780);
+    EXPECT_EQ(ColumnWidthFor("1234.5"), 910);
+    EXPECT_EQ(ColumnWidthFor("1234.56"), 1040);
+    EXPECT_EQ(ColumnWidthFor("1234.567"), 1196);
+    EXPECT_EQ(ColumnWidthFor("0.1234567"), 1300);
+    EXPECT_EQ(ColumnWidthFor("0.00123456"), 1430);   // 10
+    EXPECT_EQ(ColumnWidthFor("1.234567E-05"), 1430); // 12
 }
 
 TEST_F(frmMacierzTest, AllColumnsOfDistancesHaveThatWidthAndTheNamesThreeTimesTheDefault) {
     auto& window = Make({{"0"}, {"1234.567"}, {"1"}});
-    EXPECT_EQ(window.Siatka.ColumnWidth(0), Grid::DefaultColumnWidth);
-    EXPECT_EQ(window.Siatka.ColumnWidth(1), 2880);
-    for (int column = 2; column <= 4; ++column) EXPECT_EQ(window.Siatka.ColumnWidth(column), 2208);
+    EXPECT_EQ(window.Siatka.ColumnWidth(0), frmMacierz::BaseColumnWidth);
+    EXPECT_EQ(window.Siatka.ColumnWidth(1), 1560);
+    for (int column = 2; column <= 4; ++column) EXPECT_EQ(window.Siatka.ColumnWidth(column), 1196);
 }
 
-TEST_F(frmMacierzTest, NumbersBelowZeroLeaveTheHighestAtZero) {
-    EXPECT_EQ(ColumnWidthFor("-1234.567"), 1248);
-}
+TEST_F(frmMacierzTest, NumbersBelowZeroLeaveTheHighestAtZero) { EXPECT_EQ(ColumnWidthFor("-1234.567"), 676); }
 
 TEST_F(frmMacierzTest, PresentingAgainStartsFromTheDefaultWidth) {
     auto& window = Open(3, "12.5");
     window.Document().Size = 2;
     window.Present("");
-    EXPECT_EQ(window.Siatka.ColumnWidth(1), 2880);
-    EXPECT_EQ(window.Siatka.ColumnWidth(2), 1248);
+    EXPECT_EQ(window.Siatka.ColumnWidth(1), 1560);
+    EXPECT_EQ(window.Siatka.ColumnWidth(2), 676);
     EXPECT_EQ(window.Siatka.Columns(), 4);
 }
 

@@ -216,7 +216,7 @@ EXPECT_EQ(matrix().Document().Cells.Cells(), (Texts{"0", "3", "0", "0"}));
 }
 
 TEST_F(ImportingMatrix, ColumnsGrowWithTheLongestText) {
-    const int base = Grid::DefaultColumnWidth;
+    const int base = frmMacierz::BaseColumnWidth;
     EXPECT_EQ(widthFor("0"), base);
     EXPECT_EQ(widthFor("123.4"), base);                                  // 5 characters
     EXPECT_EQ(widthFor("1234.5"), RoundToInt32(base * 1.3));             // 6

@@ -4,6 +4,7 @@
 #include "numbers/text.h"
 #include "program_session.h"
 #include "sheet/frmNotePad.h"
+#include "support/disk_limits.h"
 #include "view/frmDiagram.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@
 #include <filesystem>
 #include <functional>
 #include <sys/stat.h>
+#include <utility>
 
 namespace dorvan::test {
 namespace {
@@ -64,6 +66,16 @@ protected:
         return files;
     }
     void Look(double seconds) { run->journal.Look(made.session, seconds); }
+    void Offer() { OfferLeftDocuments(made.session, run->folder, run->journal); }
+
+    // What waits for the background, on a disk without room.
+    void WorkOnAFullDisk() {
+        const FileSizeLimit limit(10);
+        for (const auto& piece : std::exchange(run->waiting, {})) try {
+                piece();
+            } catch (const std::exception&) { // as its thread does
+            }
+    }
 
     // The process ends without a word; the next one starts with an empty session.
     void KillAndStartAgain() {
@@ -205,7 +217,7 @@ TEST_F(JournalTest, TheDocumentClosedLastOpensFirstAndAsItWas) {
     second.Grid1.SetText(1, 2, "9.000"); // by keys alone: no question on closing
     CloseChild(made.session, second);
 
-    ReopenClosedDocument(made.session, run->folder);
+    ReopenClosedDocument(made.session, run->folder, run->journal);
     const auto& again = ActiveDataWindow(made.session);
     EXPECT_EQ(again.Grid1.Text(1, 2), "9.000");
     EXPECT_EQ(again.FilePath, folder / "Towns.mdt");
@@ -214,12 +226,12 @@ TEST_F(JournalTest, TheDocumentClosedLastOpensFirstAndAsItWas) {
     SaveData(made.session); // goes to its file
     EXPECT_THAT(fileBytes(folder / "Towns.mdt"), HasSubstr("9.000;2.000"));
 
-    ReopenClosedDocument(made.session, run->folder);
+    ReopenClosedDocument(made.session, run->folder, run->journal);
     EXPECT_EQ(ActiveDataWindow(made.session).OpisText.Text, "first");
     EXPECT_EQ(made.session.ActiveWindow->Caption, "[DATA]: Untitled:2");
     EXPECT_THAT(Kept("closed"), IsEmpty());
     EXPECT_EQ(made.signals.beeps, 0);
-    ReopenClosedDocument(made.session, run->folder);
+    ReopenClosedDocument(made.session, run->folder, run->journal);
     EXPECT_EQ(made.signals.beeps, 1);
     EXPECT_THAT(made.messages.shown, IsEmpty());
 }
@@ -233,8 +245,7 @@ TEST_F(JournalTest, WhatAKilledRunLeftIsOfferedAndOpened) {
     Look(10);
     KillAndStartAgain();
     made.messages.answers = {Answer::Yes};
-    EXPECT_TRUE(OfferLeftDocuments(made.session, run->folder));
-    run->journal.TakeOver(made.session);
+    Offer();
     ASSERT_EQ(made.messages.shown.size(), 1u);
     EXPECT_EQ(made.messages.shown[0].Text, "Dorvan ended before these documents were saved:\r\n  " +
                                                folder / "Towns.mdt" +
@@ -254,19 +265,19 @@ TEST_F(JournalTest, WhatIsNotWantedIsAmongTheClosedDocuments) {
     Look(10);
     KillAndStartAgain();
     made.messages.answers = {Answer::No};
-    EXPECT_FALSE(OfferLeftDocuments(made.session, run->folder));
+    Offer();
     EXPECT_THAT(Kept(), IsEmpty());
     EXPECT_EQ(Kept("closed").size(), 1u);
     EXPECT_THAT(made.session.Children, IsEmpty());
-    EXPECT_FALSE(OfferLeftDocuments(made.session, run->folder)); // no question any more
+    Offer(); // no question any more
 }
 
 TEST_F(JournalTest, ARunThatIsAliveKeepsItsOwn) {
     NewSheet();
     Look(10);
-    JournalFolder other(State());
-    EXPECT_THAT(other.LeftByOtherRuns(), IsEmpty());
-    EXPECT_FALSE(OfferLeftDocuments(made.session, other));
+    JournalOfARun other(State());
+    EXPECT_THAT(other.folder.LeftByOtherRuns(), IsEmpty());
+    OfferLeftDocuments(made.session, other.folder, other.journal);
     EXPECT_EQ(Kept().size(), 1u);
 }
 
@@ -278,7 +289,7 @@ TEST_F(JournalTest, ACleanEndLeavesNothingButWhatWasNotSaved) {
     EXPECT_TRUE(fs::is_empty(State() + "/journal"));
     EXPECT_EQ(Kept("closed").size(), 1u);
     KillAndStartAgain();
-    EXPECT_FALSE(OfferLeftDocuments(made.session, run->folder));
+    Offer();
     EXPECT_THAT(made.messages.shown, IsEmpty());
 }
 
@@ -289,16 +300,91 @@ TEST_F(JournalTest, TheCodePageOfTheRunComesWithTheDocument) {
     KillAndStartAgain();
     made.session.codePage = CodePage(1252);
     made.messages.answers = {Answer::Yes};
-    EXPECT_TRUE(OfferLeftDocuments(made.session, run->folder));
+    Offer();
     EXPECT_EQ(ActiveDataWindow(made.session).OpisText.Text, "Świa");
     EXPECT_EQ(made.session.codePage.Number(), 1252);
 }
 
-TEST_F(JournalTest, ADiskThatFailsIsTheWorksOwnFailure) {
+TEST_F(JournalTest, ADiskThatFailsIsTheWorksOwnFailureAndTriedAgainInAWhile) {
     NewSheet();
+    run->atOnce = false;
     fs::create_directories(folder / "state");
     writeFile(State(), "a file in the way");
-    EXPECT_THROW(Look(10), std::exception); // out of the background work, which here is done at once
+    Look(10);
+    ASSERT_EQ(run->waiting.size(), 1u);
+    EXPECT_THROW(run->waiting[0](), std::exception);
+    fs::remove(State());
+    run->atOnce = true;
+    Look(20);
+    EXPECT_EQ(Kept().size(), 1u) << "nothing has changed but the disk";
+    const int pieces = run->pieces;
+    Look(40);
+    EXPECT_EQ(run->pieces, pieces);
+}
+
+TEST_F(JournalTest, AfterAFailureTheDiskIsNotTriedAtEveryLook) {
+    NewSheet();
+    run->atOnce = false;
+    fs::create_directories(folder / "state");
+    writeFile(State(), "a file in the way");
+    for (int second = 10; second < 20; ++second) {
+        Look(second);
+        for (const auto& piece : run->waiting) EXPECT_THROW(piece(), std::exception);
+        run->waiting.clear();
+    }
+    EXPECT_EQ(run->pieces, 2); // the first, and one more
+}
+
+// A window whose document the memory does not hold once more; here its record is missing.
+TEST_F(JournalTest, OneDocumentThatCannotBeCopiedCostsTheOthersNothing) {
+    NewSheet();
+    made.forms.scripts = {[](Form& form) { form.Hide(); }};
+    made.session.DialogOutcome = 1;
+    made.session.CurrentDistType = 3;
+    made.session.commands.Call("MakeMatrix");
+    ASSERT_EQ(made.session.Children.size(), 2u);
+    made.session.MatrixDocuments.clear();
+    NewSheet();
+    EXPECT_THROW(Look(10), std::exception);
+    EXPECT_EQ(Kept().size(), 2u);
+    run->journal.EndCleanly(made.session);
+    EXPECT_EQ(Kept().size(), 2u) << "what could not be kept as closed stays for the next start";
+    made.session.MatrixDocuments.resize(made.session.MatrixWindows.size());
+}
+
+TEST_F(JournalTest, WhatWasLeftStaysUntilThisRunKeepsIt) {
+    NewSheet();
+    Look(10);
+    KillAndStartAgain();
+    run->atOnce = false;
+    made.messages.answers = {Answer::Yes};
+    Offer();
+    WorkOnAFullDisk();
+    EXPECT_EQ(run->folder.LeftByOtherRuns().size(), 1u);
+}
+
+TEST_F(JournalTest, AReopenedDocumentIsKeptBeforeItLeavesTheClosedOnes) {
+    CloseChild(made.session, NewSheet());
+    run->atOnce = false;
+    ReopenClosedDocument(made.session, run->folder, run->journal);
+    WorkOnAFullDisk();
+    EXPECT_EQ(Kept("closed").size(), 1u);
+    KillAndStartAgain();
+    ReopenClosedDocument(made.session, run->folder, run->journal); // no look by the clock
+    EXPECT_EQ(Kept().size(), 1u);
+    EXPECT_THAT(Kept("closed"), IsEmpty());
+}
+
+TEST_F(JournalTest, APathThatIsNoLineIsLeftOut) {
+    auto& sheet = NewSheet();
+    sheet.Caption = "[DATA]: " + folder / "two\nlines.mdt";
+    sheet.FilePath = folder / "two\nlines.mdt";
+    CloseChild(made.session, sheet);
+    const auto closed = run->folder.LastClosed();
+    ASSERT_TRUE(closed);
+    EXPECT_EQ(closed->Path, "");
+    EXPECT_EQ(closed->Caption, "[DATA]: " + folder / "two lines.mdt");
+    EXPECT_EQ(closed->CodePageNumber, made.session.codePage.Number());
 }
 
 } // namespace

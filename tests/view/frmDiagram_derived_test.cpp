@@ -108,12 +108,12 @@ TEST_F(DerivedDocuments, ColumnsAreAsWideAsTheLongestTextAsks) {
         window.Matrix();
         return matrix().Siatka.ColumnWidth(2);
     };
-    EXPECT_EQ(widthFor(1.5f, 12.5f), 1248);    // 4 characters: 1.3 of the default
-    EXPECT_EQ(widthFor(1.5f, 12.25f), 1440);   // 5: 1.5
-    EXPECT_EQ(widthFor(900, 0.125f), 1440);    // not the highest value but the longest text
-    EXPECT_EQ(widthFor(1, 0.3333333f), 2400);  // 9: 2.5
-    EXPECT_EQ(widthFor(1, -0.3333333f), 2640); // 10: 2.75
-    EXPECT_EQ(widthFor(1, 2), 1248);
+    EXPECT_EQ(widthFor(1.5f, 12.5f), 676);     // 4 characters: 1.3 of the default
+    EXPECT_EQ(widthFor(1.5f, 12.25f), 780);    // 5: 1.5
+    EXPECT_EQ(widthFor(900, 0.125f), 780);     // not the highest value but the longest text
+    EXPECT_EQ(widthFor(1, 0.3333333f), 1300);  // 9: 2.5
+    EXPECT_EQ(widthFor(1, -0.3333333f), 1430); // 10: 2.75
+    EXPECT_EQ(widthFor(1, 2), 676);
 }
 
 TEST_F(DerivedDocuments, BothBeepWhileADiagramIsBeingMade) {
