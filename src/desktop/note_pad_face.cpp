@@ -77,7 +77,7 @@ void AddEditPanel(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLay
                   .keyDown = [&window](int& keyCode) { window.EditCell_KeyDown(keyCode); },
                   .lostFocus = [&window] { window.EditCell_LostFocus(); }});
     row->addWidget(editPanel);
-    row->addStretch();
+    row->addStretch(1);
 }
 
 void LayOut(ChildFace& face, frmNotePad& window, const ChildContext& context) {

@@ -20,13 +20,14 @@ constexpr int LineWidth = 3;       // pixels
 } // namespace
 
 RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
-    : QObject(&grid), grid_(grid), dispatch_(dispatch), drop_(std::move(drop)), line_(grid.viewport()) {
+    : QObject(&grid), grid_(grid), dispatch_(dispatch), drop_(std::move(drop)),
+      line_(new QFrame(grid.viewport())) {
     grid.installEventFilter(this);
     grid.viewport()->installEventFilter(this);
-    line_.setObjectName("RowTarget");
-    line_.setAttribute(Qt::WA_TransparentForMouseEvents);
-    line_.setAutoFillBackground(true);
-    line_.hide();
+    line_->setObjectName("RowTarget");
+    line_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line_->setAutoFillBackground(true);
+    line_->hide();
     scrolling_.setInterval(ScrollInterval);
     connect(&scrolling_, &QTimer::timeout, this, [this] {
         auto* bar = grid_.verticalScrollBar();
@@ -39,12 +40,12 @@ RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
 void RowDragging::ShowLine() {
     QPalette palette = grid_.palette();
     palette.setColor(QPalette::Window, palette.color(QPalette::Highlight));
-    line_.setPalette(palette);
+    line_->setPalette(palette);
     const QRect row = grid_.CellRect(to_, DocumentGrid::NumberColumn);
-    line_.setVisible(!row.isEmpty() && to_ != from_);
+    line_->setVisible(!row.isEmpty() && to_ != from_);
     const int edge = to_ > from_ ? row.bottom() + 1 : row.top();
-    line_.setGeometry(0, edge - LineWidth / 2, grid_.viewport()->width(), LineWidth);
-    line_.raise();
+    line_->setGeometry(0, edge - LineWidth / 2, grid_.viewport()->width(), LineWidth);
+    line_->raise();
 }
 
 void RowDragging::DragTo(QPoint place) {
@@ -65,7 +66,7 @@ void RowDragging::DragTo(QPoint place) {
 void RowDragging::End() {
     if (std::exchange(dragging_, false)) grid_.viewport()->unsetCursor();
     from_ = -1;
-    line_.hide();
+    line_->hide();
     scrolling_.stop();
 }
 

@@ -30,7 +30,7 @@ private:
     GridWidget& grid_;
     EventDispatch& dispatch_;
     Drop drop_;
-    QFrame line_;
+    QFrame* line_;     // a child of the viewport
     QTimer scrolling_; // while the mouse is above or below
     QPoint place_;
     int from_ = -1; // the row that was pressed
