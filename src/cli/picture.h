@@ -1,12 +1,10 @@
 #pragma once
 
-#include "platform/drawing_ports.h"
-#include "session/documents.h"
+#include "export/diagram_pictures.h"
 
 #include <string>
-#include <string_view>
 
-// The picture of a diagram, for a file.
+// The picture of a diagram, as the command line names it.
 namespace dorvan::cli {
 
 struct PictureChoices {
@@ -15,13 +13,7 @@ struct PictureChoices {
     double scale = 1;             // of the screen's size
 };
 
-// ".svg", ".pdf" or ".png", in any case of letters.
-bool IsPictureName(const std::string& path);
-
 Drawing PictureOf(const DiagramDocument& diagram, const PictureChoices& choices, TextMeasure& measure,
                   char decimalSeparator);
-
-// The bytes of the format that the path asks for. Needs the toolkit started.
-std::string PictureBytes(const Drawing& drawing, const std::string& path, double scale);
 
 } // namespace dorvan::cli

@@ -1,5 +1,6 @@
 #include "cli/picture.h"
 #include "cli/run.h"
+#include "painting/picture_files.h"
 #include "view/frmDiagram.h"
 
 #include <memory>
@@ -23,7 +24,7 @@ int Draw(const Given& given) {
         const Drawing drawing =
             PictureOf(document, given.choices, run.ports.drawing, run.session.DecimalSeparator);
         run.ports.drawing.StartToolkit();
-        WriteOutput(given.out, PictureBytes(drawing, given.out, given.choices.scale));
+        WriteOutput(given.out, painting::PictureBytes(drawing, given.out, given.choices.scale));
     });
 }
 

@@ -78,6 +78,13 @@ void LayOut(ChildFace& face, frmBMP& window, const ChildContext& context) {
     binder.Also([corner, &window] { corner->setGeometry(PlaceOf(window.Picture1Area)); });
     binder.Button(new QPushButton(face.widget()), window.Command4, {});
     new WheelToBars(picture, sidewards, upright);
+    picture->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(picture, &QWidget::customContextMenuRequested, picture,
+                     [picture, context](QPoint place) {
+                         context.dispatch.Run([&] {
+                             context.popUp(std::string(DocumentKind::Bitmap), picture->mapToGlobal(place));
+                         });
+                     });
     window.SetFocus(window.VScroll1);
 }
 

@@ -1,11 +1,13 @@
 #include "desktop/child_face.h"
 
 #include "desktop/column_borders.h"
+#include "desktop/grid_hover.h"
 #include "desktop/grid_marking.h"
 #include "desktop/grid_typing.h"
 #include "desktop/icons.h"
 #include "desktop/qt_text.h"
 #include "platform/twips.h"
+#include "program/status_line.h"
 #include "session/busy.h"
 #include "session/children.h"
 
@@ -41,6 +43,18 @@ GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
     bindings_->Also([shown = grid_] { shown->Mirror(); });
     // A computation reads the sheet by way of its current cell; what the user looks at stays in view then.
     grid_->follows = [this] { return session_.ActiveWindow == window_ && !IsBusy(session_); };
+    // The window behind it goes before its face does.
+    grid_->words = [this](int row, int column) {
+        return window_ ? ToQt(CellWords(session_, *window_, row, column)) : QString();
+    };
+    new GridHover(*grid_, grid_->words, [this](int row, int column) {
+        dispatch_.Run([&] {
+            if (row >= 0 && window_)
+                PointAt(session_, *window_, row, column);
+            else
+                PointAway(session_);
+        });
+    });
     return *grid_;
 }
 

@@ -1,9 +1,13 @@
 #include "desktop/desktop.h"
 
+#include "desktop/file_drops.h"
 #include "desktop/icons.h"
 #include "desktop/journal_keeper.h"
 #include "desktop/qt_cell_clipboard.h"
 #include "desktop/qt_text.h"
+#include "desktop/workspace_hint.h"
+#include "export/diagram_pictures.h"
+#include "painting/picture_files.h"
 #include "program/open_document.h"
 #include "program/program.h"
 #include "session/cell_copying.h"
@@ -21,12 +25,15 @@ namespace dorvan {
 Desktop::Desktop(const std::string& programFolder) {
     Compose(session);
     session.Of<CellPorts>().clipboard = &session.Of<QtCellClipboard>();
+    session.Of<PictureWriter>().Bytes = painting::PictureBytes;
     shell.Form_Load(static_cast<std::uint64_t>(ports.clock.seconds()), programFolder);
     mainWindow = std::make_unique<MainWindowFace>(session, shell, dispatch);
     ports.children.Attach(
         {session, dispatch,
          [this](const std::string& menu, QPoint global) { mainWindow->PopUp(menu, global); }},
         mainWindow->Area());
+    new FileDrops(*mainWindow, session, dispatch);
+    new WorkspaceHint(mainWindow->Area(), session, shell, dispatch, programFolder + "/USArrests.mdt");
 }
 
 void Desktop::Show() {

@@ -35,6 +35,9 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
     new RowDragging(grid, context.dispatch, [&session = context.session, &window](int from, int to) {
         DragRow(session, window, from, to);
     });
+    grid.events.rightButton = [popUp = context.popUp](QPoint global) {
+        popUp(std::string(DocumentKind::Diagram), global);
+    };
     grid.events.doubleClick = [&window] { window.Siatka_DblClick(); };
 }
 

@@ -36,6 +36,8 @@ public:
         return {widget_->viewport()->mapToGlobal(cell.topLeft()), cell.size()};
     }
     QString text(QAccessible::Text kind) const override {
+        if (isValid() && kind == QAccessible::Description && widget_->words)
+            return widget_->words(row_, column_);
         return isValid() && (kind == QAccessible::Name || kind == QAccessible::Value)
                    ? widget_->CellReading(row_, column_)
                    : QString();

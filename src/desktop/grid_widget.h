@@ -41,6 +41,9 @@ public:
 
     GridEvents events;
 
+    // What is told of a cell beside its reading; empty: nothing.
+    std::function<QString(int row, int column)> words;
+
     // Whether a new current cell is scrolled into view. Always, if not set.
     std::function<bool()> follows;
 

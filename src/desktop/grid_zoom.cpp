@@ -33,7 +33,8 @@ bool GridZoom::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::KeyPress && watched == &grid_) {
         const auto& key = static_cast<QKeyEvent&>(*event);
-        if (key.key() != Qt::Key_Equal || !(key.modifiers() & Qt::ControlModifier)) return false;
+        const bool plus = key.key() == Qt::Key_Equal || key.key() == Qt::Key_Plus; // without or with Shift
+        if (!plus || !(key.modifiers() & Qt::ControlModifier)) return false;
         dispatch_.Run(events_.in);
         return true;
     }

@@ -1,6 +1,8 @@
 #include "desktop/journal_keeper.h"
 
 #include "desktop/event_dispatch.h"
+#include "session/registry.h"
+#include "session/status_bar.h"
 
 #include <QTimer>
 
@@ -39,8 +41,10 @@ JournalKeeper::JournalKeeper(Session& session, EventDispatch& dispatch, const st
     };
     session_.commands.Set("ReopenClosedDocument", [this](const CommandCall&) { Reopen(); });
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this,
-            [this] { Try([this] { journal_.Look(session_, SteadySeconds()); }); });
+    connect(timer, &QTimer::timeout, this, [this] {
+        Try([this] { journal_.Look(session_, SteadySeconds()); });
+        TellUnsaved();
+    });
     timer->start(MillisecondsBetweenTicks);
 }
 
@@ -52,6 +56,18 @@ JournalKeeper::~JournalKeeper() {
     }
     changed_.notify_all();
     thread_.join();
+}
+
+// Of the active document, in the status bar.
+void JournalKeeper::TellUnsaved() {
+    const ChildWindow* window = session_.ActiveWindow;
+    const bool unsaved = window && journal_.IsUnsaved(*window);
+    std::string words;
+    if (unsaved) words = IsUntitled(window->Caption) ? "Not saved in a file" : "Not held by its file";
+    std::string& shown = session_.forms.Load<StatusBar>(session_).Unsaved.Caption;
+    if (shown == words) return;
+    shown = words;
+    dispatch_.Mirror();
 }
 
 void JournalKeeper::Add(std::function<void()> piece) {

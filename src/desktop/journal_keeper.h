@@ -32,6 +32,7 @@ private:
     void Work();
     void WaitForAll();
     void Reopen();
+    void TellUnsaved();
 
     Session& session_;
     EventDispatch& dispatch_;

@@ -1,8 +1,12 @@
 #include "desktop/main_window_face.h"
 
 #include "desktop/icons.h"
+#include "desktop/legend_widget.h"
 #include "desktop/qt_text.h"
+#include "program/status_line.h"
+#include "session/busy.h"
 #include "session/menus.h"
+#include "session/popup_menus.h"
 #include "session/status_bar.h"
 
 #include <QAction>
@@ -120,12 +124,43 @@ void MainWindowFace::BuildToolbars() {
 }
 
 void MainWindowFace::BuildStatusBar() {
-    status_ = new QLabel(statusBar());
-    status_->setObjectName("StatusText");
-    status_->setAccessibleName("Status");
-    status_->setTextFormat(Qt::PlainText);
+    const auto label = [this](const char* name, const char* spoken) {
+        auto* made = new QLabel(statusBar());
+        made->setObjectName(name);
+        made->setAccessibleName(spoken);
+        made->setTextFormat(Qt::PlainText);
+        made->setMinimumWidth(1); // a narrow window cuts it
+        return made;
+    };
+    status_ = label("StatusText", "Status");
+    cell_ = label("StatusCell", "Cell");
+    legend_ = new LegendWidget(statusBar());
+    window_ = label("StatusWindow", "Window");
+    unsaved_ = label("StatusUnsaved", "Unsaved");
     statusBar()->setObjectName("StatusBar");
     statusBar()->addWidget(status_, 1);
+    statusBar()->addWidget(cell_, 1);
+    statusBar()->addPermanentWidget(legend_);
+    statusBar()->addPermanentWidget(window_);
+    statusBar()->addPermanentWidget(unsaved_);
+}
+
+void MainWindowFace::MirrorStatusBar() {
+    RefreshStatusBar(session_);
+    const auto& bar = session_.forms.Load<StatusBar>(session_);
+    const auto show = [](QLabel* label, const std::string& caption) {
+        if (const QString text = ToQt(caption); label->text() != text) label->setText(text);
+    };
+    show(status_, bar.Text.Caption);
+    show(cell_, bar.Cell.Caption);
+    show(window_, bar.Window.Caption);
+    show(unsaved_, bar.Unsaved.Caption);
+    cell_->setVisible(bar.Text.Caption.empty());
+    status_->setVisible(!bar.Text.Caption.empty());
+    window_->setVisible(!bar.Window.Caption.empty());
+    unsaved_->setVisible(!bar.Unsaved.Caption.empty());
+    const ChildWindow* active = session_.ActiveWindow;
+    legend_->Show(active ? LegendOf(session_, *active) : std::vector<LegendEntry>());
 }
 
 void MainWindowFace::MirrorToolbars() {
@@ -163,12 +198,24 @@ void MainWindowFace::Mirror() {
         if (action->isCheckable()) action->setChecked(session_.mainWindow.MenuChecked(name));
     }
     MirrorToolbars();
-    if (const QString text = ToQt(StatusText(session_)); status_->text() != text) status_->setText(text);
+    MirrorStatusBar();
 }
 
+// The name of a menu, or the kind of a window with a menu of its own.
 void MainWindowFace::PopUp(const std::string& menu, QPoint global) {
     for (const auto& [name, entry] : menus_)
         if (name == menu) entry->popup(global);
+    const auto wanted = PopUpItems(menu);
+    if (wanted.empty() || IsBusy(session_)) return;
+    auto* made = new QMenu(this);
+    made->setObjectName("PopUp");
+    made->setAttribute(Qt::WA_DeleteOnClose);
+    for (const auto item : wanted) {
+        if (item == "-") made->addSeparator();
+        for (const auto& [name, action] : items_)
+            if (name == item) made->addAction(action);
+    }
+    made->popup(global);
 }
 
 void MainWindowFace::closeEvent(QCloseEvent* event) {

@@ -17,6 +17,7 @@ class QToolBar;
 
 namespace dorvan {
 
+class LegendWidget;
 struct MenuItem;
 
 // The main window on the screen: menus and toolbars from their tables, the area of the child windows.
@@ -46,7 +47,13 @@ private:
     frmMDI& shell_;
     EventDispatch& dispatch_;
     QMdiArea* area_;
-    QLabel* status_ = nullptr;
+    void MirrorStatusBar();
+
+    QLabel* status_ = nullptr; // the outcome of a command
+    QLabel* cell_ = nullptr;   // in its place where there is none
+    LegendWidget* legend_ = nullptr;
+    QLabel* window_ = nullptr;
+    QLabel* unsaved_ = nullptr;
     std::vector<std::pair<std::string, QAction*>> items_;
     std::vector<std::pair<std::string, QMenu*>> menus_;
 

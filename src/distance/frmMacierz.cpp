@@ -97,9 +97,7 @@ void frmMacierz::FillGrid(const FloatTable& distances) {
 void frmMacierz::BottomText_Change() { session_.MatrixStates.at(std::size_t(Index)).Dirty = true; }
 
 // The key takes effect all the same.
-void frmMacierz::BottomText_KeyPress(int&) {
-    if (IsBusy(session_)) session_.platform.signals.beep();
-}
+void frmMacierz::BottomText_KeyPress(int&) { RefusedWhileBusy(session_); }
 
 void frmMacierz::Form_Activate() {
     TypeOfForm = DocumentKind::Matrix;

@@ -25,15 +25,16 @@ using BestOrderWatch = std::function<bool(const BestOrderProgress&)>;
 //
 // Where an order without anti-Robinson events exists, the result is one, and minimal. Otherwise several
 // starts (the order given, the spectral order, groups, a walk, random orders) each descend by exchanges and
-// have a few kicks (a stretch reversed, rotated, shuffled, or its ends exchanged, then descended again); the
-// best goes on so, until a count of kicks that only n decides brought no gain. The result has no exchange and
-// no insertion that gains. It is the order given unless a better one was found, and of its two directions the
-// one with record 1 in the first half; with record 1 in the very middle, record 2.
+// have a few kicks (a stretch reversed, rotated, shuffled, its ends exchanged, or a few records taken to the
+// other end, then descended again); the four best go on so, first each by itself, then from the best of them,
+// until a count of kicks that only n decides brought no gain. The result has no exchange and no insertion
+// that gains. It is the order given unless a better one was found, and of its two directions the one with
+// record 1 in the first half; with record 1 in the very middle, record 2.
 //
 // The same table, seed and answers of the watch give the same result on any number of threads (0: as many as
-// the machine has). O(n) to O(n^2) a kick; about 10 ms for 150 records, 80 ms for 250, with
-// one thread. Fails with DivisionByZero where 1 + distance is 0 or no number, with Overflow above 32767
-// records, and with SubscriptOutOfRange for a table that is not square.
+// the machine has). O(n) to O(n^2) a kick; about 15 ms for 150 records, 110 ms for 250, with one thread.
+// Fails with DivisionByZero where 1 + distance is 0 or no number, with Overflow above 32767 records, and with
+// SubscriptOutOfRange for a table that is not square.
 //
 // Sources: Barnard, Pothen and Simon 1995 (2-SUM and the spectral order); Hahsler, Hornik and Buchta, Getting
 // things in order, 2008 (criteria of seriation); Burkard's formulation as a quadratic assignment problem;

@@ -15,16 +15,23 @@ namespace dorvan {
 namespace {
 
 constexpr int StartsOfRound = 8; // from round to round the watch is asked
-constexpr int KicksOfStart = 30;
-constexpr int Chains = 4;        // that go on side by side from the best start
+constexpr int KicksOfStart = 16;
+constexpr int Chains = 4;        // that go on side by side: at first the best starts, each by itself
 constexpr int FirstChain = 1000; // its number, behind those of the starts
 constexpr int KicksOfRound = 16;
+constexpr int CrossingsOfHundred = 12; // kicks
+constexpr int LeastToCross = 4;        // records
+constexpr int MostToCross = 8;
 constexpr int KicksToRefresh = 64;
 
 int StartsFor(int n) { return std::clamp(n / 18, 8, 16); }
 
+// The best starts go on so long before the one that stands best then draws the others to it. Tables of few
+// strong groups have good orders that no kick leads from one to the other.
+int KicksApartFor(int n) { return std::max(48, n * n / 450); }
+
 // So many kicks in a row without gain end the search. Small tables can afford more, and large ones need more.
-int PatienceFor(int n) { return std::clamp(60000 / n, std::min(n * n / 64, 4 * n), 2000 + 4 * n); }
+int PatienceFor(int n) { return std::clamp(36000 / n, std::min(n * n / 90, 4 * n), 2000 + 4 * n); }
 
 // Progress and Cancel: told between pieces of work that are the same on any number of threads, so that the
 // same answers lead to the same order.
@@ -98,12 +105,37 @@ private:
         return std::clamp(static_cast<int>(length), 2, n);
     }
 
+    // 1 to `most`, each doubling as likely as the next.
+    int DrawFew(int most) {
+        const double few = std::pow(double(most + 1), double(random_.Draw()));
+        return std::clamp(static_cast<int>(few), 1, most);
+    }
+
     void Kick() {
         const int n = attractions_.Count();
+        if (n >= LeastToCross && Draw(1, 100) <= CrossingsOfHundred) return CrossTheMiddle();
         const int length = DrawLength(n);
         const int first = Draw(0, n - length);
         stretch_.assign(now_.Order().begin() + first, now_.Order().begin() + first + length);
         Change(Draw(1, 100));
+        now_.Put(first, stretch_);
+    }
+
+    // A few records near one end go to the mirrored places near the other: those that are near to none stand
+    // there, at which end is all one to the records between, and no other kick takes them across.
+    void CrossTheMiddle() {
+        const int first = DrawFew(attractions_.Count() / 2 - 1) - 1;
+        stretch_.assign(now_.Order().begin() + first, now_.Order().end() - first);
+        const int few = std::min(DrawFew(MostToCross), static_cast<int>(stretch_.size()) - 1);
+        const auto begin = stretch_.begin();
+        const auto end = stretch_.end();
+        if (Draw(0, 1) == 0) {
+            std::rotate(begin, begin + few, end);
+            std::reverse(end - few, end);
+        } else {
+            std::rotate(begin, end - few, end);
+            std::reverse(begin, begin + few);
+        }
         now_.Put(first, stretch_);
     }
 
@@ -114,15 +146,24 @@ private:
         if (draw <= 30) {
             std::reverse(begin, end);
         } else if (draw <= 60) {
-            std::rotate(begin, begin + Draw(1, length - 1), end);
-        } else if (draw <= 90) { // begin, middle, end become end, middle, begin
-            const auto [a, b] = std::minmax({Draw(1, length - 1), Draw(1, length - 1)});
-            std::rotate(begin, begin + b, end);
-            std::rotate(begin + (length - b), begin + (length - b) + a, end);
+            const int few = DrawFew(length - 1);
+            std::rotate(begin, Draw(0, 1) == 0 ? begin + few : end - few, end);
+        } else if (draw <= 90) {
+            ExchangeEnds();
         } else {
             for (int k = length - 1; k > 0; --k)
                 std::swap(stretch_[std::size_t(k)], stretch_[std::size_t(Draw(0, k))]);
         }
+    }
+
+    // begin, middle, end become end, middle, begin
+    void ExchangeEnds() {
+        const int length = static_cast<int>(stretch_.size());
+        const int a = DrawFew(length / 2);
+        const int b = DrawFew(length - a);
+        const auto begin = stretch_.begin();
+        std::rotate(begin, stretch_.end() - b, stretch_.end());
+        std::rotate(begin + b, begin + b + a, stretch_.end());
     }
 
     const Attractions& attractions_;
@@ -175,8 +216,18 @@ private:
         std::vector<std::unique_ptr<Climber>> climbers;
         while (static_cast<int>(climbers.size()) < starts && watch_.GoesOn())
             StartSome(climbers, std::min(StartsOfRound, starts - static_cast<int>(climbers.size())));
-        for (int kicks = 0; kicks < KicksOfStart && watch_.GoesOn(); kicks += KicksOfRound)
-            ClimbAll(climbers, std::min(KicksOfRound, KicksOfStart - kicks));
+        ClimbAll(climbers, KicksOfStart);
+        std::stable_sort(climbers.begin(), climbers.end(), [](const auto& one, const auto& other) {
+            return one->Kept().Half() < other->Kept().Half();
+        });
+        climbers.resize(std::min(climbers.size(), std::size_t(Chains)));
+        ClimbAll(climbers, KicksApartFor(attractions_.Count()));
+    }
+
+    // So many kicks each, unless the watch ends them.
+    void ClimbAll(const std::vector<std::unique_ptr<Climber>>& climbers, int kicks) {
+        for (int done = 0; done < kicks && watch_.GoesOn(); done += KicksOfRound)
+            ClimbRound(climbers, std::min(KicksOfRound, kicks - done));
         for (const auto& climber : climbers) TakeIfBetter(*climber);
     }
 
@@ -191,7 +242,7 @@ private:
         });
     }
 
-    void ClimbAll(const std::vector<std::unique_ptr<Climber>>& climbers, int kicks) {
+    void ClimbRound(const std::vector<std::unique_ptr<Climber>>& climbers, int kicks) {
         WorkSideBySide(static_cast<int>(climbers.size()), threads_,
                        [&](int number) { climbers[std::size_t(number)]->Climb(kicks); });
     }
@@ -208,7 +259,7 @@ private:
             watch_.Share = double(lost) / patience;
             for (const auto& chain : chains_)
                 if (!Equal(chain->Kept())) chain->GoOnFrom(best_);
-            ClimbAll(chains_, KicksOfRound);
+            ClimbRound(chains_, KicksOfRound);
             bool gained = false;
             for (const auto& chain : chains_) gained = TakeIfBetter(*chain) || gained;
             lost = gained ? 0 : lost + Chains * KicksOfRound;

@@ -1,5 +1,6 @@
 #include "painting/picture_files.h"
 
+#include "numbers/text.h"
 #include "painting/page_player.h"
 #include "painting/raster_player.h"
 
@@ -7,9 +8,6 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
-
-#include <cmath>
 
 namespace dorvan::painting {
 
@@ -28,21 +26,6 @@ void PlayPicture(const Drawing& drawing, double scale, QPainter& painter) {
 }
 
 } // namespace
-
-std::string SvgOf(const Drawing& drawing, double scale) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setResolution(TwipsPerInch);
-    const QSizeF size(drawing.Width * scale, drawing.Height * scale);
-    generator.setSize(QSize(int(std::ceil(size.width())), int(std::ceil(size.height()))));
-    generator.setViewBox(QRectF(QPointF(0, 0), size));
-    QPainter painter(&generator);
-    painter.fillRect(QRectF(QPointF(0, 0), size), Qt::white);
-    PlayPicture(drawing, scale, painter);
-    return bytes.toStdString();
-}
 
 std::string PdfOf(const Drawing& drawing, double scale) {
     QByteArray bytes;
@@ -66,6 +49,13 @@ std::string PngOf(const Drawing& drawing, double scale) {
     buffer.open(QIODevice::WriteOnly);
     ImageOf(drawing, scale).save(&buffer, "PNG");
     return bytes.toStdString();
+}
+
+std::string PictureBytes(const Drawing& drawing, const std::string& path, double scale) {
+    const std::string extension = LowerCase(RightCharacters(path, 4));
+    if (extension == ".svg") return SvgOf(drawing, scale);
+    if (extension == ".pdf") return PdfOf(drawing, scale);
+    return PngOf(drawing, scale);
 }
 
 } // namespace dorvan::painting

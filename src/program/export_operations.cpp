@@ -1,5 +1,6 @@
 #include "distance/frmMacierz.h"
 #include "export/excel_export.h"
+#include "export/picture_commands.h"
 #include "export/text_export.h"
 #include "program/registering.h"
 #include "view/frmBMP.h"
@@ -15,6 +16,8 @@ void RegisterExportOperations(Session& session) {
     Register(session, "frmDiagram.ExportDiagramToExcel", DiagramWindow, &frmDiagram::ExportDiagramToExcel);
     Register(session, "frmBMP.SaveBMP", BitmapWindow, &frmBMP::SaveBMP);
     Register(session, "frmDiagram.Metafile", DiagramWindow, &frmDiagram::Metafile);
+    Register(session, "frmDiagram.SavePicture", SavePicture);
+    Register(session, "frmDiagram.CopyPicture", CopyPicture);
 }
 
 } // namespace dorvan

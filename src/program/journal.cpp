@@ -4,6 +4,7 @@
 #include "numbers/text.h"
 #include "program/open_document.h"
 #include "session/registry.h"
+#include "session/status_bar.h"
 #include "sheet/frmNotePad.h"
 #include "view/frmDiagram.h"
 
@@ -102,17 +103,22 @@ void Journal::LookAt(const Session& session, const std::shared_ptr<ChildWindow>&
     Seen& seen = seen_[window.get()];
     if (seen.Window.lock() != window) {
         if (seen.Number != 0) InBackground([this, number = seen.Number] { folder_.Forget(number); });
-        seen = {window, ++last_, {}};
+        seen = {window, ++last_, {}, std::make_shared<std::atomic<bool>>(false)};
     }
     std::string state = StateOf(*window);
     if (state == seen.State) return;
     auto document = SnapshotOf(session, *window);
     if (!document) return;
     seen.State = std::move(state);
-    InBackground(
-        [this, number = seen.Number, copy = std::make_shared<DocumentSnapshot>(std::move(*document))] {
-            folder_.Keep(number, *copy);
-        });
+    InBackground([this, number = seen.Number, unsaved = seen.Unsaved,
+                  copy = std::make_shared<DocumentSnapshot>(std::move(*document))] {
+        *unsaved = folder_.Keep(number, *copy);
+    });
+}
+
+bool Journal::IsUnsaved(const ChildWindow& window) const {
+    const auto found = seen_.find(&window);
+    return found != seen_.end() && *found->second.Unsaved;
 }
 
 void Journal::ForgetClosed(const Session& session) {
@@ -197,8 +203,7 @@ void OfferLeftDocuments(Session& session, const JournalFolder& folder, Journal& 
 void ReopenClosedDocument(Session& session, const JournalFolder& folder, Journal& journal) {
     const auto document = folder.LastClosed();
     if (!document) {
-        session.platform.signals.beep();
-        return;
+        return BeepBecause(session, "No document was closed without saving.");
     }
     if (Reopen(session, *document)) journal.TakeOver(session, *document);
 }

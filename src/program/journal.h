@@ -32,6 +32,9 @@ public:
     // are.
     void Look(const Session& session, double seconds);
 
+    // No file holds the document as it stood when it was seen last. False also before that.
+    bool IsUnsaved(const ChildWindow& window) const;
+
     // A document that no file holds is kept when its window closes.
     void DocumentCloses(const Session& session, const ChildWindow& window);
 
@@ -51,6 +54,7 @@ private:
         std::weak_ptr<const ChildWindow> Window;
         std::uint64_t Number = 0;
         std::string State;
+        std::shared_ptr<std::atomic<bool>> Unsaved; // told by the other thread
     };
 
     void LookAt(const Session& session, const std::shared_ptr<ChildWindow>& window);

@@ -109,18 +109,22 @@ void JournalFolder::MakeThisRun() {
     run_ = run.string();
 }
 
-void JournalFolder::Keep(std::uint64_t number, const DocumentSnapshot& document) {
-    if (IsHeldByFile(document)) return Forget(number);
+bool JournalFolder::Keep(std::uint64_t number, const DocumentSnapshot& document) {
+    if (IsHeldByFile(document)) {
+        Forget(number);
+        return false;
+    }
     const std::string bytes = ComposeReadable(document);
     const std::string origin = ComposeOrigin(document.Path, document.Caption, document.Text.Codes.Number());
     const std::size_t hash = std::hash<std::string>()(bytes + origin);
     Kept& kept = kept_[number];
-    if (!kept.File.empty() && kept.Hash == hash) return;
+    if (!kept.File.empty() && kept.Hash == hash) return true;
     MakeThisRun();
     const fs::path file = fs::path(run_) / fmt::format("{}.{}", number, ExtensionOf(document));
     Put(OriginOf(file), origin);
     Put(file, bytes);
     kept = {file.string(), hash};
+    return true;
 }
 
 void JournalFolder::Forget(std::uint64_t number) {

@@ -37,8 +37,9 @@ public:
     JournalFolder(const JournalFolder&) = delete;
     JournalFolder& operator=(const JournalFolder&) = delete;
 
-    // Brings the copy of an open document up to date; there is none of one that its own file holds.
-    void Keep(std::uint64_t number, const DocumentSnapshot& document);
+    // Brings the copy of an open document up to date; there is none of one that its own file holds. False:
+    // it does.
+    bool Keep(std::uint64_t number, const DocumentSnapshot& document);
     void Forget(std::uint64_t number);
 
     // Keeps a document that closes, unless its own file holds it. The oldest of eleven goes.

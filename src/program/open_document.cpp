@@ -29,6 +29,22 @@ void OpenDocument(Session& session, const std::string& path) {
     UpdateRecentFiles(session, path);
 }
 
+void OpenDocuments(Session& session, const std::vector<std::string>& paths) {
+    if (RefusedWhileBusy(session)) return;
+    std::string others;
+    for (const auto& path : paths)
+        if (KindOfFile(path).empty())
+            others += "\r\n  " + path;
+        else
+            OpenDocument(session, path);
+    if (others.empty()) return;
+    session.platform.messages.show(
+        {.Text = "Only sheets (.mdt), matrices (.mtx) and diagrams (.dgr) open this way; File, Import reads "
+                 "tables of other programs:" +
+                 others,
+         .Icon = MessageIcon::Exclamation});
+}
+
 void ReadDocument(Session& session, const std::string& path) {
     const std::string_view kind = KindOfFile(path);
     if (kind == DocumentKind::Data) ReadDataFile(session, path);

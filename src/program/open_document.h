@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace dorvan {
 
@@ -14,6 +15,10 @@ std::string_view KindOfFile(std::string_view path);
 // diagram. Any other gets the message that a recent file of another kind gets. While a diagram is being made
 // it only beeps.
 void OpenDocument(Session& session, const std::string& path);
+
+// The same for several, such as files dropped on the window. One message names those that are of another
+// kind.
+void OpenDocuments(Session& session, const std::vector<std::string>& paths);
 
 // The reader of the extension alone: no message for another one, no entry among the recent files.
 void ReadDocument(Session& session, const std::string& path);

@@ -16,12 +16,11 @@ void MarkByItsFile(Session& session, const ChildWindow& window) {
 }
 
 void TakeStep(Session& session, bool (History::*can)() const, const std::string& (History::*name)() const,
-              void (History::*take)(ChildWindow&), const char* told) {
+              void (History::*take)(ChildWindow&), const char* told, const char* nothing) {
     if (RefusedWhileBusy(session)) return;
     ChildWindow* window = session.ActiveWindow;
     if (!window || !(HistoryOf(session, *window).*can)()) {
-        session.platform.signals.beep();
-        return;
+        return BeepBecause(session, nothing);
     }
     History& history = HistoryOf(session, *window);
     const std::string step = (history.*name)();
@@ -35,11 +34,13 @@ void TakeStep(Session& session, bool (History::*can)() const, const std::string&
 } // namespace
 
 void Undo(Session& session) {
-    TakeStep(session, &History::CanUndo, &History::UndoName, &History::Undo, "Undone: ");
+    TakeStep(session, &History::CanUndo, &History::UndoName, &History::Undo,
+             "Undone: ", "There is no step to take back.");
 }
 
 void Redo(Session& session) {
-    TakeStep(session, &History::CanRedo, &History::RedoName, &History::Redo, "Redone: ");
+    TakeStep(session, &History::CanRedo, &History::RedoName, &History::Redo,
+             "Redone: ", "There is no step to make again.");
 }
 
 } // namespace dorvan

@@ -1,6 +1,7 @@
 #include "session/children.h"
 
 #include "session/history.h"
+#include "session/open_documents.h"
 #include "session/window_owner.h"
 #include "session/window_switches.h"
 
@@ -23,6 +24,7 @@ void SwitchActive(Session& session, ChildWindow* window) {
     session.ActiveWindow = window;
     if (window) window->Form_Activate();
     ShowHistory(session);
+    ShowDocuments(session);
 }
 
 } // namespace
@@ -62,6 +64,7 @@ bool CloseChild(Session& session, ChildWindow& window) {
     std::erase(session.Children, keepAlive);
     session.platform.children.close(window);
     ForgetHistory(session, window);
+    ShowDocuments(session);
     if (session.Children.empty())
         DisableDocumentCommands(session.mainWindow);
     else if (!session.ActiveWindow)

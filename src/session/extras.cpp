@@ -1,4 +1,7 @@
 #include "session/command_rows.h"
+#include "session/open_documents.h"
+
+#include <array>
 
 // The menu "Extras" holds what this program adds of its own. A row of it is a row like any other:
 //
@@ -12,8 +15,31 @@
 // shortcut, a check mark (MainWindow::CheckMenu), or be a submenu with rows of its own.
 namespace dorvan {
 
+namespace {
+
+// Captioned at run time.
+void AddDocumentItems(std::vector<CommandRow>& rows) {
+    static const auto names = [] {
+        std::array<std::string, DocumentItems> made;
+        for (int number = 1; number <= DocumentItems; ++number)
+            made[std::size_t(number - 1)] = DocumentItem(number);
+        return made;
+    }();
+    rows.push_back(
+        {.Menu = ExtrasMenu, .Item = DocumentsMenu, .Caption = "&Documents", .Kind = RowKind::Menu});
+    for (std::int16_t number = 1; number <= DocumentItems; ++number)
+        rows.push_back({.Menu = DocumentsMenu,
+                        .Item = names[std::size_t(number - 1)],
+                        .Caption = "Document",
+                        .Checkable = true,
+                        .Calls = {.Any = "ActivateDocument"},
+                        .Number = number});
+}
+
+} // namespace
+
 std::vector<CommandRow> ExtrasRows() {
-    return {
+    std::vector<CommandRow> rows = {
         // Steps taken back; their captions go on with the step's name (see session/history.h)
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasUndo",
@@ -54,6 +80,15 @@ std::vector<CommandRow> ExtrasRows() {
          .Caption = "&Fit",
          .Calls = {.Diagram = "frmDiagram.ZoomFit"}},
 
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasSavePicture",
+         .Caption = "Save &Picture...",
+         .Calls = {.Diagram = "frmDiagram.SavePicture"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasCopyPicture",
+         .Caption = "Cop&y Picture...",
+         .Calls = {.Diagram = "frmDiagram.CopyPicture"}},
+
         // Sheets and their cells
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasCopy",
@@ -69,11 +104,13 @@ std::vector<CommandRow> ExtrasRows() {
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "Reopen Closed &Document",
+         .Caption = "R&eopen Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 
     };
+    AddDocumentItems(rows);
+    return rows;
 }
 
 } // namespace dorvan

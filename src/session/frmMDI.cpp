@@ -5,7 +5,9 @@
 #include "session/children.h"
 #include "session/dialog.h"
 #include "session/frmAbout.h"
+#include "session/open_documents.h"
 #include "session/registry.h"
+#include "session/status_bar.h"
 
 #include <fmt/format.h>
 
@@ -97,16 +99,20 @@ bool frmMDI::MenuShown(const std::string& item) const {
 }
 
 void frmMDI::MenuClick(const std::string& item) {
-    if (MenuEnabled(item)) Run(session_.commands.Item(item));
+    if (!MenuEnabled(item)) return;
+    StatusText(session_).clear();
+    Run(session_.commands.Item(item));
 }
 
 void frmMDI::MenuOpens(const std::string& menu) {
+    if (menu == ExtrasMenu) ShowDocuments(session_); // a save has changed a caption
     if (menu == "mnuOptions")
         session_.mainWindow.CheckMenu("mnuOToolbar", session_.mainWindow.ToolbarShown("toolMain"));
 }
 
 void frmMDI::ButtonClick(const std::string& toolbar, const std::string& key) {
     if (!ButtonEnabled(toolbar, key)) return;
+    StatusText(session_).clear();
     if (toolbar == "toolData" && RefusedWhileBusy(session_)) return;
     const auto& row = session_.commands.Button(toolbar, key);
     const std::int16_t slot = session_.ActiveWindow ? session_.ActiveWindow->Index : std::int16_t(0);

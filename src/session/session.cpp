@@ -3,6 +3,7 @@
 #include "numbers/number_text.h"
 #include "session/history.h"
 #include "session/menus.h"
+#include "session/open_documents.h"
 #include "session/recent_files.h"
 #include "session/window_switches.h"
 
@@ -58,6 +59,7 @@ void StartSession(Session& session, std::uint64_t seed, const std::string& progr
     LoadRecentFiles(session);
     DisableDocumentCommands(session.mainWindow);
     ShowHistory(session);
+    ShowDocuments(session);
     session.mainWindow.TypeOfForm = DocumentKind::Main;
 }
 

@@ -149,10 +149,7 @@ void frmNotePad::EditCell_KeyDown(int& keyCode) {
 
 void frmNotePad::EditCell_KeyPress(int& keyAscii) {
     EditCell.MaxLength = EditCol == NameColumn ? LongestName : LongestValue;
-    if (IsBusy(session_)) {
-        session_.platform.signals.beep();
-        return;
-    }
+    if (RefusedWhileBusy(session_)) return;
     if (keyAscii == key::Enter) {
         keyAscii = key::None; // key down has already committed
     } else if (keyAscii == key::Escape) {

@@ -9,6 +9,11 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <exception>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace dorvan {
 
@@ -27,6 +32,27 @@ FloatTable ValuesOf(const frmNotePad& sheet, char decimalSeparator) {
                 StrictFloat(TrimSpaces(sheet.Grid1.Text(record, ValueColumn(variable))), decimalSeparator);
     return values;
 }
+
+// Puts the names of the header back when a failure passes: the sheet is whole when it is rescued.
+class WholeHeader {
+public:
+    explicit WholeHeader(frmNotePad& sheet) : grid_(sheet.Grid1), failures_(std::uncaught_exceptions()) {
+        for (int column = 0; column < grid_.Columns(); ++column)
+            texts_.push_back(grid_.Text(HeaderRow, column));
+    }
+    ~WholeHeader() {
+        if (std::uncaught_exceptions() == failures_) return;
+        for (int column = 0; column < grid_.Columns(); ++column)
+            grid_.SetText(HeaderRow, column, std::move(texts_[std::size_t(column)]));
+    }
+    WholeHeader(const WholeHeader&) = delete;
+    WholeHeader& operator=(const WholeHeader&) = delete;
+
+private:
+    Grid& grid_;
+    int failures_;
+    std::vector<std::string> texts_;
+};
 
 } // namespace
 
@@ -70,6 +96,7 @@ void frmDeleteVar::EmptyOnlyVariable() {
 // The names reach the header before the values are read, of which one may end the run.
 void frmDeleteVar::Delete(std::int32_t variable) {
     frmNotePad& sheet = ActiveDataWindow(session_);
+    const WholeHeader header(sheet);
     auto& names = session_.tables.VariableNames.Cells();
     names.erase(names.begin() + (variable - 1));
     WriteVariableNames(session_);

@@ -115,9 +115,7 @@ void frmNotePad::MarkChanged() { session_.DataStates.at(std::size_t(Index)).Dirt
 void frmNotePad::OpisText_Change() { MarkChanged(); }
 
 // The key takes effect all the same.
-void frmNotePad::OpisText_KeyPress(int&) {
-    if (IsBusy(session_)) session_.platform.signals.beep();
-}
+void frmNotePad::OpisText_KeyPress(int&) { RefusedWhileBusy(session_); }
 
 std::string CellText(float value, char decimalSeparator) {
     if (IsEmptyValue(value)) return {};

@@ -6,6 +6,7 @@
 #include "session/children.h"
 #include "session/document_grid.h"
 #include "session/registry.h"
+#include "session/status_bar.h"
 #include "session/window_switches.h"
 #include "view/tiles.h"
 
@@ -143,7 +144,7 @@ void frmDiagram::Form_Unload() {
 
 void frmDiagram::Form_Resize() { KeepLeastSize({.Height = 2500, .HeightInstead = 4500, .Width = 9480}); }
 
-void frmDiagram::Beep() { session_.platform.signals.beep(); }
+void frmDiagram::Beep(const char* reason) { BeepBecause(session_, reason); }
 
 frmDiagram& DiagramWindow(Session& session, std::int16_t slot) {
     return WindowInSlot<frmDiagram>(session.DiagramWindows, slot);

@@ -120,7 +120,7 @@ private:
     void PaintCell(int row, int record, bool selected);
     void PaintCross(std::int16_t row, bool selected);
 
-    void Beep();
+    void Beep(const char* reason);
     void RepaintInPlace();
     void RefreshActiveWindow();
     void SelectCurrentRow();

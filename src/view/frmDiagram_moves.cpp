@@ -17,6 +17,17 @@
 // Selecting a row and moving it: ordering by hand.
 namespace dorvan {
 
+namespace {
+
+// Why a move only beeps.
+constexpr const char* IsFirst = "The selected record stands first already.";
+constexpr const char* IsLast = "The selected record stands last already.";
+constexpr const char* NoneSelected = "No record is selected: select one by a double click on its row.";
+constexpr const char* NoTarget =
+    "Insert moves the selected record to the row of the current cell: click another row first.";
+
+} // namespace
+
 void frmDiagram::SelectThisRow() {
     if (RefusedWhileBusy(session_)) return;
     if (RowSelected == 0 && Siatka.Row() >= 1) {
@@ -94,19 +105,19 @@ void frmDiagram::Exchange(std::int16_t neighbour, const char* direction) {
 
 void frmDiagram::Down() {
     if (RefusedWhileBusy(session_)) return;
-    if (SelectedRow >= Siatka.Rows() - 1) return Beep();
+    if (SelectedRow >= Siatka.Rows() - 1) return Beep(IsLast);
     Exchange(static_cast<std::int16_t>(SelectedRow + 1), "Down");
 }
 
 void frmDiagram::Up() {
     if (RefusedWhileBusy(session_)) return;
-    if (SelectedRow <= 1) return Beep();
+    if (SelectedRow <= 1) return Beep(RowSelected == 1 ? IsFirst : NoneSelected);
     Exchange(static_cast<std::int16_t>(SelectedRow - 1), "Up");
 }
 
 void frmDiagram::Home() {
     if (RefusedWhileBusy(session_)) return;
-    if (SelectedRow <= 1) return Beep();
+    if (SelectedRow <= 1) return Beep(RowSelected == 1 ? IsFirst : NoneSelected);
     const WaitCursor cursor(session_.platform);
     std::string name = NameOfMove("Home");
     StartOrder();
@@ -121,7 +132,7 @@ void frmDiagram::Home() {
 void frmDiagram::EndRow() {
     if (RefusedWhileBusy(session_)) return;
     const std::int16_t last = Document().RecCount;
-    if (SelectedRow >= last) return Beep();
+    if (SelectedRow >= last) return Beep(IsLast);
     const WaitCursor cursor(session_.platform);
     std::string name = NameOfMove("to the End");
     StartOrder();
@@ -135,7 +146,7 @@ void frmDiagram::EndRow() {
 void frmDiagram::Insert() {
     if (RefusedWhileBusy(session_)) return;
     const auto target = static_cast<std::int16_t>(Siatka.Row());
-    if (target == SelectedRow || target < 1) return Beep();
+    if (target == SelectedRow || target < 1) return Beep(NoTarget);
     const WaitCursor cursor(session_.platform);
     std::string name = NameOfMove(fmt::format("to Place {}", target).c_str());
     StartOrder();

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <thread>
 
 #include <fcntl.h>
@@ -115,6 +116,24 @@ bool BuiltProgram::Runs() const {
     return process_ > 0 &&
            ::waitid(P_PID, static_cast<id_t>(process_), &news, WEXITED | WNOHANG | WNOWAIT) == 0 &&
            news.si_pid == 0;
+}
+
+std::size_t BuiltProgram::PeakOfMemory() const {
+    const auto now = [this] {
+        std::ifstream status("/proc/" + std::to_string(process_) + "/status");
+        for (std::string line; std::getline(status, line);)
+            if (line.starts_with("VmHWM:")) return std::size_t(std::stoull(line.substr(6))) * 1024;
+        return std::size_t(0);
+    };
+    std::size_t peak = 0;
+    for (int looks = 0; looks < 20; ++looks) { // two seconds without growth
+        if (const std::size_t seen = now(); seen > peak) {
+            peak = seen;
+            looks = 0;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    return peak;
 }
 
 int BuiltProgram::Status() {

@@ -2,6 +2,7 @@
 
 #include "support/golden.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,9 @@ public:
 
     void Send(int signal) const;
     bool Runs() const; // it has not ended yet
+
+    // The most memory that it has held so far, in bytes, once that has stopped to grow.
+    std::size_t PeakOfMemory() const;
 
     // Waits for the end, at most a minute. The exit status; 128 + n when the signal n ended it.
     int Status();

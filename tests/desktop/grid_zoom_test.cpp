@@ -80,6 +80,9 @@ TEST_F(GridZoomTest, MenuAndKeysStepAndTheStatusLineTells) {
     EXPECT_EQ(Percent(), 150);
     PressInWindow(Qt::Key_Equal, Qt::ControlModifier); // the key of "+" without Shift
     EXPECT_EQ(Percent(), 200);
+    PressInWindow(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Percent(), 300);
+    PressInWindow(Qt::Key_Minus, Qt::ControlModifier);
     PressInWindow(Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(Percent(), 150);
     PressInWindow(Qt::Key_0, Qt::ControlModifier);
@@ -209,6 +212,30 @@ TEST_F(GridZoomTest, FewerHeadsHaveALabelWhereTheyWouldRunTogetherAndTheCurrentO
     ClickCell(grid, 200, 90);
     Click("mnuExtrasZoomActual");
     EXPECT_TRUE(isLabelled(grid.verticalScrollBar()->value() + 4)) << "each one at 100 percent";
+}
+
+TEST_F(GridZoomTest, NumbersOverSmallColumnsStandApart) {
+    GridWidget& grid = ActiveGrid();
+    Click("mnuExtrasZoomFit");
+    ClickCell(grid, 1, 2); // far from what is looked at
+    const QImage painted = Painted(*grid.viewport());
+    const auto inkAt = [&](double place) { // in columns, from 1
+        const QRect head = grid.CellRect(0, int(place) + 1);
+        const int x = int((head.left() + head.width() * (place - int(place))) * Ratio());
+        int darkest = 255;
+        for (int y = 1; y < int(16 * Ratio()); ++y) darkest = std::min(darkest, qGray(painted.pixel(x, y)));
+        return 255 - darkest;
+    };
+    // The denser screen has room for twice as many.
+    const double half = BoxAt(Percent()) >= 5 ? 2.5 : 5;
+    const int ground = inkAt(140 + half);
+    for (int number = 100; number < 200; number += 10) {
+        int most = 0;
+        for (double place = number - 1.5; place < number + 2; place += 0.25)
+            most = std::max(most, inkAt(place));
+        EXPECT_GT(most, ground + 60) << number;
+        EXPECT_LE(inkAt(number + half), ground + 10) << "between " << number << " and the next one";
+    }
 }
 
 TEST_F(GridZoomTest, TheRoomForTheLabelsStaysAtEveryStep) {

@@ -24,6 +24,12 @@ protected:
         Click("mnuAnalysisDiagram");
     }
 
+    void TypeSize(QDialog& dialog, const char* percent) {
+        auto& field = Find<QLineEdit>(dialog, "Text1");
+        field.selectAll();
+        QTest::keyClicks(&field, percent);
+    }
+
     frmBMP& Bitmap() { return dynamic_cast<frmBMP&>(*desktop.session.ActiveWindow); }
 
     // What the widget shows, at the density of the screen.
@@ -182,6 +188,31 @@ TEST_F(PicturesTest, BitmapIsSavedAndClosesWithoutAQuestion) {
     Face().close();
     QCoreApplication::processEvents();
     EXPECT_EQ(Face().windowTitle(), "[DIAGRAM]: Untitled:1");
+}
+
+TEST_F(PicturesTest, TheMenuSavesAPictureInEachFormat) {
+    for (const auto* name : {"towns.svg", "towns.pdf", "towns.PNG"}) {
+        InDialog([this](QDialog& dialog) {
+            EXPECT_EQ(dialog.objectName(), "frmPicture");
+            TypeSize(dialog, "50");
+            Find<QPushButton>(dialog, "Command1").click();
+        });
+        ChooseFile(Path(name));
+        Click("mnuExtrasSavePicture");
+    }
+    EXPECT_EQ(BytesOf(Path("towns.svg")).substr(0, 5), "<?xml");
+    EXPECT_EQ(BytesOf(Path("towns.pdf")).substr(0, 5), "%PDF-");
+    EXPECT_EQ(QImage(Path("towns.PNG")).size(), QSize(562, 540));
+}
+
+TEST_F(PicturesTest, TheMenuCopiesAPicture) {
+    InDialog([this](QDialog& dialog) {
+        Find<QRadioButton>(dialog, "Option4").click();
+        TypeSize(dialog, "200");
+        Find<QPushButton>(dialog, "Command1").click();
+    });
+    Click("mnuExtrasCopyPicture");
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(674, 402));
 }
 
 } // namespace dorvan::test

@@ -194,10 +194,16 @@ TEST_F(VariableDialogs, OneMissingOrEmptyValueEndsTheRun) {
     for (const char* cell : {"N/A", "", "abc"}) {
         auto& sheet = NamedSheet();
         sheet.Grid1.SetText(2, 4, cell); // of a variable that stays
+        std::vector<std::string> before;
+        for (int column = 0; column < 5; ++column) before.push_back(sheet.Grid1.Text(0, column));
         forms.scripts.push_back([](Form& form) { dynamic_cast<frmDeleteVar&>(form).Command1_Click(); });
         messages.answers = {Answer::Yes};
         EXPECT_FAILURE(Failure::TypeMismatch, DeleteVariable(session));
-        EXPECT_EQ(sheet.VariableCount(), 3) << "the sheet is whole when it is rescued";
+        // The sheet is whole when it is rescued.
+        EXPECT_EQ(sheet.VariableCount(), 3);
+        std::vector<std::string> after;
+        for (int column = 0; column < 5; ++column) after.push_back(sheet.Grid1.Text(0, column));
+        EXPECT_EQ(after, before);
         session.forms.Unload<frmDeleteVar>();
     }
 }

@@ -1,0 +1,147 @@
+#include "desktop_test.h"
+
+#include "desktop/workspace_hint.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMimeData>
+#include <QUrl>
+
+namespace dorvan::test {
+
+class ShellTest : public DesktopTest {
+protected:
+    void Drop(const QStringList& paths) {
+        QMimeData files;
+        QList<QUrl> urls;
+        for (const auto& path : paths) urls << QUrl::fromLocalFile(path);
+        files.setUrls(urls);
+        QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(desktop.mainWindow.get(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(desktop.mainWindow.get(), &drop);
+        EXPECT_TRUE(drop.isAccepted());
+        desktop.dispatch.RunWaiting();
+    }
+    void MakeDiagram() {
+        InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command3").click(); });
+        Click("mnuAnalysisDiagram");
+    }
+    QMenu& PopUpOver(QWidget& widget) {
+        const QPoint place = widget.rect().center();
+        QTest::mouseClick(&widget, Qt::RightButton, Qt::NoModifier, place);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
+        QApplication::sendEvent(&widget, &event);
+        QCoreApplication::processEvents();
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) throw std::runtime_error("no menu has opened");
+        return *menu;
+    }
+    static QStringList Names(const QMenu& menu) {
+        QStringList names;
+        for (const QAction* action : menu.actions())
+            names << (action->isSeparator() ? QString("-") : action->objectName());
+        return names;
+    }
+};
+
+TEST_F(ShellTest, FilesDroppedOnTheWindowOpen) {
+    AnswerNext("OK",
+               "Only sheets (.mdt), matrices (.mtx) and diagrams (.dgr) open this way; File, Import reads "
+               "tables of other programs:\n  /tmp/notes.txt\n  /tmp/a.csv");
+    Drop({Sample("Townships.mdt"), "/tmp/notes.txt", Sample("USArrests.mdt"), "/tmp/a.csv"});
+    EXPECT_EQ(desktop.session.Children.size(), 2u);
+    EXPECT_TRUE(Face().windowTitle().endsWith("usarrests.mdt"));
+}
+
+TEST_F(ShellTest, TextDroppedOnTheWindowIsLeftAlone) {
+    QMimeData text;
+    text.setText("no file");
+    QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(desktop.mainWindow.get(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(ShellTest, TheEmptyWorkspaceSaysWhatCanBeDone) {
+    auto& hint = Find<WorkspaceHint>(*desktop.mainWindow, "WorkspaceHint");
+    EXPECT_TRUE(hint.isVisible());
+    const QRect room = desktop.mainWindow->Area().viewport()->rect();
+    EXPECT_TRUE(room.contains(hint.geometry()));
+    EXPECT_NEAR(hint.geometry().center().x(), room.center().x(), 2);
+    desktop.mainWindow->resize(900, 600);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(hint.geometry().center().x(), desktop.mainWindow->Area().viewport()->rect().center().x(), 2);
+    Find<QPushButton>(hint, "HintSample").click();
+    EXPECT_FALSE(hint.isVisible());
+    EXPECT_TRUE(Face().windowTitle().endsWith("usarrests.mdt"));
+    Click("mnuFileClose");
+    EXPECT_TRUE(hint.isVisible());
+    ChooseFile(Sample("iris.mdt"));
+    Find<QPushButton>(hint, "HintOpen").click();
+    EXPECT_TRUE(Face().windowTitle().endsWith("iris.mdt"));
+    Click("mnuFileClose");
+    InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command1").click(); });
+    Find<QPushButton>(hint, "HintNew").click();
+    EXPECT_EQ(Face().windowTitle(), "[DATA]: Untitled:1");
+}
+
+TEST_F(ShellTest, ADiagramOpensItsMenuAtThePointer) {
+    ChooseFile(Sample("Townships.mdt"));
+    Click("mnuFData");
+    MakeDiagram();
+    QMenu& menu = PopUpOver(*ActiveGrid().viewport());
+    const QStringList names = Names(menu);
+    EXPECT_EQ(names.first(), "mnuEditSelect");
+    EXPECT_EQ(names.last(), "mnuExtrasCopyPicture");
+    EXPECT_EQ(names.count("-"), 4);
+    EXPECT_FALSE(Item("mnuExtrasUndo").isEnabled());
+    const int row = Diagram().Siatka.Row();
+    menu.actions().first()->trigger();
+    menu.close();
+    EXPECT_EQ(Diagram().SelectedRow, row) << "the row under the pointer";
+}
+
+TEST_F(ShellTest, AMatrixAndABitmapOpenTheirMenus) {
+    ChooseFile(Sample("Townships.mdt"));
+    Click("mnuFData");
+    MakeDiagram();
+    Click("mnuEditCreateMatrix");
+    QMenu& ofMatrix = PopUpOver(*ActiveGrid().viewport());
+    EXPECT_EQ(Names(ofMatrix).first(), "mnuAnalysisDiagram");
+    ofMatrix.close();
+    desktop.session.MatrixStates.at(1).Dirty = false;
+    Click("mnuFileClose");
+    Click("mnuExportBitmap");
+    QMenu& ofBitmap = PopUpOver(Find<QWidget>(Face(), "Bmp"));
+    EXPECT_EQ(Names(ofBitmap).first(), "mnuEditCopyClip");
+    ofBitmap.close();
+}
+
+TEST_F(ShellTest, NoMenuOpensWhileADiagramIsMade) {
+    ChooseFile(Sample("Townships.mdt"));
+    Click("mnuFData");
+    MakeDiagram();
+    desktop.session.DiagramBusy = 1;
+    EXPECT_THROW(PopUpOver(*ActiveGrid().viewport()), std::runtime_error);
+    desktop.session.DiagramBusy = 0;
+}
+
+TEST_F(ShellTest, TheListOfDocumentsBringsAWindowToTheFront) {
+    NewSheet(2, 2);
+    NewSheet(3, 3);
+    EXPECT_EQ(Item("mnuExtrasDocument(2)").text(), "&2 [DATA]: Untitled:1");
+    EXPECT_TRUE(Item("mnuExtrasDocument(1)").isChecked());
+    Click("mnuExtrasDocument(2)");
+    EXPECT_EQ(Face().windowTitle(), "[DATA]: Untitled:1");
+    EXPECT_EQ(desktop.mainWindow->Area().activeSubWindow(), &Face());
+    EXPECT_EQ(Item("mnuExtrasDocument(1)").text(), "&1 [DATA]: Untitled:1");
+    EXPECT_FALSE(Item("mnuExtrasDocument(3)").isVisible());
+}
+
+} // namespace dorvan::test
