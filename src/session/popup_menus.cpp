@@ -29,16 +29,9 @@ constexpr std::string_view DiagramItems[] = {"mnuEditSelect",
                                              "mnuExtrasSavePicture",
                                              "mnuExtrasCopyPicture"};
 
-constexpr std::string_view MatrixItems[] = {"mnuExtrasCopy",
-                                            "-",
-                                            "mnuAnalysisDiagram",
-                                            "-",
-                                            "mnuExportText",
-                                            "mnuExportExcel",
-                                            "mnuFilePrint",
-                                            "-",
-                                            "mnuSave",
-                                            "mnuSaveAs"};
+constexpr std::string_view MatrixItems[] = {
+    "mnuAnalysisDiagram", "-", "mnuExtrasCopy", "mnuExportText", "mnuExportExcel",
+    "mnuFilePrint",       "-", "mnuSave",       "mnuSaveAs"};
 
 constexpr std::string_view BitmapItems[] = {"mnuEditCopyClip", "-", "mnuSave", "mnuSaveAs"};
 
