@@ -127,7 +127,7 @@ void MainWindowFace::BuildStatusBar() {
     const auto label = [this](const char* name, const char* spoken) {
         auto* made = new QLabel(statusBar());
         made->setObjectName(name);
-        made->setAccessibleName(spoken);
+        made->setAccessibleDescription(spoken); // its name is what it says
         made->setTextFormat(Qt::PlainText);
         made->setMinimumWidth(1); // a narrow window cuts it
         return made;

@@ -20,7 +20,7 @@ constexpr int Margin = 16; // pixels
 
 WorkspaceHint::WorkspaceHint(QMdiArea& area, Session& session, frmMDI& shell, EventDispatch& dispatch,
                              const std::string& sample)
-    : QWidget(area.viewport()), session_(session), dispatch_(dispatch) {
+    : QWidget(area.parentWidget()), area_(area), session_(session), dispatch_(dispatch) {
     setObjectName("WorkspaceHint");
     setAccessibleName("Start");
     setAutoFillBackground(true); // the workspace is dark
@@ -34,7 +34,7 @@ WorkspaceHint::WorkspaceHint(QMdiArea& area, Session& session, frmMDI& shell, Ev
     AddButton("HintOpen", "Open a file (Ctrl+O)", [&shell] { shell.MenuClick("mnuFData"); });
     if (QFileInfo::exists(ToQt(sample)))
         AddButton("HintSample", "Open a sample", [&session, sample] { OpenDocument(session, sample); });
-    area.viewport()->installEventFilter(this);
+    area.installEventFilter(this);
     dispatch.AddMirror(this, [this] { Mirror(); });
     Mirror();
     Place();
@@ -47,16 +47,19 @@ void WorkspaceHint::AddButton(const char* name, const QString& text, std::functi
     layout()->addWidget(button);
 }
 
-void WorkspaceHint::Mirror() { setVisible(session_.Children.empty()); }
+void WorkspaceHint::Mirror() {
+    setVisible(session_.Children.empty());
+    if (isVisible()) raise();
+}
 
 void WorkspaceHint::Place() {
-    const QSize room = parentWidget()->size();
+    const QRect room = area_.geometry();
     resize(sizeHint());
-    move((room.width() - width()) / 2, (room.height() - height()) / 3);
+    move(room.left() + (room.width() - width()) / 2, room.top() + (room.height() - height()) / 3);
 }
 
 bool WorkspaceHint::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::Resize) Place();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) Place();
     return false;
 }
 

@@ -11,7 +11,8 @@ class QMdiArea;
 
 namespace dorvan {
 
-// What can be done first, in the middle of the workspace for as long as no window is open.
+// What can be done first, in the middle of the workspace for as long as no window is open. It lies over the
+// workspace, not in it, where a screen reader would not find it.
 class WorkspaceHint : public QWidget {
 public:
     // `sample` is a file that the last button opens; without it there is no such button.
@@ -26,6 +27,7 @@ private:
     void Mirror();
     void Place();
 
+    QMdiArea& area_;
     Session& session_;
     EventDispatch& dispatch_;
 };

@@ -71,12 +71,12 @@ TEST_F(ShellTest, TextDroppedOnTheWindowIsLeftAlone) {
 TEST_F(ShellTest, TheEmptyWorkspaceSaysWhatCanBeDone) {
     auto& hint = Find<WorkspaceHint>(*desktop.mainWindow, "WorkspaceHint");
     EXPECT_TRUE(hint.isVisible());
-    const QRect room = desktop.mainWindow->Area().viewport()->rect();
+    const QRect room = desktop.mainWindow->Area().geometry();
     EXPECT_TRUE(room.contains(hint.geometry()));
     EXPECT_NEAR(hint.geometry().center().x(), room.center().x(), 2);
     desktop.mainWindow->resize(900, 600);
     QCoreApplication::processEvents();
-    EXPECT_NEAR(hint.geometry().center().x(), desktop.mainWindow->Area().viewport()->rect().center().x(), 2);
+    EXPECT_NEAR(hint.geometry().center().x(), desktop.mainWindow->Area().geometry().center().x(), 2);
     Find<QPushButton>(hint, "HintSample").click();
     EXPECT_FALSE(hint.isVisible());
     EXPECT_TRUE(Face().windowTitle().endsWith("usarrests.mdt"));

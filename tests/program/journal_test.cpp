@@ -94,6 +94,23 @@ protected:
     std::unique_ptr<JournalOfARun> run = std::make_unique<JournalOfARun>(State());
 };
 
+TEST_F(JournalTest, TellsWhichDocumentsNoFileHolds) {
+    auto& sheet = NewSheet();
+    EXPECT_FALSE(run->journal.IsUnsaved(sheet)) << "not seen yet";
+    Look(0);
+    EXPECT_TRUE(run->journal.IsUnsaved(sheet));
+    made.files.paths.push_back(folder / "sheet.mdt");
+    SaveData(made.session);
+    Look(2);
+    EXPECT_FALSE(run->journal.IsUnsaved(sheet));
+    sheet.Grid1.SetText(1, 2, "9.000");
+    Look(4);
+    EXPECT_TRUE(run->journal.IsUnsaved(sheet));
+    sheet.Grid1.SetText(1, 2, "1.000");
+    Look(6);
+    EXPECT_FALSE(run->journal.IsUnsaved(sheet)) << "as the file has it";
+}
+
 TEST_F(JournalTest, KeepsWhatNoFileHoldsForItsOwnerAlone) {
     NewSheet();
     const mode_t mask = ::umask(0);
