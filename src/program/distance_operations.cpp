@@ -6,7 +6,7 @@ namespace dorvan {
 
 void RegisterDistanceOperations(Session& session) {
     Register(session, "MakeMatrix", MakeMatrix);
-    Register(session, "CopyMatrixCells", CopyMatrixCells);
+    Register(session, "frmMacierz.CopyCells", CopyMatrixCells);
 }
 
 } // namespace dorvan

@@ -22,7 +22,7 @@ void RegisterViewOperations(Session& session) {
     Register(session, "frmDiagram.ZoomOut", DiagramWindow, &frmDiagram::ZoomOut);
     Register(session, "frmDiagram.ZoomActual", DiagramWindow, &frmDiagram::ZoomActual);
     Register(session, "frmDiagram.ZoomFit", DiagramWindow, &frmDiagram::ZoomFit);
-    Register(session, "CopyDiagramCells", CopyDiagramCells);
+    Register(session, "frmDiagram.CopyCells", CopyDiagramCells);
     Register(session, "frmBMP.BitmapClip", BitmapWindow, &frmBMP::BitmapClip);
 }
 

@@ -1,6 +1,6 @@
 #include "session/cell_copying.h"
 
-#include "platform/text_table.h"
+#include "platform/cell_texts.h"
 #include "session/busy.h"
 #include "session/grid_window.h"
 #include "session/status_bar.h"
@@ -15,7 +15,7 @@ void CopyMarkedCells(Session& session, const Grid& grid,
     CellClipboard* clipboard = session.Of<CellPorts>().clipboard;
     const CellRange marked = grid.Marked();
     if (!clipboard || marked.Bottom >= grid.Rows() || marked.Right >= grid.Columns()) return;
-    TextTable table;
+    CellTexts table;
     for (int row = marked.Top; row <= marked.Bottom; ++row) {
         auto& texts = table.emplace_back();
         for (int column = marked.Left; column <= marked.Right; ++column)

@@ -33,14 +33,14 @@ template <class Fields> bool AreNames(const Fields& fields) {
            std::ranges::all_of(fields, [](const std::string& text) { return IsEmpty(text) || IsName(text); });
 }
 
-std::vector<std::string> ColumnOf(const TextTable& block, std::size_t column, std::size_t from) {
+std::vector<std::string> ColumnOf(const CellTexts& block, std::size_t column, std::size_t from) {
     std::vector<std::string> fields;
     for (std::size_t row = from; row < block.size(); ++row) fields.push_back(block[row][column]);
     return fields;
 }
 
 // The names of variables over values: a first line of names with another line below.
-bool HasHeadLine(const TextTable& block, std::size_t firstValue) {
+bool HasHeadLine(const CellTexts& block, std::size_t firstValue) {
     if (block.size() < 2 || firstValue >= block.front().size()) return false;
     const std::vector<std::string> heads(block.front().begin() + std::ptrdiff_t(firstValue),
                                          block.front().end());
@@ -49,7 +49,7 @@ bool HasHeadLine(const TextTable& block, std::size_t firstValue) {
 }
 
 // The names of records before values.
-bool HasNameColumn(const TextTable& block, bool withHeads) {
+bool HasNameColumn(const CellTexts& block, bool withHeads) {
     if (block.front().size() < 2) return false;
     const std::size_t from = withHeads ? 1 : 0;
     return AreNames(ColumnOf(block, 0, from)) && !AreNames(ColumnOf(block, 1, from));
@@ -79,7 +79,7 @@ void PlaceValue(PastedBlock& placed, PlacedText cell, char decimalSeparator) {
 
 } // namespace
 
-PastedBlock PlaceBlock(const TextTable& block, int row, int column, char decimalSeparator) {
+PastedBlock PlaceBlock(const CellTexts& block, int row, int column, char decimalSeparator) {
     PastedBlock placed;
     if (block.empty() || block.front().empty()) return placed;
     const bool headsAbove = row == 1 && HasHeadLine(block, column == NameColumn ? 1 : 0);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/cell_texts.h"
 #include "platform/grid.h"
-#include "platform/text_table.h"
 
 #include <string>
 #include <vector>
@@ -31,6 +31,6 @@ struct PastedBlock {
 // record whose first line holds no number has the names of the variables there; one laid on the first
 // variable whose first column holds none has those of the records: then it covers them too. Of the values,
 // numbers are written with three decimals; all else is "N/A".
-PastedBlock PlaceBlock(const TextTable& block, int row, int column, char decimalSeparator);
+PastedBlock PlaceBlock(const CellTexts& block, int row, int column, char decimalSeparator);
 
 } // namespace dorvan

@@ -93,7 +93,7 @@ void PasteCells(Session& session) {
     CellRange target = sheet.Grid1.Marked();
     if (target.IsOneCell())
         target.Top = std::max(target.Top, 1); // a head counts where it is marked with others
-    const TextTable table = clipboard ? ReadTabbedText(clipboard->text()) : TextTable();
+    const CellTexts table = clipboard ? ReadTabbedText(clipboard->text()) : CellTexts();
     if (table.empty() || sheet.RecordCount() < 1) return session.platform.signals.beep();
     const PastedBlock block =
         PlaceBlock(table, target.Top, std::max(target.Left, NameColumn), session.DecimalSeparator);

@@ -1,4 +1,4 @@
-#include "platform/text_table.h"
+#include "platform/cell_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -14,28 +14,28 @@ TEST(TabbedText, QuotesWhatWouldBreakIt) {
 }
 
 TEST(TabbedText, IsReadBackAsItWas) {
-    const TextTable table = {{"a\tb", "c\r\nd", "5\" long"}, {"", "\"", "x"}, {"", "", ""}};
+    const CellTexts table = {{"a\tb", "c\r\nd", "5\" long"}, {"", "\"", "x"}, {"", "", ""}};
     EXPECT_EQ(ReadTabbedText(TabbedText(table)), table);
 }
 
 TEST(TabbedText, MayEndItsLinesInAnyWay) {
-    const TextTable table = {{"1", "2"}, {"3", "4"}};
+    const CellTexts table = {{"1", "2"}, {"3", "4"}};
     EXPECT_EQ(ReadTabbedText("1\t2\n3\t4\n"), table);
     EXPECT_EQ(ReadTabbedText("1\t2\r\n3\t4\r\n"), table);
     EXPECT_EQ(ReadTabbedText("1\t2\r3\t4"), table);
 }
 
 TEST(TabbedText, FillsShortLinesUp) {
-    EXPECT_EQ(ReadTabbedText("1\t2\t\n\n3"), (TextTable{{"1", "2", ""}, {"", "", ""}, {"3", "", ""}}));
-    EXPECT_EQ(ReadTabbedText(""), TextTable());
-    EXPECT_EQ(ReadTabbedText("\n"), (TextTable{{""}}));
+    EXPECT_EQ(ReadTabbedText("1\t2\t\n\n3"), (CellTexts{{"1", "2", ""}, {"", "", ""}, {"3", "", ""}}));
+    EXPECT_EQ(ReadTabbedText(""), CellTexts());
+    EXPECT_EQ(ReadTabbedText("\n"), (CellTexts{{""}}));
 }
 
 TEST(TabbedText, TakesAQuotationMarkThatQuotesNothingAsItStands) {
-    EXPECT_EQ(ReadTabbedText("\"a\t1\n"), (TextTable{{"\"a", "1"}}));
-    EXPECT_EQ(ReadTabbedText("\"a\"b\t1\n"), (TextTable{{"\"a\"b", "1"}}));
-    EXPECT_EQ(ReadTabbedText("5\"\t1\n"), (TextTable{{"5\"", "1"}}));
-    EXPECT_EQ(ReadTabbedText("\"\"\t\"b\""), (TextTable{{"", "b"}}));
+    EXPECT_EQ(ReadTabbedText("\"a\t1\n"), (CellTexts{{"\"a", "1"}}));
+    EXPECT_EQ(ReadTabbedText("\"a\"b\t1\n"), (CellTexts{{"\"a\"b", "1"}}));
+    EXPECT_EQ(ReadTabbedText("5\"\t1\n"), (CellTexts{{"5\"", "1"}}));
+    EXPECT_EQ(ReadTabbedText("\"\"\t\"b\""), (CellTexts{{"", "b"}}));
 }
 
 TEST(HtmlTable, EscapesItsTexts) {

@@ -1,4 +1,4 @@
-#include "platform/text_table.h"
+#include "platform/cell_texts.h"
 
 #include "numbers/text.h"
 
@@ -46,7 +46,7 @@ std::string Escaped(const std::string& text) {
 
 } // namespace
 
-std::string TabbedText(const TextTable& table) {
+std::string TabbedText(const CellTexts& table) {
     std::string text;
     for (const auto& row : table) {
         for (std::size_t column = 0; column < row.size(); ++column)
@@ -56,8 +56,8 @@ std::string TabbedText(const TextTable& table) {
     return text;
 }
 
-TextTable ReadTabbedText(std::string_view text) {
-    TextTable table;
+CellTexts ReadTabbedText(std::string_view text) {
+    CellTexts table;
     std::size_t place = 0;
     std::size_t columns = 0;
     while (place < text.size()) {
@@ -82,7 +82,7 @@ TextTable ReadTabbedText(std::string_view text) {
     return table;
 }
 
-std::string HtmlTable(const TextTable& table) {
+std::string HtmlTable(const CellTexts& table) {
     std::string html = "<table>\n";
     for (const auto& row : table) {
         html += "<tr>";
