@@ -1,5 +1,6 @@
 #include "desktop/child_face.h"
 
+#include "desktop/column_borders.h"
 #include "desktop/grid_hover.h"
 #include "desktop/grid_marking.h"
 #include "desktop/grid_typing.h"
@@ -37,6 +38,7 @@ GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
     grid_ = new GridWidget(grid, dispatch_, widget());
     new GridTyping(*grid_, dispatch_);
     new GridMarking(*grid_, grid, dispatch_);
+    new ColumnBorders(*grid_, grid, dispatch_);
     bindings_->Plain(grid_, grid, accessibleName);
     bindings_->Also([shown = grid_] { shown->Mirror(); });
     // A computation reads the sheet by way of its current cell; what the user looks at stays in view then.

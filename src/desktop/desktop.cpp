@@ -3,12 +3,14 @@
 #include "desktop/file_drops.h"
 #include "desktop/icons.h"
 #include "desktop/journal_keeper.h"
+#include "desktop/qt_cell_clipboard.h"
 #include "desktop/qt_text.h"
 #include "desktop/workspace_hint.h"
 #include "export/diagram_pictures.h"
 #include "painting/picture_files.h"
 #include "program/open_document.h"
 #include "program/program.h"
+#include "session/cell_copying.h"
 
 #include <QApplication>
 #include <QDir>
@@ -22,6 +24,7 @@ namespace dorvan {
 
 Desktop::Desktop(const std::string& programFolder) {
     Compose(session);
+    session.Of<CellPorts>().clipboard = &session.Of<QtCellClipboard>();
     session.Of<PictureWriter>().Bytes = painting::PictureBytes;
     shell.Form_Load(static_cast<std::uint64_t>(ports.clock.seconds()), programFolder);
     mainWindow = std::make_unique<MainWindowFace>(session, shell, dispatch);

@@ -1,8 +1,10 @@
 #include "desktop/described_grid.h"
 #include "desktop/grid_zoom.h"
+#include "desktop/row_dragging.h"
 #include "desktop/tile_pictures.h"
 #include "platform/twips.h"
 #include "view/frmDiagram.h"
+#include "view/row_drag.h"
 
 namespace dorvan {
 
@@ -30,6 +32,9 @@ void LayOut(ChildFace& face, frmDiagram& window, const ChildContext& context) {
     grid.SetPictures(TilePictures());
     grid.followsRulesSideways = false; // the names stay in sight while rows are moved
     BindZoom(grid, window, context.dispatch);
+    new RowDragging(grid, context.dispatch, [&session = context.session, &window](int from, int to) {
+        DragRow(session, window, from, to);
+    });
     grid.events.rightButton = [popUp = context.popUp](QPoint global) {
         popUp(std::string(DocumentKind::Diagram), global);
     };

@@ -160,6 +160,8 @@ QFont GridWidget::TextFont() const {
     return font;
 }
 
+double GridWidget::TwipsOfPixel(int column) const { return TwipsPerPixel / WidthScale(column); }
+
 double GridWidget::WidthScale(int column) const {
     if (ShowsPictures() && column >= labelColumns_) return Zoom();
     return std::max(1.0, TextScale());

@@ -86,6 +86,10 @@ public:
     // Scrolls no further than it takes to show the cell.
     void ScrollTo(int row, int column);
 
+    // Of the texts, in device pixels; and how many twips of a column's width a pixel shows.
+    QFont TextFont() const;
+    double TwipsOfPixel(int column) const;
+
     // How far a page key moves.
     int PageRows() const;
 
@@ -132,7 +136,6 @@ private:
     double Zoom() const { return zoom ? zoom() / 100 : 1; }
     bool ShowsPictures() const { return bool(pictures_.image); }
     double TextScale() const;
-    QFont TextFont() const;
     double WidthScale(int column) const;
     double HeightScale(int row) const;
     Axis RowAxis() const;

@@ -16,7 +16,9 @@ namespace {
 
 constexpr int DescriptionLines = 2;
 constexpr int EditCellWidth = 150; // pixels
+constexpr int TitleWidth = 320;    // pixels; longer ones are shortened in the middle
 constexpr int Margin = 6;
+constexpr int LeastMargin = 2;
 
 QPlainTextEdit* MakeDescription(QWidget* parent) {
     auto* field = new QPlainTextEdit(parent);
@@ -40,8 +42,24 @@ void AddDescription(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxL
     row->addWidget(description, 1);
 }
 
-// Keeps its room while it is hidden, so that the description does not jump.
+// Which cell it is, over the left end of the table.
+QLabel* AddCellTitle(Bindings& binder, frmNotePad& window, QWidget* panel) {
+    auto* title = new QLabel(panel);
+    title->setObjectName("CellTitle");
+    title->setTextFormat(Qt::PlainText);
+    binder.Also([title, &window] {
+        const QString whole = ToQt(window.CellTitle());
+        if (title->toolTip() == whole) return;
+        title->setToolTip(whole);
+        title->setText(title->fontMetrics().elidedText(whole, Qt::ElideMiddle, TitleWidth));
+    });
+    return title;
+}
+
+// Keeps its room while it is hidden, so that the table does not jump.
 void AddEditPanel(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLayout* row) {
+    auto* title = AddCellTitle(binder, window, panel);
+    row->addWidget(title);
     auto* editPanel = new QWidget(panel);
     auto* edit = new QHBoxLayout(editPanel);
     edit->setContentsMargins(0, 0, 0, 0);
@@ -51,13 +69,15 @@ void AddEditPanel(Bindings& binder, frmNotePad& window, QWidget* panel, QHBoxLay
     binder.Plain(editPanel, window.EditPanel);
     auto* cell = new QLineEdit(editPanel);
     cell->setFixedWidth(EditCellWidth);
-    edit->addWidget(cell, 0, Qt::AlignBottom);
+    title->setBuddy(cell);
+    edit->addWidget(cell);
     binder.Field(cell, window.EditCell, "Cell",
                  {.change = [&window] { window.EditCell_Change(); },
                   .keyPress = [&window](int& keyAscii) { window.EditCell_KeyPress(keyAscii); },
                   .keyDown = [&window](int& keyCode) { window.EditCell_KeyDown(keyCode); },
                   .lostFocus = [&window] { window.EditCell_LostFocus(); }});
     row->addWidget(editPanel);
+    row->addStretch(1);
 }
 
 void LayOut(ChildFace& face, frmNotePad& window, const ChildContext& context) {
@@ -67,11 +87,16 @@ void LayOut(ChildFace& face, frmNotePad& window, const ChildContext& context) {
     column->setSpacing(0);
 
     auto* topPanel = new QWidget(face.widget());
-    auto* top = new QHBoxLayout(topPanel);
-    top->setContentsMargins(Margin, Margin, Margin, Margin);
+    auto* top = new QVBoxLayout(topPanel);
+    top->setContentsMargins(Margin, Margin, Margin, LeastMargin);
+    top->setSpacing(LeastMargin);
     binder.Plain(topPanel, window.TopPanel);
-    AddDescription(binder, window, topPanel, top);
-    AddEditPanel(binder, window, topPanel, top);
+    auto* description = new QHBoxLayout;
+    top->addLayout(description);
+    AddDescription(binder, window, topPanel, description);
+    auto* edit = new QHBoxLayout;
+    top->addLayout(edit);
+    AddEditPanel(binder, window, topPanel, edit);
     column->addWidget(topPanel);
 
     auto& grid = face.ShowGrid(window.Grid1, "Data sheet");

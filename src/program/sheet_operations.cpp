@@ -1,5 +1,6 @@
 #include "program/registering.h"
 #include "sheet/new_data_sheet.h"
+#include "sheet/sheet_clipboard.h"
 #include "sheet/standardization.h"
 #include "sheet/structure_commands.h"
 
@@ -13,6 +14,8 @@ void RegisterSheetOperations(Session& session) {
     Register(session, "EditVariables", EditVariables);
     Register(session, "DeleteVariable", DeleteVariable);
     Register(session, "Standardization", Standardization);
+    Register(session, "CopySheetCells", CopySheetCells);
+    Register(session, "PasteCells", PasteCells);
 }
 
 } // namespace dorvan

@@ -1,4 +1,5 @@
 #include "program/registering.h"
+#include "view/diagram_copying.h"
 #include "view/frmBMP.h"
 #include "view/frmDiagram.h"
 
@@ -21,6 +22,7 @@ void RegisterViewOperations(Session& session) {
     Register(session, "frmDiagram.ZoomOut", DiagramWindow, &frmDiagram::ZoomOut);
     Register(session, "frmDiagram.ZoomActual", DiagramWindow, &frmDiagram::ZoomActual);
     Register(session, "frmDiagram.ZoomFit", DiagramWindow, &frmDiagram::ZoomFit);
+    Register(session, "frmDiagram.CopyCells", CopyDiagramCells);
     Register(session, "frmBMP.BitmapClip", BitmapWindow, &frmBMP::BitmapClip);
 }
 

@@ -90,11 +90,23 @@ std::vector<CommandRow> ExtrasRows() {
          .Calls = {.Diagram = "frmDiagram.CopyPicture"}},
 
         // Sheets and their cells
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasCopy",
+         .Caption = "&Copy",
+         .Shortcut = "Ctrl+C",
+         .Calls = {.Data = "CopySheetCells",
+                   .Matrix = "frmMacierz.CopyCells",
+                   .Diagram = "frmDiagram.CopyCells"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasPaste",
+         .Caption = "Pas&te",
+         .Shortcut = "Ctrl+V",
+         .Calls = {.Data = "PasteCells"}},
 
         // Documents
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasReopen",
-         .Caption = "Reopen &Closed Document",
+         .Caption = "R&eopen Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
 

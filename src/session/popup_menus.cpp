@@ -25,11 +25,13 @@ constexpr std::string_view DiagramItems[] = {"mnuEditSelect",
                                              "mnuEditCreateDataset",
                                              "mnuExportBitmap",
                                              "-",
+                                             "mnuExtrasCopy",
                                              "mnuExtrasSavePicture",
                                              "mnuExtrasCopyPicture"};
 
-constexpr std::string_view MatrixItems[] = {"mnuAnalysisDiagram", "-", "mnuExportText", "mnuExportExcel",
-                                            "mnuFilePrint",       "-", "mnuSave",       "mnuSaveAs"};
+constexpr std::string_view MatrixItems[] = {
+    "mnuAnalysisDiagram", "-", "mnuExtrasCopy", "mnuExportText", "mnuExportExcel",
+    "mnuFilePrint",       "-", "mnuSave",       "mnuSaveAs"};
 
 constexpr std::string_view BitmapItems[] = {"mnuEditCopyClip", "-", "mnuSave", "mnuSaveAs"};
 

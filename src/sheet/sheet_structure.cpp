@@ -27,6 +27,26 @@ void WriteVariableNames(Session& session) {
                      std::string(TrimSpaces(session.tables.VariableNames(variable))));
 }
 
+void AppendRecords(frmNotePad& sheet, int count) {
+    const int before = sheet.RecordCount();
+    DocumentGrid::SetSize(sheet.Grid1, before + count, sheet.VariableCount());
+    for (int record = before + 1; record <= before + count; ++record)
+        sheet.Grid1.SetText(record, NumberColumn, SignedText(record));
+}
+
+void AppendVariables(frmNotePad& sheet, int count) {
+    Grid& grid = sheet.Grid1;
+    const int before = sheet.VariableCount();
+    DocumentGrid::SetSize(grid, sheet.RecordCount(), before + count);
+    for (int variable = before + 1; variable <= before + count; ++variable) {
+        const int column = ValueColumn(variable);
+        grid.SetText(HeaderRow, column, "VAR" + SignedText(variable));
+        grid.SetColumnWidth(column, grid.ColumnWidth(column - 1));
+        grid.SetHeaderAlignment(column, Alignment::Centre);
+        grid.SetColumnAlignment(column, Alignment::Centre);
+    }
+}
+
 void MarkSheetChanged(Session& session) {
     session.DataStates.at(std::size_t(ActiveDataWindow(session).Index)).Dirty = true;
 }

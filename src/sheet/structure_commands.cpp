@@ -33,14 +33,6 @@ template <class Dialog> bool AskForCount(Session& session, int& count) {
     return accepted;
 }
 
-void GiveEmptyColumn(Grid& grid, int variable) {
-    const int column = ValueColumn(variable);
-    grid.SetText(HeaderRow, column, "VAR" + SignedText(variable));
-    grid.SetColumnWidth(column, grid.ColumnWidth(column - 1));
-    grid.SetHeaderAlignment(column, Alignment::Centre);
-    grid.SetColumnAlignment(column, Alignment::Centre);
-}
-
 // "Add Record", "Add 3 Records"
 std::string Counted(const char* verb, int count, const char* what) {
     return count == 1 ? fmt::format("{} {}", verb, what) : fmt::format("{} {} {}s", verb, count, what);
@@ -77,9 +69,7 @@ void AddRecord(Session& session) {
     if (!AskForCount<frmAddRec>(session, count)) return;
     const SheetStep step(session, sheet, Counted("Add", count, "Record"));
     const int before = sheet.RecordCount();
-    DocumentGrid::SetSize(sheet.Grid1, before + count, sheet.VariableCount());
-    for (int record = before + 1; record <= before + count; ++record)
-        sheet.Grid1.SetText(record, NumberColumn, SignedText(record));
+    AppendRecords(sheet, count);
     if (count > 0) sheet.Grid1.SetCurrent(before + count, NumberColumn);
     MarkSheetChanged(session);
 }
@@ -97,9 +87,7 @@ void AddVariable(Session& session) {
     if (!AskForCount<frmAddVar>(session, count)) return;
     const SheetStep step(session, sheet, Counted("Add", count, "Variable"));
     const int before = sheet.VariableCount();
-    DocumentGrid::SetSize(sheet.Grid1, sheet.RecordCount(), before + count);
-    for (int variable = before + 1; variable <= before + count; ++variable)
-        GiveEmptyColumn(sheet.Grid1, variable);
+    AppendVariables(sheet, count);
     if (count > 0) sheet.Grid1.SetCurrent(HeaderRow, ValueColumn(before + count));
     MarkSheetChanged(session);
 }
