@@ -35,12 +35,19 @@ void ShowChild(Session& session, ChildWindow& window) {
     window.Visible = true;
     session.platform.children.show(window);
     ActivateChild(session, window);
+    if (session.ActiveWindow == &window) return;
+    session.platform.children.show(window); // another one came to the front meanwhile
+    ActivateChild(session, window);
 }
 
-// The field that loses the focus may let events run: only then is it told whether the window is still there.
+// The field that loses the focus may let events run: only then is it told whether the window is still there,
+// and whether another one has come to the front, which then stays there.
 void ActivateChild(Session& session, ChildWindow& window) {
     const auto owner = OwnerOf(session, window);
-    if (session.ActiveWindow && session.ActiveWindow != &window) session.ActiveWindow->LeaveField();
+    const auto before = session.ActiveWindow ? OwnerOf(session, *session.ActiveWindow) : nullptr;
+    if (before && before.get() != &window) before->LeaveField();
+    const bool isOpen = before && Place(session, *before) != session.Children.end();
+    if (isOpen && session.ActiveWindow != before.get()) return;
     const auto place = Place(session, window);
     if (place == session.Children.end()) return;
     std::rotate(place, place + 1, session.Children.end());

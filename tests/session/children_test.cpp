@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 namespace dorvan::test {
 namespace {
 
@@ -36,6 +39,40 @@ TEST(ActivateChild, BringsTheWindowToTheFront) {
     ActivateChild(test.session, first);
     CloseChild(test.session, first);
     EXPECT_EQ(test.session.ActiveWindow, &third) << "the window that was active before comes next";
+}
+
+// One whose open field lets events run as it loses the focus.
+class FieldWindow : public FakeWindow {
+public:
+    using FakeWindow::FakeWindow;
+    std::function<void()> onLeave;
+    void LeaveField() override {
+        if (const auto events = std::exchange(onLeave, nullptr)) events();
+    }
+};
+
+TEST(ActivateChild, TheWindowThatCameToTheFrontMeanwhileStaysThere) {
+    FakeWindowSession test;
+    auto& first = test.Open(DocumentKind::Data);
+    auto& second = test.Open(DocumentKind::Data);
+    auto& field = test.Open<FieldWindow>(DocumentKind::Data);
+    field.onLeave = [&] { ActivateChild(test.session, second); };
+    ActivateChild(test.session, first);
+    EXPECT_EQ(test.session.ActiveWindow, &second);
+    EXPECT_EQ(test.session.Children.back().get(), &second);
+}
+
+TEST(ShowChild, TheNewWindowComesToTheFrontWhateverDidMeanwhile) {
+    FakeWindowSession test;
+    auto& first = test.Open(DocumentKind::Data);
+    auto& field = test.Open<FieldWindow>(DocumentKind::Data);
+    field.onLeave = [&] {
+        test.children.show(first);
+        ActivateChild(test.session, first);
+    };
+    auto& opened = test.Open(DocumentKind::Matrix);
+    EXPECT_EQ(test.session.ActiveWindow, &opened);
+    EXPECT_EQ(test.children.log.back(), "show " + opened.Caption) << "on the screen too";
 }
 
 TEST(CloseChild, AsksThenDeactivatesThenUnloadsThenActivatesTheNext) {

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QTest>
+#include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
 
@@ -138,11 +139,14 @@ Action User::WithCommands() {
 Action User::WithKeys() {
     if (Draw(3) == 0) return {"type", {Characters[Draw(int(sizeof Characters) - 1)]}, {}};
     if (Draw(12) == 0) {
-        static constexpr int keys[] = {Qt::Key_S, Qt::Key_M, Qt::Key_D, Qt::Key_N, Qt::Key_O};
-        return Key(keys[Draw(5)], int(Qt::ControlModifier));
+        static constexpr int keys[] = {Qt::Key_S, Qt::Key_M, Qt::Key_D, Qt::Key_N, Qt::Key_O, Qt::Key_Z,
+                                       Qt::Key_Y, Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_A};
+        return Key(keys[Draw(int(std::size(keys)))], int(Qt::ControlModifier));
     }
     if (Draw(25) == 0) return Key(Qt::Key_F, int(Qt::AltModifier));
-    return Key(GridKeys[Draw(int(std::size(GridKeys)))], Draw(8) == 0 ? int(Qt::ControlModifier) : 0);
+    static constexpr Qt::KeyboardModifiers::Int modifiers[] = {
+        Qt::ControlModifier, Qt::ShiftModifier, 0, 0, 0, 0, 0, 0};
+    return Key(GridKeys[Draw(int(std::size(GridKeys)))], int(modifiers[Draw(8)]));
 }
 
 QPoint User::InActiveGrid() {
@@ -160,6 +164,10 @@ Action User::WithMouse() {
         return {Draw(5) == 0 ? "double" : "click", {x, y, 1}, {}};
     }
     const QPoint place = InActiveGrid();
+    if (Draw(6) == 0) {
+        const QPoint end = InActiveGrid();
+        return {"drag", {place.x(), place.y(), end.x(), end.y()}, {}};
+    }
     return {Draw(4) == 0 ? "double" : "click", {place.x(), place.y(), Draw(12) == 0 ? 2 : 1}, {}};
 }
 
@@ -209,6 +217,14 @@ void User::ChooseFile(const std::string& name) {
     }
 }
 
+// The button of a toolbar that is hidden is not.
+bool User::IsInReach(const std::string& item) const {
+    const auto dot = item.find('.');
+    if (dot == std::string::npos) return true;
+    const auto* toolbar = desktop_.mainWindow->findChild<QToolBar*>(ToQt(item.substr(0, dot)));
+    return toolbar && toolbar->isVisible();
+}
+
 void User::Do(const Action& action) {
     const auto& [first, second, third, fourth] = action.numbers;
     QMdiSubWindow* window = Window(first);
@@ -244,7 +260,7 @@ void User::Do(const Action& action) {
     if (QApplication::activeModalWidget()) return;
     if (action.verb == "item") {
         auto* item = desktop_.mainWindow->findChild<QAction*>(ToQt(action.text));
-        if (item && item->isEnabled() && item->isVisible()) item->trigger();
+        if (item && item->isEnabled() && item->isVisible() && IsInReach(action.text)) item->trigger();
     }
     if (action.verb == "open") desktop_.Open(FromQt(files_) + "/" + action.text);
     if (action.verb == "leave") {

@@ -46,6 +46,7 @@ private:
     QPoint InActiveGrid();
     QMdiSubWindow* Window(int number) const;
     QWidget* Attention() const;
+    bool IsInReach(const std::string& item) const;
     void PressKey(int key, int modifiers);
     void Mouse(const Action& action);
     void Answer(const std::string& button);
