@@ -26,7 +26,8 @@ namespace {
 
 constexpr int SmallScreenWidth = 1500; // pixels; up to here the main window takes all there is
 constexpr int ToolIconSize = 22;
-constexpr int RecentFileWidth = 420; // pixels; longer paths are shortened in the middle
+constexpr int LeastStatusWidth = 300; // pixels that the legend leaves to what is told of the cell
+constexpr int RecentFileWidth = 420;  // pixels; longer paths are shortened in the middle
 
 // A line between items has no text: some styles would show it.
 QString TextOf(const std::string& caption) { return caption == "-" ? QString() : ToQt(caption); }
@@ -161,6 +162,9 @@ void MainWindowFace::MirrorStatusBar() {
     unsaved_->setVisible(!bar.Unsaved.Caption.empty());
     const ChildWindow* active = session_.ActiveWindow;
     legend_->Show(active ? LegendOf(session_, *active) : std::vector<LegendEntry>());
+    const int others = window_->sizeHint().width() + unsaved_->sizeHint().width() + LeastStatusWidth;
+    legend_->setVisible(legend_->sizeHint().width() > 0 &&
+                        legend_->sizeHint().width() + others < statusBar()->width());
 }
 
 void MainWindowFace::MirrorToolbars() {

@@ -17,7 +17,7 @@ namespace dorvan {
 std::string CellWords(const Session& session, const ChildWindow& window, int row, int column);
 
 // "Euclidean, dots, UM 0.1234, selected: Georgia" of a diagram; the size of a sheet or matrix. Quick as long
-// as the window does not change.
+// as the order does not change.
 std::string WindowWords(Session& session, const ChildWindow& window);
 
 // The symbols of a diagram's classes from the nearest on, with their distances; empty for other windows.

@@ -83,6 +83,9 @@ TEST_F(StatusBarTest, ANarrowWindowCutsTheTextsAndStaysNarrow) {
     desktop.mainWindow->resize(500, 400);
     QCoreApplication::processEvents();
     EXPECT_EQ(desktop.mainWindow->width(), 500);
+    desktop.dispatch.Mirror();
+    EXPECT_FALSE(Find<LegendWidget>(*desktop.mainWindow, "StatusLegend").isVisible())
+        << "the cell comes first";
 }
 
 } // namespace dorvan::test

@@ -92,6 +92,7 @@ TEST_F(StatusLineTest, ADiagramTellsMeasureTypeCriterionAndSelection) {
 
 TEST_F(StatusLineTest, DistancesWithoutACriterionLeaveItOut) {
     auto& window = NewDiagram();
+    EXPECT_EQ(WindowWords(session, window), "Euclidean, dots, UM 0.4519");
     window.Document().Matrix(1, 2) = window.Document().Matrix(2, 1) = -3;
     EXPECT_EQ(WindowWords(session, window), "Euclidean, dots");
 }
