@@ -11,6 +11,7 @@
 #include "session/busy.h"
 #include "session/children.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 
@@ -32,6 +33,13 @@ ChildFace::ChildFace(Session& session, ChildWindow& window, EventDispatch& dispa
         return session_.ActiveWindow == window_ && mdiArea() && mdiArea()->currentSubWindow() == this;
     });
     dispatch_.AddMirror(this, [this] { Mirror(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && isAncestorOf(now)) dispatch_.Later(this, [this] { SettleFocus(); });
+    });
+}
+
+void ChildFace::SettleFocus() {
+    if (window_) settledFocus_ = window_->ActiveControl;
 }
 
 GridWidget& ChildFace::ShowGrid(Grid& grid, const QString& accessibleName) {
@@ -124,6 +132,7 @@ void ChildFace::Mirror() {
     }
     MirrorBounds();
     bindings_->Mirror();
+    SettleFocus();
 }
 
 void ChildFace::Detach() {
@@ -161,7 +170,19 @@ void ChildFace::moveEvent(QMoveEvent* event) {
 
 void ChildFace::changeEvent(QEvent* event) {
     QMdiSubWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) TellBoundsLater();
+    if (event->type() != QEvent::WindowStateChange) return;
+    TellBoundsLater();
+    KeepFocus();
+}
+
+// The toolkit hides a window on its way to another state, and passes its focus on to any other field.
+void ChildFace::KeepFocus() {
+    if (!window_ || !settledFocus_) return;
+    dispatch_.Later(this, [this, before = settledFocus_] {
+        if (!window_ || session_.ActiveWindow != window_ || window_->ActiveControl == before) return;
+        window_->ActiveControl = before;
+        bindings_->Mirror();
+    });
 }
 
 } // namespace dorvan

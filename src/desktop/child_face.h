@@ -51,6 +51,8 @@ private:
     Bounds WantedBounds() const;
     void TellBounds();
     void TellBoundsLater();
+    void SettleFocus();
+    void KeepFocus();
     void MirrorBounds();
     WindowMode ShownMode() const;
 
@@ -62,8 +64,9 @@ private:
     Bounds told_; // in twips, as the screen last told or showed them
     WindowMode toldMode_ = WindowMode::Normal;
     bool placed_ = false;
-    bool tellsBounds_ = false; // as soon as the toolkit has settled
-    bool resized_ = false;     // since it told them last
+    bool tellsBounds_ = false;              // as soon as the toolkit has settled
+    bool resized_ = false;                  // since it told them last
+    const Control* settledFocus_ = nullptr; // where the toolkit had left it before its present work
 };
 
 } // namespace dorvan

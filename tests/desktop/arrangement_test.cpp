@@ -89,6 +89,32 @@ TEST_F(ArrangementTest, MinimizedWindowsStayWhereTheyAre) {
               TilePlaces(Area().viewport()->size(), 2)[1]);
 }
 
+TEST_F(ArrangementTest, TheFocusStaysWhereItWasWhenAWindowChangesItsState) {
+    NewSheet(3, 2);
+    NewSheet(3, 2);
+    const auto settle = [] {
+        for (int times = 0; times < 3; ++times) QApplication::processEvents();
+    };
+    const auto focus = [this] { return Face().focusWidget() ? Face().focusWidget()->objectName() : QString("none"); };
+    for (QWidget* field : {static_cast<QWidget*>(&ActiveGrid()), &Find(Face(), "OpisText")}) {
+        ClickOn(*field, {5, 5});
+        settle();
+        ASSERT_EQ(focus(), field->objectName());
+        Face().showMaximized();
+        settle();
+        EXPECT_EQ(focus(), field->objectName());
+        Face().showNormal();
+        settle();
+        EXPECT_EQ(focus(), field->objectName());
+        Face().showMaximized();
+        settle();
+        Click("mnuCascade");
+        settle();
+        EXPECT_EQ(focus(), field->objectName());
+        EXPECT_TRUE(field->hasFocus());
+    }
+}
+
 // A maximized window has no title of its own.
 TEST_F(ArrangementTest, TheMainWindowsTitleNamesAMaximizedWindow) {
     NewSheet(3, 2);
