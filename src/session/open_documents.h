@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-// The open documents as items of the menu Extras, in the order in which Ctrl+Tab goes through them: the
-// active one first, then the one that was active before it, and so on.
+// The open documents as items of the menu Extras: the active one first, then the one that was active before
+// it, to which Ctrl+Tab goes, and so on.
 namespace dorvan {
 
 inline constexpr int DocumentItems = 30; // what stands behind them is not listed

@@ -95,7 +95,9 @@ TEST_F(ArrangementTest, TheFocusStaysWhereItWasWhenAWindowChangesItsState) {
     const auto settle = [] {
         for (int times = 0; times < 3; ++times) QApplication::processEvents();
     };
-    const auto focus = [this] { return Face().focusWidget() ? Face().focusWidget()->objectName() : QString("none"); };
+    const auto focus = [this] {
+        return Face().focusWidget() ? Face().focusWidget()->objectName() : QString("none");
+    };
     for (QWidget* field : {static_cast<QWidget*>(&ActiveGrid()), &Find(Face(), "OpisText")}) {
         ClickOn(*field, {5, 5});
         settle();

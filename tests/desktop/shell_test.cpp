@@ -144,4 +144,22 @@ TEST_F(ShellTest, TheListOfDocumentsBringsAWindowToTheFront) {
     EXPECT_FALSE(Item("mnuExtrasDocument(3)").isVisible());
 }
 
+TEST_F(ShellTest, ControlAndTabGoToTheSecondDocumentOfTheList) {
+    for (int sheet = 0; sheet < 4; ++sheet) NewSheet(2, 2);
+    Click("mnuExtrasDocument(3)"); // no longer the order in which they were opened
+    const auto listed = [this] {
+        std::string names;
+        for (int number = 1; number <= 4; ++number)
+            names += Item(QString("mnuExtrasDocument(%1)").arg(number)).text().right(1).toStdString();
+        return names;
+    };
+    EXPECT_EQ(listed(), "2431");
+    for (const char* expected : {"4231", "2431"}) {
+        QTest::keyClick(desktop.mainWindow->windowHandle(), Qt::Key_Tab, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Face().windowTitle().right(1).toStdString(), std::string(expected, 1));
+        EXPECT_EQ(listed(), expected);
+    }
+}
+
 } // namespace dorvan::test
