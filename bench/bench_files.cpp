@@ -1,12 +1,10 @@
 #include "files/data_file.h"
 #include "files/diagram_file.h"
 #include "files/matrix_file.h"
+#include "plain_against_fast.h"
 #include "tests/files/plain_files.h"
 
 #include <benchmark/benchmark.h>
-
-#include <algorithm>
-#include <chrono>
 
 // The three readers and writers at 250 records by 10 variables, from bytes in memory to tables and back,
 // beside the same by string streams in the same run: the counter "ratio" tells how many times the streams
@@ -24,24 +22,7 @@ const test::RandomDocuments& Documents() {
 
 const FileText Text{CodePage(1252), '.', {}};
 
-// Seconds of one run, the least of several.
-template <class Run> double LeastTime(const Run& run) {
-    double least = 1e9;
-    for (int repeat = 0; repeat < 5; ++repeat) {
-        const auto start = std::chrono::steady_clock::now();
-        benchmark::DoNotOptimize(run());
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        least = std::min(least, taken.count());
-    }
-    return least;
-}
-
-template <class Run, class Plain> void Compare(benchmark::State& state, const Run& run, const Plain& plain) {
-    for (auto _ : state) benchmark::DoNotOptimize(run());
-    const double plainTime = LeastTime(plain);
-    state.counters["plain_us"] = plainTime * 1e6;
-    state.counters["ratio"] = plainTime / LeastTime(run);
-}
+using bench::Compare;
 
 void ReadData(benchmark::State& state) {
     const std::string bytes = test::plainDataBytes(Documents().Sheet, "about");

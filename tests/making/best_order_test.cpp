@@ -203,7 +203,7 @@ TEST(BestOrder, TellsWhatItHasFound) {
             return true;
         },
         2);
-    EXPECT_GT(told, 15);
+    EXPECT_EQ(told, 20); // the same on every machine: asked between rounds
     EXPECT_NEAR(plain::TwoSum(distances, plain::FromZero(order)), last, 1e-9 * last);
 }
 
