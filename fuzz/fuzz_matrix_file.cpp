@@ -4,6 +4,6 @@
 #include <cstdint>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    dorvan::fuzz::checkMatrixFile({reinterpret_cast<const char*>(data), size});
+    dorvan::fuzz::checkOneWay<dorvan::fuzz::checkMatrixFile>({reinterpret_cast<const char*>(data), size});
     return 0;
 }

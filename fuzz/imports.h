@@ -8,6 +8,7 @@
 #include "import/text_table.h"
 #include "numbers/number_text.h"
 #include "numbers/text.h"
+#include "ways.h"
 
 #include <fmt/format.h>
 
@@ -75,14 +76,15 @@ inline void checkTableOfForm(std::string_view bytes, const TextTableForm& form, 
                     "a table changes as it is written and read");
 }
 
-inline void checkTextTable(std::string_view bytes) {
+inline void checkTextTable(std::string_view bytes, Ways& ways) {
     for (const char decimalSeparator : DecimalSeparators)
         for (const char separator : {';', '\t'})
             for (const bool rowNames : {false, true})
                 for (const bool columnNames : {false, true})
-                    orFault([&] {
-                        checkTableOfForm(bytes, {separator, rowNames, columnNames}, decimalSeparator);
-                    });
+                    if (ways.Take())
+                        orFault([&] {
+                            checkTableOfForm(bytes, {separator, rowNames, columnNames}, decimalSeparator);
+                        });
 }
 
 inline void checkMatrixOfForm(std::string_view bytes, const TextMatrixForm& form, char decimalSeparator) {
@@ -110,14 +112,15 @@ inline void checkMatrixOfForm(std::string_view bytes, const TextMatrixForm& form
     requireOfImport(again.Distances == matrix.Distances, "a matrix changes as it is written and read");
 }
 
-inline void checkTextMatrix(std::string_view bytes) {
+inline void checkTextMatrix(std::string_view bytes, Ways& ways) {
     for (const char decimalSeparator : DecimalSeparators)
         for (const char separator : {';', '\t'})
             for (const bool columnNames : {false, true})
                 for (const std::int16_t precision : {std::int16_t(0), std::int16_t(3), std::int16_t(200)})
-                    orFault([&] {
-                        checkMatrixOfForm(bytes, {separator, columnNames, precision}, decimalSeparator);
-                    });
+                    if (ways.Take())
+                        orFault([&] {
+                            checkMatrixOfForm(bytes, {separator, columnNames, precision}, decimalSeparator);
+                        });
 }
 
 // The same values as by the names of the fields.
@@ -151,9 +154,9 @@ inline void checkDBaseOfLocale(std::string_view bytes, char decimalSeparator) {
     requirePlainValues(table, bytes, selection, read.Table, decimalSeparator);
 }
 
-inline void checkDBaseTable(std::string_view bytes) {
+inline void checkDBaseTable(std::string_view bytes, Ways& ways) {
     for (const char decimalSeparator : DecimalSeparators)
-        orFault([&] { checkDBaseOfLocale(bytes, decimalSeparator); });
+        if (ways.Take()) orFault([&] { checkDBaseOfLocale(bytes, decimalSeparator); });
 }
 
 } // namespace dorvan::fuzz

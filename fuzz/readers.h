@@ -5,6 +5,7 @@
 #include "files/file_fault.h"
 #include "files/matrix_file.h"
 #include "numbers/number_text.h"
+#include "ways.h"
 
 #include <cstdint>
 #include <optional>
@@ -28,9 +29,9 @@ template <class Rewrite> void requireStable(const std::string& written, const Re
 }
 
 // Does `read` for the two kinds of locale; a FileFault is a good end.
-template <class Read> void forEachLocale(const Read& read) {
+template <class Read> void forEachLocale(Ways& ways, const Read& read) {
     for (const FileText& text : {FileText{CodePage(1252), '.', {}}, FileText{CodePage(1250), ',', {}}}) try {
-            read(text);
+            if (ways.Take()) read(text);
         } catch (const FileFault& fault) {
             require(!fault.Describe("f").empty(), "a fault without a message");
         }
@@ -60,9 +61,9 @@ inline std::string parseSheetWithEmptyCells(std::string_view bytes, const FileTe
     return ParseDataFile(bytes, text, tables, EmptyFields::Taken);
 }
 
-inline void checkDataFile(std::string_view bytes) {
+inline void checkDataFile(std::string_view bytes, Ways& ways) {
     for (const auto parse : {parseSheet, parseSheetWithEmptyCells, ParseOldDataFile})
-        forEachLocale([&](const FileText& text) {
+        forEachLocale(ways, [&](const FileText& text) {
             IsCurrentDataFile(bytes);
             DocumentTables tables;
             const std::string description = parse(bytes, text, tables);
@@ -80,9 +81,9 @@ inline std::string readCurrentMatrix(std::string_view bytes, const FileText& tex
     return reader.Description();
 }
 
-inline void checkMatrixFile(std::string_view bytes) {
+inline void checkMatrixFile(std::string_view bytes, Ways& ways) {
     for (const auto parse : {readCurrentMatrix, ParseOldMatrixFile})
-        forEachLocale([&](const FileText& text) {
+        forEachLocale(ways, [&](const FileText& text) {
             IsCurrentMatrixFile(bytes);
             DistanceMatrix matrix;
             const std::string description = parse(bytes, text, matrix);
@@ -106,9 +107,9 @@ inline DiagramHeader parseOldDiagram(std::string_view bytes, const FileText& tex
     return header;
 }
 
-inline void checkDiagramFile(std::string_view bytes) {
+inline void checkDiagramFile(std::string_view bytes, Ways& ways) {
     for (const auto parse : {ParseDiagramFile, parseOldDiagram})
-        forEachLocale([&](const FileText& text) {
+        forEachLocale(ways, [&](const FileText& text) {
             IsCurrentDiagramFile(bytes);
             DocumentTables tables;
             const DiagramHeader header = parse(bytes, text, tables);

@@ -22,7 +22,7 @@ constexpr int RoomAroundText = 10; // pixels
 } // namespace
 
 ColumnBorders::ColumnBorders(GridWidget& grid, Grid& sized, EventDispatch& dispatch)
-    : QObject(&grid), grid_(grid), sized_(sized), dispatch_(dispatch) {
+    : GridCompanion(grid), grid_(grid), sized_(sized), dispatch_(dispatch) {
     grid.viewport()->installEventFilter(this);
     grid.viewport()->setMouseTracking(true);
 }

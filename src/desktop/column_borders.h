@@ -1,17 +1,13 @@
 #pragma once
 
+#include "desktop/grid_companion.h"
 #include "platform/grid.h"
-
-#include <QObject>
 
 namespace dorvan {
 
-class EventDispatch;
-class GridWidget;
-
 // The border at the right of a column's head, dragged, gives the column another width; double-clicked, that
 // of its widest text. Columns of symbols keep theirs.
-class ColumnBorders : public QObject {
+class ColumnBorders : public GridCompanion {
 public:
     ColumnBorders(GridWidget& grid, Grid& sized, EventDispatch& dispatch);
 

@@ -3,6 +3,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/scrolled_dialog.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QEventLoop>
@@ -12,31 +13,53 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace dorvan {
 
 namespace {
 
-constexpr int PathWidth = 300; // pixels
-constexpr int NoteWidth = 380; // pixels, of a text that wraps
+constexpr int PathWidth = 300;  // pixels
+constexpr int NoteWidth = 380;  // pixels, of a text that wraps
+constexpr int TitleMargin = 24; // pixels, of the frame's edges and around its buttons
+
+// What a frame needs to show the whole title, in a bold font and between a menu's button and that which
+// closes.
+int TitleWidth(const QString& title, const QWidget& window) {
+    QFont font = QApplication::font("QMdiSubWindowTitleBar");
+    font.setBold(true);
+    const int button = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    return QFontMetrics(font).horizontalAdvance(title) + 2 * button + TitleMargin;
+}
 
 } // namespace
 
 FormFace::FormFace(Form& form, EventDispatch& dispatch, QWidget* parent)
     : QDialog(parent), form_(form), dispatch_(dispatch), bindings_(new Bindings(form, dispatch, this)),
-      column_(new QVBoxLayout(this)) {
+      column_(new QVBoxLayout(this)), titleRoom_(new QSpacerItem(0, 0)) {
     setObjectName(ToQt(form.Name));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint); // nothing to minimize or maximize
     column_->setSizeConstraint(QLayout::SetFixedSize);
+    column_->addItem(titleRoom_);
     dispatch_.AddMirror(this, [this] { Mirror(); });
 }
 
 void FormFace::Mirror() {
     if (retired_) return;
-    if (const QString title = ToQt(form_.Caption); windowTitle() != title) setWindowTitle(title);
+    MirrorTitle();
     if (!form_.Visible && isVisible()) hide();
+}
+
+void FormFace::MirrorTitle() {
+    const QString title = ToQt(form_.Caption);
+    if (windowTitle() == title) return;
+    setWindowTitle(title);
+    titleRoom_->changeSize(std::max(titleRoom_->sizeHint().width(), TitleWidth(title, *this)), 0);
+    column_->invalidate();
 }
 
 void FormFace::RunModal() {

@@ -9,6 +9,7 @@
 
 class QFormLayout;
 class QGroupBox;
+class QSpacerItem;
 class QVBoxLayout;
 
 namespace dorvan {
@@ -49,12 +50,14 @@ protected:
 
 private:
     void Mirror();
+    void MirrorTitle();
 
     Form& form_;
     EventDispatch& dispatch_;
     bool retired_ = false;
     Bindings* bindings_;
     QVBoxLayout* column_;
+    QSpacerItem* titleRoom_; // has no height
 };
 
 } // namespace dorvan

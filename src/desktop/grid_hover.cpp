@@ -9,7 +9,7 @@
 namespace dorvan {
 
 GridHover::GridHover(GridWidget& grid, Words words, Pointed pointed)
-    : QObject(&grid), grid_(grid), words_(std::move(words)), pointed_(std::move(pointed)) {
+    : GridCompanion(grid), grid_(grid), words_(std::move(words)), pointed_(std::move(pointed)) {
     grid.viewport()->setMouseTracking(true);
     grid.viewport()->installEventFilter(this);
 }

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <QObject>
+#include "desktop/grid_companion.h"
+
 #include <QPoint>
 
 #include <functional>
 
 namespace dorvan {
 
-class GridWidget;
-
 // Tells of the cell under the pointer, and shows a tool tip for it.
-class GridHover : public QObject {
+class GridHover : public GridCompanion {
 public:
     using Words = std::function<QString(int row, int column)>;
     using Pointed = std::function<void(int row, int column)>; // -1 and -1: none

@@ -22,7 +22,7 @@ int Outside(int place, int room) { return place < 0 ? -1 : place >= room ? 1 : 0
 } // namespace
 
 GridMarking::GridMarking(GridWidget& grid, Grid& marked, EventDispatch& dispatch)
-    : QObject(&grid), grid_(grid), dispatch_(dispatch), marking_(marked) {
+    : GridCompanion(grid), grid_(grid), dispatch_(dispatch), marking_(marked) {
     grid.installEventFilter(this);
     grid.viewport()->installEventFilter(this);
     scrolling_.setInterval(ScrollInterval);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/grid_companion.h"
 #include "platform/cell_marking.h"
 
-#include <QObject>
 #include <QPoint>
 #include <QTimer>
 
@@ -11,11 +11,8 @@ class QMouseEvent;
 
 namespace dorvan {
 
-class EventDispatch;
-class GridWidget;
-
 // Marks cells of a grid by dragging, by Shift and a click, by Shift and the keys that move, and by Ctrl+A.
-class GridMarking : public QObject {
+class GridMarking : public GridCompanion {
 public:
     GridMarking(GridWidget& grid, Grid& marked, EventDispatch& dispatch);
 

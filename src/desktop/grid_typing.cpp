@@ -11,7 +11,7 @@
 namespace dorvan {
 
 GridTyping::GridTyping(GridWidget& grid, EventDispatch& dispatch)
-    : QObject(&grid), grid_(grid), dispatch_(dispatch) {
+    : GridCompanion(grid), grid_(grid), dispatch_(dispatch) {
     grid.installEventFilter(this);
 }
 

@@ -1,18 +1,15 @@
 #pragma once
 
-#include <QObject>
+#include "desktop/grid_companion.h"
 
 class QInputMethodEvent;
 class QInputMethodQueryEvent;
 
 namespace dorvan {
 
-class EventDispatch;
-class GridWidget;
-
 // What a grid's keyboard does beside its plain keys: characters that dead keys or an input method compose go
 // where a typed one would, and the menu key opens the grid's menu below the current cell.
-class GridTyping : public QObject {
+class GridTyping : public GridCompanion {
 public:
     GridTyping(GridWidget& grid, EventDispatch& dispatch);
 

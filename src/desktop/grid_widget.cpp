@@ -2,6 +2,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/grid_accessibility.h"
+#include "desktop/grid_companion.h"
 #include "desktop/grid_marks.h"
 #include "desktop/grid_mosaic.h"
 #include "desktop/qt_text.h"
@@ -129,6 +130,11 @@ GridWidget::GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_InputMethodEnabled); // see GridTyping
+}
+
+GridWidget::~GridWidget() {
+    for (auto* child : QObjectList(children()))
+        if (dynamic_cast<GridCompanion*>(child)) delete child;
 }
 
 void GridWidget::SetPictures(GridPictures pictures) {

@@ -38,6 +38,7 @@ class GridWidget : public QAbstractScrollArea {
 
 public:
     GridWidget(Grid& grid, EventDispatch& dispatch, QWidget* parent = nullptr);
+    ~GridWidget() override;
 
     GridEvents events;
 

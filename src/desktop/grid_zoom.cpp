@@ -16,7 +16,7 @@ constexpr int Notch = 120; // of a wheel, in eighths of a degree; finer wheels t
 } // namespace
 
 GridZoom::GridZoom(GridWidget& grid, EventDispatch& dispatch, ZoomEvents events)
-    : QObject(&grid), grid_(grid), dispatch_(dispatch), events_(std::move(events)) {
+    : GridCompanion(grid), grid_(grid), dispatch_(dispatch), events_(std::move(events)) {
     grid.installEventFilter(this);
     grid.viewport()->installEventFilter(this);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "desktop/event_dispatch.h"
+#include "desktop/grid_companion.h"
 
-#include <QObject>
 #include <QSize>
 
 #include <functional>
@@ -10,8 +10,6 @@
 class QWheelEvent;
 
 namespace dorvan {
-
-class GridWidget;
 
 // What the owner of a grid that can be zoomed does.
 struct ZoomEvents {
@@ -22,7 +20,7 @@ struct ZoomEvents {
 
 // Zooms a grid by the wheel with Ctrl, at the pointer, and by Ctrl with the key of "+" and "=", and tells the
 // room that it has. Lives as long as the grid.
-class GridZoom : public QObject {
+class GridZoom : public GridCompanion {
 public:
     GridZoom(GridWidget& grid, EventDispatch& dispatch, ZoomEvents events);
 

@@ -2,6 +2,7 @@
 
 #include "desktop/arrangement.h"
 #include "desktop/qt_text.h"
+#include "desktop/window_tabs.h"
 #include "painting/raster_player.h"
 #include "platform/twips.h"
 #include "session/children.h"
@@ -220,6 +221,7 @@ void QtChildren::show(ChildWindow& window) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
+        new WindowTabs(*area_, face);
         face->Place();
         face->show();
     }

@@ -20,7 +20,7 @@ constexpr int LineWidth = 3;       // pixels
 } // namespace
 
 RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
-    : QObject(&grid), grid_(grid), dispatch_(dispatch), drop_(std::move(drop)),
+    : GridCompanion(grid), grid_(grid), dispatch_(dispatch), drop_(std::move(drop)),
       line_(new QFrame(grid.viewport())) {
     grid.installEventFilter(this);
     grid.viewport()->installEventFilter(this);

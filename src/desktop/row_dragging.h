@@ -1,19 +1,17 @@
 #pragma once
 
+#include "desktop/grid_companion.h"
+
 #include <QFrame>
-#include <QObject>
 #include <QTimer>
 
 #include <functional>
 
 namespace dorvan {
 
-class EventDispatch;
-class GridWidget;
-
 // A row that is dragged by its number or name to another one. A line shows where it would land; Esc lets it
 // go.
-class RowDragging : public QObject {
+class RowDragging : public GridCompanion {
 public:
     using Drop = std::function<void(int from, int to)>;
 

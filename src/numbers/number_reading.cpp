@@ -60,7 +60,7 @@ bool IsAboveOne(std::string_view number) {
         const auto result = std::from_chars(text.data(), text.data() + text.size(), exponent);
         if (result.ec == std::errc::result_out_of_range) return text[0] != '-';
     }
-    return exponent + static_cast<long long>(point) - static_cast<long long>(first) > 0;
+    return exponent > static_cast<long long>(first) - static_cast<long long>(point); // no sum that overflows
 }
 
 // `number` is of the form that NumberLength accepts, with a point. Rounded once, to the nearest `Float`; 0 or

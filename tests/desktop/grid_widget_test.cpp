@@ -1,3 +1,4 @@
+#include "desktop/grid_companion.h"
 #include "desktop/grid_widget.h"
 #include "desktop/tile_pictures.h"
 #include "platform/keys.h"
@@ -48,7 +49,26 @@ protected:
     GridWidget widget{grid, dispatch};
 };
 
+// Tells whether its grid is still one as it goes.
+class Witness : public GridCompanion {
+public:
+    Witness(GridWidget& grid, bool& sawTheGrid) : GridCompanion(grid), sawTheGrid_(sawTheGrid) {}
+    ~Witness() override { sawTheGrid_ = dynamic_cast<GridWidget*>(parent()) != nullptr; }
+
+private:
+    bool& sawTheGrid_;
+};
+
 } // namespace
+
+TEST_F(GridWidgetTest, WhatWatchesAGridGoesBeforeIt) {
+    bool sawTheGrid = false;
+    {
+        GridWidget other(grid, dispatch);
+        new Witness(other, sawTheGrid);
+    }
+    EXPECT_TRUE(sawTheGrid);
+}
 
 TEST_F(GridWidgetTest, ArrowsStopAtTheFixedCellsAndAtTheEdges) {
     Press(Qt::Key_Up);

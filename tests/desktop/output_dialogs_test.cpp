@@ -88,6 +88,19 @@ TEST_F(OutputDialogsTest, EscEndsTheExportBeforeAFileIsAskedFor) {
     EXPECT_EQ(desktop.session.OutputDialogOutcome, -99);
 }
 
+// A narrow dialog is as wide as its title, with the buttons of its frame.
+TEST_F(OutputDialogsTest, TheWholeTitleHasRoom) {
+    MakeSheet();
+    InDialog([](QDialog& dialog) {
+        QFont font = QApplication::font("QMdiSubWindowTitleBar");
+        font.setBold(true);
+        EXPECT_GT(dialog.width(), QFontMetrics(font).horizontalAdvance(dialog.windowTitle()) + 60);
+        EXPECT_EQ(dialog.size(), dialog.minimumSize());
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    Click("mnuExportText");
+}
+
 TEST_F(OutputDialogsTest, TextThatCannotBeWrittenIsToldForASheet) {
     MakeSheet();
     InDialog([this](QDialog& dialog) { Find<QPushButton>(dialog, "Command2").click(); });

@@ -162,4 +162,40 @@ TEST_F(ShellTest, ControlAndTabGoToTheSecondDocumentOfTheList) {
     }
 }
 
+// Held down, Control takes each Tab one window further; the menu lists them in this order when it starts.
+TEST_F(ShellTest, ControlHeldGoesThroughTheDocumentsAsTheyAreListed) {
+    for (int sheet = 0; sheet < 4; ++sheet) NewSheet(2, 2);
+    Click("mnuExtrasDocument(3)");
+    const auto front = [this] { return Face().windowTitle().right(1).toStdString(); };
+    int pause = QApplication::keyboardInputInterval() + 50; // no quick press
+    const auto send = [](QEvent::Type type, int key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(type, key, modifiers);
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    const auto hold = [&](int tabs, int tab, Qt::KeyboardModifiers modifiers) {
+        send(QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier);
+        QTest::qWait(pause);
+        for (int press = 0; press < tabs; ++press) {
+            send(QEvent::KeyPress, tab, modifiers);
+            send(QEvent::KeyRelease, tab, modifiers);
+        }
+        send(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+    };
+    ASSERT_EQ(front(), "2"); // listed: 2 4 3 1
+    hold(1, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), "4"); // 4 2 3 1
+    hold(2, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), "3"); // 3 4 2 1
+    hold(3, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), "1"); // 1 3 4 2
+    hold(4, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), "1");
+    hold(1, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(front(), "2"); // 2 1 3 4
+    pause = 0;               // as quick as fingers can
+    hold(2, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), "3");
+}
+
 } // namespace dorvan::test

@@ -56,10 +56,12 @@ TEST(LeadingNumber, OverflowsBeyondTheRangeAndSinksToZero) {
     EXPECT_FAILURE(Failure::Overflow, LeadingNumber("1.8e308"));
     EXPECT_FAILURE(Failure::Overflow, LeadingNumber("-1e999x"));
     EXPECT_FAILURE(Failure::Overflow, LeadingNumber("1e99999999999999999999999"));
+    EXPECT_FAILURE(Failure::Overflow, LeadingNumber("61e9223372036854775807"));
     EXPECT_FAILURE(Failure::Overflow, LeadingNumber(std::string(400, '9')));
     EXPECT_EQ(LeadingNumber("5e-324"), 5e-324);
     EXPECT_EQ(LeadingNumber("1e-999"), 0);
     EXPECT_EQ(LeadingNumber("1e-99999999999999999999999"), 0);
+    EXPECT_EQ(LeadingNumber("0.001e-9223372036854775808"), 0);
     EXPECT_EQ(LeadingNumber("0e99999999999999999999999"), 0);
     EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1"), 0);
     EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1e401"), 1);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fuzz/ways.h"
 #include "support/golden.h"
 
 #include <gtest/gtest.h>
@@ -12,9 +13,13 @@
 
 namespace dorvan::test {
 
-// Every seed of fuzz/seeds/<name>, among them what the fuzzers found, through the fuzzers' own entry, and cut
-// off at every byte.
-inline void checkSeeds(const std::string& name, void (*check)(std::string_view)) {
+// Every seed of fuzz/seeds/<name>, among them what the fuzzers found, read in every way, and cut off at every
+// byte.
+inline void checkSeeds(const std::string& name, void (*checkWays)(std::string_view, fuzz::Ways&)) {
+    const auto check = [&](std::string_view bytes) {
+        fuzz::Ways all;
+        checkWays(bytes, all);
+    };
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(sourcePath("fuzz/seeds/" + name))) {
         const std::string bytes = fileBytes(entry.path());

@@ -35,6 +35,7 @@ using namespace dorvan::test;
 constexpr int EndedByDesign = 42; // a run-time failure that the program announces
 constexpr int Complained = 43;
 constexpr int LongestAction = 60; // seconds
+constexpr int DeepestAction = 40; // keys let events run: an action may stand below the next one's
 constexpr auto LongestReturn = std::chrono::seconds(5);
 
 struct Options {
@@ -121,7 +122,7 @@ private:
     void Step() {
         // One whose loop another dialog keeps from its return is left behind in the end.
         const auto now = std::chrono::steady_clock::now();
-        if (!ADialogHasYetToReturn()) waitsSince_ = now;
+        if (!ADialogHasYetToReturn() && below_ < DeepestAction) waitsSince_ = now;
         if (now - waitsSince_ > std::chrono::milliseconds(0) && now - waitsSince_ < LongestReturn)
             return Arm();
         waitsSince_ = now;
@@ -137,7 +138,9 @@ private:
         if (!options_.replay.empty()) std::fprintf(stderr, "%s\n", action.Line().c_str());
         ::alarm(LongestAction);
         Arm();
+        ++below_;
         user_.Do(action);
+        --below_;
     }
 
     const Options& options_;
@@ -148,6 +151,7 @@ private:
     std::vector<Action> replay_;
     std::ofstream list_;
     std::size_t done_ = 0;
+    int below_ = 0; // actions that have yet to return
     std::chrono::steady_clock::time_point waitsSince_ = std::chrono::steady_clock::now();
     QObject timers_;
 };

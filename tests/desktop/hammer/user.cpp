@@ -18,6 +18,8 @@
 #include <QToolButton>
 #include <QWindow>
 
+#include <cstdlib>
+
 namespace dorvan::test {
 
 namespace {
@@ -54,7 +56,7 @@ User::User(Desktop& desktop, std::string files, unsigned seed)
 
 QMdiSubWindow* User::Window(int number) const {
     const auto windows = desktop_.mainWindow->Area().subWindowList();
-    return windows.isEmpty() ? nullptr : windows[number % windows.size()];
+    return windows.isEmpty() ? nullptr : windows[std::abs(number) % windows.size()];
 }
 
 QWidget* User::Attention() const {
