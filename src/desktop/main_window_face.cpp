@@ -26,6 +26,7 @@ namespace {
 
 constexpr int SmallScreenWidth = 1500; // pixels; up to here the main window takes all there is
 constexpr int ToolIconSize = 22;
+constexpr int StatusMargin = 6;       // pixels, at both ends of the status bar
 constexpr int LeastStatusWidth = 300; // pixels that the legend leaves to what is told of the cell
 constexpr int RecentFileWidth = 420;  // pixels; longer paths are shortened in the middle
 
@@ -139,6 +140,7 @@ void MainWindowFace::BuildStatusBar() {
     window_ = label("StatusWindow", "Window");
     unsaved_ = label("StatusUnsaved", "Unsaved");
     statusBar()->setObjectName("StatusBar");
+    statusBar()->setContentsMargins(StatusMargin, 0, StatusMargin, 0);
     statusBar()->addWidget(status_, 1);
     statusBar()->addWidget(cell_, 1);
     statusBar()->addPermanentWidget(legend_);

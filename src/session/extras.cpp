@@ -53,11 +53,27 @@ std::vector<CommandRow> ExtrasRows() {
          .Calls = {.Any = "Redo"}},
         {.Menu = ExtrasMenu, .Caption = "-"},
 
+        // Cells, by the clipboard
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasCopy",
+         .Caption = "&Copy",
+         .Shortcut = "Ctrl+C",
+         .Calls = {.Data = "CopySheetCells",
+                   .Matrix = "frmMacierz.CopyCells",
+                   .Diagram = "frmDiagram.CopyCells"}},
+        {.Menu = ExtrasMenu,
+         .Item = "mnuExtrasPaste",
+         .Caption = "Pas&te",
+         .Shortcut = "Ctrl+V",
+         .Calls = {.Data = "PasteCells"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
+
         // Orders of diagrams
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasBestOrder",
          .Caption = "&Best order",
          .Calls = {.Diagram = "frmDiagram.BestOrder"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
 
         // What a window shows
         {.Menu = ExtrasMenu,
@@ -79,7 +95,9 @@ std::vector<CommandRow> ExtrasRows() {
          .Item = "mnuExtrasZoomFit",
          .Caption = "&Fit",
          .Calls = {.Diagram = "frmDiagram.ZoomFit"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
 
+        // Pictures
         {.Menu = ExtrasMenu,
          .Item = "mnuExtrasSavePicture",
          .Caption = "Save &Picture...",
@@ -88,20 +106,7 @@ std::vector<CommandRow> ExtrasRows() {
          .Item = "mnuExtrasCopyPicture",
          .Caption = "Cop&y Picture...",
          .Calls = {.Diagram = "frmDiagram.CopyPicture"}},
-
-        // Sheets and their cells
-        {.Menu = ExtrasMenu,
-         .Item = "mnuExtrasCopy",
-         .Caption = "&Copy",
-         .Shortcut = "Ctrl+C",
-         .Calls = {.Data = "CopySheetCells",
-                   .Matrix = "frmMacierz.CopyCells",
-                   .Diagram = "frmDiagram.CopyCells"}},
-        {.Menu = ExtrasMenu,
-         .Item = "mnuExtrasPaste",
-         .Caption = "Pas&te",
-         .Shortcut = "Ctrl+V",
-         .Calls = {.Data = "PasteCells"}},
+        {.Menu = ExtrasMenu, .Caption = "-"},
 
         // Documents
         {.Menu = ExtrasMenu,
@@ -109,7 +114,6 @@ std::vector<CommandRow> ExtrasRows() {
          .Caption = "R&eopen Closed Document",
          .Shortcut = "Ctrl+Shift+T",
          .Calls = {.Any = "ReopenClosedDocument"}},
-
     };
     AddDocumentItems(rows);
     return rows;
