@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
+#include <QLabel>
 
 namespace dorvan {
 
@@ -43,6 +44,30 @@ void GridTyping::TakeComposed(const QInputMethodEvent& event) {
     }
 }
 
+void GridTyping::ShowUnfinished(const QString& text) {
+    const Grid* grid = grid_.Shown();
+    if (text.isEmpty() || !grid || !grid_.events.keyPress) {
+        if (unfinished_) unfinished_->hide();
+        return;
+    }
+    if (!unfinished_) {
+        unfinished_ = new QLabel(grid_.viewport());
+        unfinished_->setObjectName("Unfinished");
+        unfinished_->setTextFormat(Qt::PlainText);
+        unfinished_->setAutoFillBackground(true);
+        unfinished_->setBackgroundRole(QPalette::ToolTipBase);
+        unfinished_->setForegroundRole(QPalette::ToolTipText);
+        QFont underlined = grid_.font();
+        underlined.setUnderline(true); // as in a field
+        unfinished_->setFont(underlined);
+    }
+    const QRect cell = grid_.CellRect(grid->Row(), grid->Column());
+    unfinished_->setText(text);
+    unfinished_->resize(unfinished_->sizeHint().expandedTo(cell.size()));
+    unfinished_->move(cell.topLeft());
+    unfinished_->show();
+}
+
 bool GridTyping::OpenMenu() {
     const Grid* grid = grid_.Shown();
     if (!grid || !grid_.events.rightButton) return false;
@@ -55,10 +80,14 @@ bool GridTyping::OpenMenu() {
 bool GridTyping::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
     case QEvent::InputMethodQuery: Answer(static_cast<QInputMethodQueryEvent&>(*event)); return true;
-    case QEvent::InputMethod:
-        TakeComposed(static_cast<QInputMethodEvent&>(*event));
+    case QEvent::InputMethod: {
+        const auto& composed = static_cast<QInputMethodEvent&>(*event);
+        ShowUnfinished(composed.preeditString());
+        TakeComposed(composed);
         event->accept();
         return true;
+    }
+    case QEvent::FocusOut: ShowUnfinished({}); return false;
     case QEvent::ContextMenu:
         return static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard && OpenMenu();
     default: return false;

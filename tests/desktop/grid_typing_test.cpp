@@ -177,6 +177,29 @@ TEST_F(GridTypingTest, WhatIsStillBeingComposedWritesNothing) {
     desktop.session.DiagramBusy = 0;
 }
 
+TEST_F(GridTypingTest, WhatIsStillBeingComposedStandsOverItsCell) {
+    ClickCell(ActiveGrid(), 2, 1);
+    Compose("", "とうk");
+    auto& unfinished = Find<QLabel>(*ActiveGrid().viewport(), "Unfinished");
+    EXPECT_TRUE(unfinished.isVisible());
+    EXPECT_EQ(unfinished.text(), "とうk");
+    EXPECT_TRUE(unfinished.font().underline());
+    EXPECT_EQ(unfinished.geometry().topLeft(), ActiveGrid().CellRect(2, 1).topLeft());
+    EXPECT_GE(unfinished.width(), unfinished.sizeHint().width());
+    Compose("", "");
+    EXPECT_FALSE(unfinished.isVisible());
+    Compose("", "とうきょう");
+    EXPECT_EQ(unfinished.text(), "とうきょう");
+    Compose("東京");
+    EXPECT_FALSE(unfinished.isVisible());
+    EXPECT_EQ(EditCell().text(), "東京");
+    Press(Qt::Key_Return);
+    Compose("", "´");
+    ASSERT_TRUE(unfinished.isVisible());
+    Find<QPlainTextEdit>(Face(), "OpisText").setFocus();
+    EXPECT_FALSE(unfinished.isVisible());
+}
+
 TEST_F(GridTypingTest, AnInputMethodLearnsOfTheCurrentCell) {
     ClickCell(ActiveGrid(), 2, 3);
     QInputMethodQueryEvent query(Qt::ImEnabled | Qt::ImCursorRectangle);
