@@ -27,6 +27,7 @@ RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
     line_->setObjectName("RowTarget");
     line_->setAttribute(Qt::WA_TransparentForMouseEvents);
     line_->setAutoFillBackground(true);
+    line_->setBackgroundRole(QPalette::Highlight);
     line_->hide();
     scrolling_.setInterval(ScrollInterval);
     connect(&scrolling_, &QTimer::timeout, this, [this] {
@@ -38,9 +39,6 @@ RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
 
 // Below the row that it would follow, or above the one that it would precede.
 void RowDragging::ShowLine() {
-    QPalette palette = grid_.palette();
-    palette.setColor(QPalette::Window, palette.color(QPalette::Highlight));
-    line_->setPalette(palette);
     const QRect row = grid_.CellRect(to_, DocumentGrid::NumberColumn);
     line_->setVisible(!row.isEmpty() && to_ != from_);
     const int edge = to_ > from_ ? row.bottom() + 1 : row.top();

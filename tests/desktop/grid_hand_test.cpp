@@ -114,6 +114,8 @@ TEST_F(GridHandTest, ALineShowsWhereTheRowWouldLandAndEscLetsItGo) {
     MoveTo(to);
     EXPECT_TRUE(line.isVisible());
     EXPECT_TRUE(line.geometry().contains(to.x(), ActiveGrid().CellRect(5, 1).bottom() + 1));
+    const QImage painted = ActiveGrid().viewport()->grab().toImage();
+    EXPECT_EQ(painted.pixelColor(line.geometry().center()), line.palette().color(QPalette::Highlight));
     Press(Qt::Key_Escape);
     EXPECT_FALSE(line.isVisible());
     QTest::mouseRelease(ActiveGrid().viewport(), Qt::LeftButton, {}, to);
