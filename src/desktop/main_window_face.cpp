@@ -114,6 +114,7 @@ void MainWindowFace::BuildToolbars() {
             QAction* action = bar->addAction(ThemedIcon(ToQt(button.Key)), ToQt(button.ToolTip));
             action->setObjectName(ToQt(toolbar.Name + "." + button.Key));
             action->setToolTip(ToQt(button.ToolTip));
+            action->setIconVisibleInMenu(false);
             QWidget* widget = bar->widgetForAction(action);
             widget->setObjectName(action->objectName());
             widget->setAccessibleName(ToQt(button.ToolTip));
@@ -220,6 +221,8 @@ void MainWindowFace::PopUp(const std::string& menu, QPoint global) {
         if (item == "-") made->addSeparator();
         for (const auto& [name, action] : items_)
             if (name == item) made->addAction(action);
+        for (const auto& button : buttons_)
+            if (button.toolbar + "." + button.key == item) made->addAction(button.action);
     }
     made->popup(global);
 }

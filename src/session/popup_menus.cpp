@@ -29,9 +29,10 @@ constexpr std::string_view DiagramItems[] = {"mnuEditSelect",
                                              "mnuExtrasSavePicture",
                                              "mnuExtrasCopyPicture"};
 
+// The menu's item makes diagrams of sheets alone; the button those of matrices too.
 constexpr std::string_view MatrixItems[] = {
-    "mnuAnalysisDiagram", "-", "mnuExtrasCopy", "mnuExportText", "mnuExportExcel",
-    "mnuFilePrint",       "-", "mnuSave",       "mnuSaveAs"};
+    "toolMain.MakeDiagram", "-", "mnuExtrasCopy", "mnuExportText", "mnuExportExcel",
+    "mnuFilePrint",         "-", "mnuSave",       "mnuSaveAs"};
 
 constexpr std::string_view BitmapItems[] = {"mnuEditCopyClip", "-", "mnuSave", "mnuSaveAs"};
 

@@ -100,7 +100,10 @@ TEST_F(ShellTest, ADiagramOpensItsMenuAtThePointer) {
     EXPECT_EQ(names.first(), "mnuEditSelect");
     EXPECT_EQ(names.last(), "mnuExtrasCopyPicture");
     EXPECT_EQ(names.count("-"), 4);
-    EXPECT_FALSE(Item("mnuExtrasUndo").isEnabled());
+    for (const QAction* action : menu.actions())
+        EXPECT_EQ(action->isEnabled(),
+                  !QStringList({"mnuExtrasUndo", "mnuExtrasRedo"}).contains(action->objectName()))
+            << action->objectName().toStdString();
     const int row = Diagram().Siatka.Row();
     menu.actions().first()->trigger();
     menu.close();
@@ -113,7 +116,14 @@ TEST_F(ShellTest, AMatrixAndABitmapOpenTheirMenus) {
     MakeDiagram();
     Click("mnuEditCreateMatrix");
     QMenu& ofMatrix = PopUpOver(*ActiveGrid().viewport());
-    EXPECT_EQ(Names(ofMatrix).first(), "mnuAnalysisDiagram");
+    EXPECT_EQ(Names(ofMatrix).first(), "toolMain.MakeDiagram");
+    for (const QAction* action : ofMatrix.actions())
+        EXPECT_TRUE(action->isEnabled()) << action->objectName().toStdString();
+    InDialog([this](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "frmPrzedzal");
+        Find<QPushButton>(dialog, "Command2").click();
+    });
+    ofMatrix.actions().first()->trigger();
     ofMatrix.close();
     desktop.session.MatrixStates.at(1).Dirty = false;
     Click("mnuFileClose");

@@ -84,13 +84,19 @@ TEST(OpenDocuments, AreListedAsFarAsThereAreItems) {
     EXPECT_EQ(shown[9], "[DATA]: Untitled:23");
 }
 
-TEST(PopUpItems, AreItemsOfTheMainMenusThatTheKindHas) {
+TEST(PopUpItems, AreItemsAndButtonsThatTheKindHas) {
     const CommandTable commands;
     for (const auto kind : {DocumentKind::Matrix, DocumentKind::Diagram, DocumentKind::Bitmap}) {
         EXPECT_FALSE(PopUpItems(kind).empty());
         for (const auto item : PopUpItems(kind)) {
             if (item == "-") continue;
-            EXPECT_FALSE(commands.Item(item).Calls.For(kind).empty()) << kind << ' ' << item;
+            const auto dot = item.find('.');
+            if (dot != std::string_view::npos)
+                EXPECT_FALSE(
+                    commands.Button(item.substr(0, dot), item.substr(dot + 1)).Calls.For(kind).empty())
+                    << kind << ' ' << item;
+            else
+                EXPECT_FALSE(commands.Item(item).Calls.For(kind).empty()) << kind << ' ' << item;
         }
     }
     EXPECT_TRUE(PopUpItems(DocumentKind::Data).empty());
