@@ -26,6 +26,7 @@
 #include <map>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -35,7 +36,8 @@ using namespace dorvan::test;
 constexpr int EndedByDesign = 42; // a run-time failure that the program announces
 constexpr int Complained = 43;
 constexpr int LongestAction = 60; // seconds
-constexpr int DeepestAction = 40; // keys let events run: an action may stand below the next one's
+constexpr int MostBelow = 40;     // actions
+constexpr auto LongestStill = std::chrono::milliseconds(50);
 constexpr auto LongestReturn = std::chrono::seconds(5);
 
 struct Options {
@@ -119,13 +121,34 @@ private:
         return QThread::currentThread()->loopLevel() > 1 + int(open);
     }
 
-    void Step() {
-        // One whose loop another dialog keeps from its return is left behind in the end.
+    // What another dialog keeps from its return is left behind in the end, for good.
+    bool WaitsForADialog() {
         const auto now = std::chrono::steady_clock::now();
-        if (!ADialogHasYetToReturn() && below_ < DeepestAction) waitsSince_ = now;
-        if (now - waitsSince_ > std::chrono::milliseconds(0) && now - waitsSince_ < LongestReturn)
-            return Arm();
+        const int level = QThread::currentThread()->loopLevel();
+        leftBehind_ = std::min(leftBehind_, level);
+        const bool waits = level > leftBehind_ && ADialogHasYetToReturn();
+        if (waits && now - waitsSince_ < LongestReturn) return true;
+        if (waits) leftBehind_ = level;
         waitsSince_ = now;
+        return false;
+    }
+
+    // Keys let events run, so that an action may stand below the next one's: now and then all that can return
+    // have to.
+    bool WaitsForActions() {
+        const auto now = std::chrono::steady_clock::now();
+        if (below_ < lowest_) {
+            lowest_ = below_;
+            lowestSince_ = now;
+        }
+        if (below_ < lowest_ + MostBelow && !returning_) return false;
+        if (!std::exchange(returning_, true)) lowest_ = below_, lowestSince_ = now;
+        returning_ = now - lowestSince_ < LongestStill;
+        return returning_;
+    }
+
+    void Step() {
+        if (WaitsForADialog() || WaitsForActions()) return Arm();
         desktop_.dispatch.RunWaiting();
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
@@ -151,7 +174,11 @@ private:
     std::vector<Action> replay_;
     std::ofstream list_;
     std::size_t done_ = 0;
-    int below_ = 0; // actions that have yet to return
+    int below_ = 0;  // actions that have yet to return
+    int lowest_ = 0; // of late
+    bool returning_ = false;
+    std::chrono::steady_clock::time_point lowestSince_;
+    int leftBehind_ = 0; // level of the loops that are not waited for any more
     std::chrono::steady_clock::time_point waitsSince_ = std::chrono::steady_clock::now();
     QObject timers_;
 };
