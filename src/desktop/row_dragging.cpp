@@ -31,6 +31,7 @@ RowDragging::RowDragging(GridWidget& grid, EventDispatch& dispatch, Drop drop)
     line_->hide();
     scrolling_.setInterval(ScrollInterval);
     connect(&scrolling_, &QTimer::timeout, this, [this] {
+        if (!grid_.Shown()) return End();
         auto* bar = grid_.verticalScrollBar();
         bar->setValue(bar->value() + (place_.y() < 0 ? -1 : 1));
         DragTo(place_);
@@ -69,6 +70,10 @@ void RowDragging::End() {
 }
 
 bool RowDragging::eventFilter(QObject* watched, QEvent* event) {
+    if (!grid_.Shown()) {
+        End(); // its owner has gone while the row was on its way
+        return false;
+    }
     const bool onKeys = watched == &grid_;
     switch (event->type()) {
     case QEvent::KeyPress:
@@ -77,7 +82,7 @@ bool RowDragging::eventFilter(QObject* watched, QEvent* event) {
         return true;
     case QEvent::MouseButtonPress: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        if (onKeys || !grid_.Shown()) return false;
+        if (onKeys) return false;
         const QPoint cell = grid_.CellAt(mouse.position().toPoint());
         const bool byLabel = cell.x() >= 0 && cell.x() < DocumentGrid::FirstValueColumn && cell.y() >= 1;
         from_ = byLabel && mouse.button() == Qt::LeftButton && mouse.modifiers() == Qt::NoModifier ? cell.y()
@@ -86,7 +91,7 @@ bool RowDragging::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseMove: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        if (onKeys || from_ < 0 || !(mouse.buttons() & Qt::LeftButton) || !grid_.Shown()) return false;
+        if (onKeys || from_ < 0 || !(mouse.buttons() & Qt::LeftButton)) return false;
         DragTo(mouse.position().toPoint());
         return true;
     }
@@ -94,7 +99,7 @@ bool RowDragging::eventFilter(QObject* watched, QEvent* event) {
         const int from = from_;
         const bool drops = !onKeys && dragging_ && to_ != from;
         End();
-        if (drops && grid_.Shown()) dispatch_.Run([&] { drop_(from, to_); });
+        if (drops) dispatch_.Run([&] { drop_(from, to_); });
         return drops;
     }
     default: return false;

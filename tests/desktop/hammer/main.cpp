@@ -26,7 +26,6 @@
 #include <map>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
 
@@ -36,8 +35,6 @@ using namespace dorvan::test;
 constexpr int EndedByDesign = 42; // a run-time failure that the program announces
 constexpr int Complained = 43;
 constexpr int LongestAction = 60; // seconds
-constexpr int MostBelow = 40;     // actions
-constexpr auto LongestStill = std::chrono::milliseconds(50);
 constexpr auto LongestReturn = std::chrono::seconds(5);
 
 struct Options {
@@ -107,8 +104,8 @@ private:
     }
 
     // Armed before the action: what it opens is answered by the next one.
-    void Arm() {
-        QTimer::singleShot(0, &timers_, [this] { Step(); });
+    void Arm(int pause = 0) {
+        QTimer::singleShot(pause, &timers_, [this] { Step(); });
     }
 
     // A dialog or menu that has closed and has yet to return: its loop stands below this call. No user is
@@ -121,34 +118,13 @@ private:
         return QThread::currentThread()->loopLevel() > 1 + int(open);
     }
 
-    // What another dialog keeps from its return is left behind in the end, for good.
-    bool WaitsForADialog() {
-        const auto now = std::chrono::steady_clock::now();
-        const int level = QThread::currentThread()->loopLevel();
-        leftBehind_ = std::min(leftBehind_, level);
-        const bool waits = level > leftBehind_ && ADialogHasYetToReturn();
-        if (waits && now - waitsSince_ < LongestReturn) return true;
-        if (waits) leftBehind_ = level;
-        waitsSince_ = now;
-        return false;
-    }
-
-    // Keys let events run, so that an action may stand below the next one's: now and then all that can return
-    // have to.
-    bool WaitsForActions() {
-        const auto now = std::chrono::steady_clock::now();
-        if (below_ < lowest_) {
-            lowest_ = below_;
-            lowestSince_ = now;
-        }
-        if (below_ < lowest_ + MostBelow && !returning_) return false;
-        if (!std::exchange(returning_, true)) lowest_ = below_, lowestSince_ = now;
-        returning_ = now - lowestSince_ < LongestStill;
-        return returning_;
-    }
-
     void Step() {
-        if (WaitsForADialog() || WaitsForActions()) return Arm();
+        // One whose loop another dialog keeps from its return is left behind in the end.
+        const auto now = std::chrono::steady_clock::now();
+        if (!ADialogHasYetToReturn()) waitsSince_ = now;
+        if (now - waitsSince_ > std::chrono::milliseconds(0) && now - waitsSince_ < LongestReturn)
+            return Arm();
+        waitsSince_ = now;
         desktop_.dispatch.RunWaiting();
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
@@ -160,10 +136,8 @@ private:
         list_ << action.Line() << std::endl;
         if (!options_.replay.empty()) std::fprintf(stderr, "%s\n", action.Line().c_str());
         ::alarm(LongestAction);
-        Arm();
-        ++below_;
+        Arm(user_.Pause(action));
         user_.Do(action);
-        --below_;
     }
 
     const Options& options_;
@@ -174,11 +148,6 @@ private:
     std::vector<Action> replay_;
     std::ofstream list_;
     std::size_t done_ = 0;
-    int below_ = 0;  // actions that have yet to return
-    int lowest_ = 0; // of late
-    bool returning_ = false;
-    std::chrono::steady_clock::time_point lowestSince_;
-    int leftBehind_ = 0; // level of the loops that are not waited for any more
     std::chrono::steady_clock::time_point waitsSince_ = std::chrono::steady_clock::now();
     QObject timers_;
 };

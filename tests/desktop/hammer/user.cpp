@@ -1,6 +1,7 @@
 #include "hammer/user.h"
 
 #include "desktop/qt_text.h"
+#include "hammer/input.h"
 #include "session/command_rows.h"
 #include "sheet/frmNotePad.h"
 
@@ -13,7 +14,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMdiArea>
-#include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
@@ -193,7 +194,9 @@ void User::PressKey(int key, int modifiers) {
     if (QGuiApplication::focusWindow() != widget->windowHandle()) QApplication::setActiveWindow(widget);
     QWindow* window =
         QGuiApplication::focusWindow() ? QGuiApplication::focusWindow() : widget->windowHandle();
-    if (window) QTest::keyClick(window, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    const bool hasText = key < Qt::Key_Escape && !(modifiers & (Qt::ControlModifier | Qt::AltModifier));
+    if (window)
+        ClickKey(window, key, Qt::KeyboardModifiers(modifiers), hasText ? QString(QChar(key)) : QString());
 }
 
 void User::Mouse(const Action& action) {
@@ -202,12 +205,7 @@ void User::Mouse(const Action& action) {
     if (!window) return;
     const auto button = action.numbers[2] == 2 ? Qt::RightButton : Qt::LeftButton;
     const QPoint place(action.numbers[0], action.numbers[1]);
-    if (action.verb == "double") {
-        QTest::mouseClick(window, button, {}, place);
-        QTest::mouseDClick(window, button, {}, place);
-    } else {
-        QTest::mouseClick(window, button, {}, place);
-    }
+    ClickButton(window, button, place, action.verb == "double" ? 2 : 1);
 }
 
 void User::ChooseFile(const std::string& name) {
@@ -215,7 +213,8 @@ void User::ChooseFile(const std::string& name) {
     if (!dialog) return;
     if (auto* field = dialog->findChild<QLineEdit*>("fileNameEdit")) {
         field->setText(files_ + "/" + ToQt(name));
-        QTest::keyClick(field, Qt::Key_Return);
+        field->setFocus();
+        ClickKey(dialog->windowHandle(), Qt::Key_Return, {}, {});
     }
 }
 
@@ -227,6 +226,11 @@ bool User::IsInReach(const std::string& item) const {
     return toolbar && toolbar->isVisible();
 }
 
+int User::Pause(const Action& action) {
+    if (action.verb == "wait") return action.numbers[0];
+    return action.verb == "leave" ? action.numbers[0] + 1 : 0;
+}
+
 void User::Do(const Action& action) {
     const auto& [first, second, third, fourth] = action.numbers;
     QMdiSubWindow* window = Window(first);
@@ -234,24 +238,29 @@ void User::Do(const Action& action) {
     if (action.verb == "key") return PressKey(first, second);
     if (action.verb == "click" || action.verb == "double") return Mouse(action);
     if (action.verb == "file") return ChooseFile(action.text);
-    if (action.verb == "wait") return QTest::qWait(first);
     if (action.verb == "type") {
         if (QWidget* widget = Attention(); QGuiApplication::focusWindow() != widget->windowHandle())
             QApplication::setActiveWindow(widget);
-        if (QWindow* focus = QGuiApplication::focusWindow()) QTest::keyClick(focus, char(first));
+        const QChar character(static_cast<char16_t>(first));
+        if (QWindow* focus = QGuiApplication::focusWindow())
+            ClickKey(focus, character.toUpper().unicode(), {}, QString(character));
     }
     if (action.verb == "drag") {
         QWindow* screen = desktop_.mainWindow->windowHandle();
         if (Attention() != desktop_.mainWindow.get()) return;
-        QTest::mousePress(screen, Qt::LeftButton, {}, {first, second});
-        QTest::mouseMove(screen, {(first + third) / 2, (second + fourth) / 2});
-        QTest::mouseMove(screen, {third, fourth});
-        QTest::mouseRelease(screen, Qt::LeftButton, {}, {third, fourth});
+        PressButton(screen, Qt::LeftButton, {first, second});
+        MovePointer(screen, Qt::LeftButton, {(first + third) / 2, (second + fourth) / 2});
+        MovePointer(screen, Qt::LeftButton, {third, fourth});
+        ReleaseButton(screen, Qt::LeftButton, {third, fourth});
     }
     if (action.verb == "push") {
         QWidget* dialog = QApplication::activeModalWidget();
         const auto buttons = dialog ? dialog->findChildren<QAbstractButton*>() : QList<QAbstractButton*>();
-        if (!buttons.isEmpty()) QTest::mouseClick(buttons[first % buttons.size()], Qt::LeftButton);
+        if (buttons.isEmpty() || !dialog->windowHandle()) return;
+        const auto* button = buttons[first % buttons.size()];
+        if (button->isVisible())
+            ClickButton(dialog->windowHandle(), Qt::LeftButton,
+                        button->mapTo(dialog, button->rect().center()));
     }
     if (action.verb == "cancel")
         for (QWidget* top : QApplication::topLevelWidgets())
@@ -267,8 +276,8 @@ void User::Do(const Action& action) {
     if (action.verb == "open") desktop_.Open(FromQt(files_) + "/" + action.text);
     if (action.verb == "leave") {
         QApplication::setActiveWindow(nullptr);
-        QTest::qWait(first);
-        QApplication::setActiveWindow(desktop_.mainWindow.get());
+        QTimer::singleShot(first, desktop_.mainWindow.get(),
+                           [this] { QApplication::setActiveWindow(desktop_.mainWindow.get()); });
     }
     if (action.verb == "size") desktop_.mainWindow->resize(first, second);
     if (!window) return;

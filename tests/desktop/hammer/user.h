@@ -26,6 +26,9 @@ public:
     Action Next();
     void Do(const Action& action);
 
+    // Milliseconds until the next one.
+    static int Pause(const Action& action);
+
     // What must hold whenever the program waits for its user; empty when it does.
     std::string Complaint() const;
 
