@@ -30,8 +30,9 @@ GridMarking::GridMarking(GridWidget& grid, Grid& marked, EventDispatch& dispatch
 }
 
 void GridMarking::Run(const std::function<void()>& mark) {
-    if (!grid_.Shown()) return;
-    dispatch_.Run(mark);
+    dispatch_.Run([&] {
+        if (grid_.Shown()) mark();
+    });
 }
 
 // A click with Shift marks as far as that cell. Any other one moves the current cell and may begin a drag;

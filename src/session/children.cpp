@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cstdint>
 
 namespace dorvan {
 
@@ -18,8 +19,14 @@ auto Place(Session& session, const ChildWindow& window) {
                         [&](const auto& child) { return child.get() == &window; });
 }
 
+// How often another window became the active one.
+struct Switches {
+    std::int64_t Count = 0;
+};
+
 void SwitchActive(Session& session, ChildWindow* window) {
     if (session.ActiveWindow == window) return;
+    ++session.Of<Switches>().Count;
     if (session.ActiveWindow) session.ActiveWindow->Form_Deactivate();
     session.ActiveWindow = window;
     if (window) window->Form_Activate();
@@ -41,13 +48,14 @@ void ShowChild(Session& session, ChildWindow& window) {
 }
 
 // The field that loses the focus may let events run: only then is it told whether the window is still there,
-// and whether another one has come to the front, which then stays there.
+// and whether another one has come to the front, which then stays there; also where that is the one before.
 void ActivateChild(Session& session, ChildWindow& window) {
     const auto owner = OwnerOf(session, window);
     const auto before = session.ActiveWindow ? OwnerOf(session, *session.ActiveWindow) : nullptr;
+    const auto switches = session.Of<Switches>().Count;
     if (before && before.get() != &window) before->LeaveField();
     const bool isOpen = before && Place(session, *before) != session.Children.end();
-    if (isOpen && session.ActiveWindow != before.get()) return;
+    if (isOpen && session.Of<Switches>().Count != switches) return;
     const auto place = Place(session, window);
     if (place == session.Children.end()) return;
     std::rotate(place, place + 1, session.Children.end());

@@ -102,6 +102,19 @@ TEST_F(GridHandTest, ARowDraggedByItsNameMovesAsInsertMovesIt) {
     EXPECT_TRUE(Diagram().Siatka.Marked().IsOneCell());
 }
 
+TEST_F(GridHandTest, ARowOnItsWayEndsWithItsWindow) {
+    MakeDiagram();
+    auto& viewport = *ActiveGrid().viewport();
+    auto& line = Find<QFrame>(viewport, "RowTarget");
+    QTest::mousePress(&viewport, Qt::LeftButton, {}, PlaceOf(ActiveGrid(), 2, 1));
+    MoveTo({5, viewport.height() + 20}); // it scrolls from now on
+    ASSERT_TRUE(line.isVisible());
+    Face().Detach(); // as when the window closes in a dialog's or a menu's own loop
+    QTest::qWait(200);
+    EXPECT_FALSE(line.isVisible());
+    QTest::mouseRelease(&viewport, Qt::LeftButton, {}, {5, 5});
+}
+
 TEST_F(GridHandTest, ALineShowsWhereTheRowWouldLandAndEscLetsItGo) {
     MakeDiagram();
     desktop.session.DiagramStates.at(1).Dirty = false;

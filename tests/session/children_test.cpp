@@ -62,6 +62,19 @@ TEST(ActivateChild, TheWindowThatCameToTheFrontMeanwhileStaysThere) {
     EXPECT_EQ(test.session.Children.back().get(), &second);
 }
 
+TEST(ActivateChild, TheWindowThatCameBackToTheFrontMeanwhileStaysThere) {
+    FakeWindowSession test;
+    auto& first = test.Open(DocumentKind::Data);
+    auto& second = test.Open(DocumentKind::Data);
+    auto& field = test.Open<FieldWindow>(DocumentKind::Data);
+    field.onLeave = [&] {
+        ActivateChild(test.session, second);
+        ActivateChild(test.session, field);
+    };
+    ActivateChild(test.session, first);
+    EXPECT_EQ(test.session.ActiveWindow, &field);
+}
+
 TEST(ShowChild, TheNewWindowComesToTheFrontWhateverDidMeanwhile) {
     FakeWindowSession test;
     auto& first = test.Open(DocumentKind::Data);

@@ -125,6 +125,7 @@ private:
         if (now - waitsSince_ > std::chrono::milliseconds(0) && now - waitsSince_ < LongestReturn)
             return Arm();
         waitsSince_ = now;
+        QCoreApplication::sendPostedEvents(); // what the last one left to be done later
         desktop_.dispatch.RunWaiting();
         if (const std::string complaint = user_.Complaint(); !complaint.empty())
             EndRound(Complained, complaint);
