@@ -227,15 +227,28 @@ void GridWidget::Measure() {
     UpdateScrollBars();
 }
 
+// The room is told from the one without bars: each bar that is shown takes room from what the other one
+// scrolls, and two that went by the room of the moment could call and send each other away for ever.
 void GridWidget::UpdateScrollBars() {
-    const auto update = [this](QScrollBar* bar, const Axis& axis, int room) {
-        bar->setRange(0, std::max(0, axis.LastFirst(room) - axis.fixed));
-        bar->setPageStep(axis.Count() > axis.fixed ? axis.CellsIn(room) : 1);
+    auto* down = verticalScrollBar();
+    auto* across = horizontalScrollBar();
+    const auto pixels = [this](int room) { return int(room * Ratio()); };
+    const auto scrolls = [](const Axis& axis, int room) { return axis.LastFirst(room) > axis.fixed; };
+    const QSize whole = maximumViewportSize();
+    QSize room = whole;
+    for (int pass = 0; pass < 2; ++pass) { // the second bar may call for the first
+        if (scrolls(rows_, pixels(room.height()))) room.setWidth(whole.width() - down->sizeHint().width());
+        if (scrolls(columns_, pixels(room.width())))
+            room.setHeight(whole.height() - across->sizeHint().height());
+    }
+    const auto update = [this](QScrollBar* bar, const Axis& axis, int length) {
+        bar->setRange(0, std::max(0, axis.LastFirst(length) - axis.fixed));
+        bar->setPageStep(axis.Count() > axis.fixed ? axis.CellsIn(length) : 1);
         const int cell = axis.Count() > axis.fixed ? axis.Size(axis.fixed) : 1;
         bar->setSingleStep(std::max(1, int(std::lround(ScrollStep * Ratio() / cell))));
     };
-    update(verticalScrollBar(), rows_, int(viewport()->height() * Ratio()));
-    update(horizontalScrollBar(), columns_, int(viewport()->width() * Ratio()));
+    update(down, rows_, pixels(room.height()));
+    update(across, columns_, pixels(room.width()));
 }
 
 void GridWidget::Mirror() {

@@ -84,6 +84,44 @@ TEST_F(GridWidgetTest, ArrowsStopAtTheFixedCellsAndAtTheEdges) {
     ExpectCurrent(59, 39);
 }
 
+// Where all cells have room without bars but not beside one, no bar calls the other one, whichever was there.
+TEST_F(GridWidgetTest, BarsDoNotCallEachOther) {
+    grid.SetSize(6, 5);
+    widget.Mirror();
+    const QRect last = [this] {
+        widget.resize(2000, 2000);
+        return widget.CellRect(5, 4);
+    }();
+    const QSize all(last.right() + 4, last.bottom() + 4);
+    for (const QSize before : {QSize(2000, 60), QSize(60, 2000), QSize(60, 60)}) {
+        widget.resize(before);
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(widget.verticalScrollBar()->isVisible() || widget.horizontalScrollBar()->isVisible());
+        widget.resize(all);
+        EXPECT_EQ(widget.verticalScrollBar()->maximum(), 0);
+        EXPECT_EQ(widget.horizontalScrollBar()->maximum(), 0);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(widget.viewport()->size(), all);
+    }
+}
+
+// One bar alone takes the room that its neighbour's cells had.
+TEST_F(GridWidgetTest, ABarCallsTheOtherOneWhereItTakesItsRoom) {
+    grid.SetSize(6, 5);
+    widget.Mirror();
+    widget.resize(2000, 2000);
+    const QRect last = widget.CellRect(5, 4);
+    for (const QSize size :
+         {QSize(last.right() + 4, last.bottom() - 2), QSize(last.right() - 2, last.bottom() + 4)}) {
+        widget.resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(widget.verticalScrollBar()->isVisible());
+        EXPECT_TRUE(widget.horizontalScrollBar()->isVisible());
+        EXPECT_GT(widget.verticalScrollBar()->maximum(), 0);
+        EXPECT_GT(widget.horizontalScrollBar()->maximum(), 0);
+    }
+}
+
 TEST_F(GridWidgetTest, HomeAndEndGoAlongTheRowAndWithControlToTheCorners) {
     Press(Qt::Key_End);
     ExpectCurrent(1, 39);
