@@ -285,7 +285,8 @@ void User::Do(const Action& action) {
     if (action.verb == "minimize") window->showMinimized();
     if (action.verb == "restore") window->showNormal();
     if (action.verb == "activate") area.setActiveSubWindow(window);
-    if (action.verb == "resize") window->resize(second, third);
+    const bool hasBorders = !window->isMinimized() && !window->isMaximized();
+    if (action.verb == "resize" && hasBorders) window->resize(second, third);
     if (action.verb == "close") window->close();
 }
 
