@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QPointer>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -233,7 +234,7 @@ int User::Pause(const Action& action) {
 
 void User::Do(const Action& action) {
     const auto& [first, second, third, fourth] = action.numbers;
-    QMdiSubWindow* window = Window(first);
+    const QPointer<QMdiSubWindow> window = Window(first);
     auto& area = desktop_.mainWindow->Area();
     if (action.verb == "key") return PressKey(first, second);
     if (action.verb == "click" || action.verb == "double") return Mouse(action);
@@ -285,8 +286,8 @@ void User::Do(const Action& action) {
     if (action.verb == "minimize") window->showMinimized();
     if (action.verb == "restore") window->showNormal();
     if (action.verb == "activate") area.setActiveSubWindow(window);
-    const bool hasBorders = !window->isMinimized() && !window->isMaximized();
-    if (action.verb == "resize" && hasBorders) window->resize(second, third);
+    if (action.verb == "resize" && !window->isMinimized() && !window->isMaximized()) // it has borders
+        window->resize(second, third);
     if (action.verb == "close") window->close();
 }
 
