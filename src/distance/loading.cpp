@@ -7,8 +7,6 @@
 #include "sheet/sheet_history.h"
 #include "sheet/sheet_values.h"
 
-#include <fmt/format.h>
-
 namespace dorvan {
 
 namespace {
@@ -55,10 +53,6 @@ bool LoadRecord(Session& session, Grid& grid, std::int32_t record) {
 }
 
 } // namespace
-
-std::string DataErrorText(std::int32_t record, std::int32_t variable) {
-    return fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable));
-}
 
 bool LoadWorkingData(Session& session) {
     frmNotePad& window = ActiveDataWindow(session);

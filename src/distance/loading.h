@@ -2,9 +2,6 @@
 
 #include "session/session.h"
 
-#include <cstdint>
-#include <string>
-
 namespace dorvan {
 
 // Turns the active data sheet into the working arrays `RecordNames`, `VariableNames`, `DataValues`,
@@ -12,8 +9,5 @@ namespace dorvan {
 // text its leading number, with a comma read as a point. False, after a message, when the pending-error
 // indicator is set. Fails with Overflow for a number outside the range of a 32-bit float.
 bool LoadWorkingData(Session& session);
-
-// The text of that message: the numbers of a record and of a variable, not of a column of the grid.
-std::string DataErrorText(std::int32_t record, std::int32_t variable);
 
 } // namespace dorvan

@@ -29,8 +29,7 @@ bool LoadCell(Session& session, Grid& grid, int record, int variable) {
     session.tables.DataValues(record, variable) = RoundToFloat(LeadingNumber(TrimSpaces(text)));
     if (session.Of<SheetValues>().PendingError) {
         session.platform.messages.show(
-            {.Text = fmt::format("Data Error. Row={}, Col={}", SignedText(record), SignedText(variable)),
-             .Icon = MessageIcon::Critical});
+            {.Text = DataErrorText(record, variable), .Icon = MessageIcon::Critical});
         return false;
     }
     if (TrimSpaces(text).empty()) grid.SetText(record, column, "0.0");

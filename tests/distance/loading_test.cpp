@@ -124,10 +124,6 @@ TEST_F(LoadWorkingDataTest, StopsAtAPendingErrorAndNamesRecordAndVariable) {
     EXPECT_EQ(sheet.Grid1.Text(1, 2), "") << "the load stops before an empty cell is written";
 }
 
-TEST(DataErrorText, NamesTheRecordAsTheRowAndTheVariableAsTheColumn) {
-    EXPECT_EQ(DataErrorText(3, 2), "Data Error. Row= 3, Col= 2");
-}
-
 TEST_F(LoadWorkingDataTest, LoadsASheetWithoutVariables) {
     OpenSheet({{}, {}, {}});
     ASSERT_TRUE(LoadWorkingData(session));

@@ -169,6 +169,10 @@ TEST_F(StandardizationTest, ASingleRecordIsRefused) {
     EXPECT_FALSE(session.Of<SheetValues>().PendingError);
 }
 
+TEST(DataErrorText, NamesTheRecordAsTheRowAndTheVariableAsTheColumn) {
+    EXPECT_EQ(DataErrorText(3, 2), "Data Error. Row= 3, Col= 2");
+}
+
 TEST_F(StandardizationTest, APendingErrorStopsAtTheCell) {
     auto& source = SheetOf({{"1", ""}, {"3", ""}});
     forms.scripts.push_back([this](Form& form) {
