@@ -37,13 +37,14 @@ void SwitchActive(Session& session, ChildWindow* window) {
 } // namespace
 
 void ShowChild(Session& session, ChildWindow& window) {
-    if (Place(session, window) == session.Children.end())
-        if (auto owner = OwnerOf(session, window)) session.Children.push_back(std::move(owner));
+    const auto owner = OwnerOf(session, window);
+    if (owner && Place(session, window) == session.Children.end()) session.Children.push_back(owner);
     window.Visible = true;
     session.platform.children.show(window);
     ActivateChild(session, window);
-    if (session.ActiveWindow == &window) return;
-    session.platform.children.show(window); // another one came to the front meanwhile
+    const bool isOpen = Place(session, window) != session.Children.end(); // it may have closed meanwhile
+    if (!isOpen || session.ActiveWindow == &window) return;
+    session.platform.children.show(window); // another one came to the front
     ActivateChild(session, window);
 }
 

@@ -88,6 +88,16 @@ TEST(ShowChild, TheNewWindowComesToTheFrontWhateverDidMeanwhile) {
     EXPECT_EQ(test.children.log.back(), "show " + opened.Caption) << "on the screen too";
 }
 
+TEST(ShowChild, AWindowThatClosesMeanwhileStaysClosed) {
+    FakeWindowSession test;
+    auto& field = test.Open<FieldWindow>(DocumentKind::Data);
+    field.onLeave = [&] { CloseChild(test.session, *test.session.Children.back()); };
+    const std::string caption = test.Open(DocumentKind::Matrix).Caption;
+    EXPECT_EQ(test.session.Children.size(), 1u);
+    EXPECT_EQ(test.session.ActiveWindow, &field);
+    EXPECT_EQ(test.children.log.back(), "close " + caption);
+}
+
 TEST(CloseChild, AsksThenDeactivatesThenUnloadsThenActivatesTheNext) {
     FakeWindowSession test;
     test.Open(DocumentKind::Data);
