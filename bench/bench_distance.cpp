@@ -1,11 +1,10 @@
 #include "distance/distance.h"
+#include "plain_against_fast.h"
 #include "tests/distance/plain_measures.h"
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <random>
 #include <string>
@@ -34,17 +33,7 @@ FloatTable Sheet(std::int32_t n, std::int32_t m, DistanceType type) {
     return values;
 }
 
-// Seconds of one run, the least of several.
-template <class Run> double LeastTime(Run run) {
-    double least = 1e9;
-    for (int repeat = 0; repeat < 5; ++repeat) {
-        const auto start = std::chrono::steady_clock::now();
-        benchmark::DoNotOptimize(run());
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        least = std::min(least, taken.count());
-    }
-    return least;
-}
+using bench::LeastTime;
 
 void Distances(benchmark::State& state, Measure measure, std::int32_t n, std::int32_t m) {
     const FloatTable values = Sheet(n, m, measure.Type);

@@ -3,6 +3,7 @@
 #include "making/frmPrzedzal.h"
 #include "making/making_diagram.h"
 #include "making/section_limits.h"
+#include "plain_against_fast.h"
 #include "session/children.h"
 #include "session/registry.h"
 #include "sheet/frmNotePad.h"
@@ -10,8 +11,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <random>
@@ -68,17 +67,7 @@ struct SheetSession : bench::SilentSession {
     }
 };
 
-// Seconds of one run, the least of several.
-template <class Run> double LeastTime(Run run) {
-    double least = 1e9;
-    for (int repeat = 0; repeat < 5; ++repeat) {
-        const auto start = std::chrono::steady_clock::now();
-        run();
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-        least = std::min(least, taken.count());
-    }
-    return least;
-}
+using bench::LeastTime;
 
 void Report(benchmark::State& state, double plain, double fast) {
     state.counters["plain_us"] = plain * 1e6;
@@ -88,7 +77,7 @@ void Report(benchmark::State& state, double plain, double fast) {
 void Making(benchmark::State& state, std::int32_t variables, bool ordered) {
     SheetSession sheet(variables, ordered);
     for (auto _ : state) sheet.Make();
-    const double plain = LeastTime([&] { benchmark::DoNotOptimize(sheet.MakePlainly()); });
+    const double plain = LeastTime([&] { return sheet.MakePlainly(); });
     Report(state, plain, LeastTime([&] { sheet.Make(); }));
 }
 
@@ -97,8 +86,8 @@ void AutomaticLimits(benchmark::State& state) {
     sheet.Make();
     const FloatTable distances = sheet.session.tables.DistanceValues;
     for (auto _ : state) benchmark::DoNotOptimize(ComputeAutomaticLimits(distances));
-    const double plain = LeastTime([&] { benchmark::DoNotOptimize(test::PlainAutomaticLimits(distances)); });
-    Report(state, plain, LeastTime([&] { benchmark::DoNotOptimize(ComputeAutomaticLimits(distances)); }));
+    const double plain = LeastTime([&] { return test::PlainAutomaticLimits(distances); });
+    Report(state, plain, LeastTime([&] { return ComputeAutomaticLimits(distances); }));
 }
 
 BENCHMARK_CAPTURE(Making, order1_250x10, 10, false)->Unit(benchmark::kMicrosecond);

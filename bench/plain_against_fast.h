@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <type_traits>
 
 namespace dorvan::bench {
 
@@ -12,7 +13,10 @@ template <class Run> double LeastTime(const Run& run) {
     double least = 1e9;
     for (int repeat = 0; repeat < 5; ++repeat) {
         const auto start = std::chrono::steady_clock::now();
-        benchmark::DoNotOptimize(run());
+        if constexpr (std::is_void_v<decltype(run())>)
+            run();
+        else
+            benchmark::DoNotOptimize(run());
         const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
         least = std::min(least, taken.count());
     }

@@ -221,7 +221,7 @@ void QtChildren::show(ChildWindow& window) {
         face = MakeChildFace(window, *context_);
         faces_[&window] = face;
         area_->addSubWindow(face);
-        new WindowTabs(*area_, face);
+        WindowTabs::ComeFirst(*area_);
         face->Place();
         face->show();
     }

@@ -21,8 +21,11 @@ void CountEachTab(QMdiArea& area) {
 
 } // namespace
 
-WindowTabs::WindowTabs(QMdiArea& area, QObject* window) : QObject(window), area_(area) {
-    QCoreApplication::instance()->installEventFilter(this);
+WindowTabs::WindowTabs(QMdiArea& area) : QObject(&area), area_(area) { setObjectName("WindowTabs"); }
+
+void WindowTabs::ComeFirst(QMdiArea& area) {
+    auto* tabs = area.findChild<QObject*>("WindowTabs", Qt::FindDirectChildrenOnly);
+    QCoreApplication::instance()->installEventFilter(tabs ? tabs : new WindowTabs(area));
 }
 
 // The area begins with the window that was in front longest ago and has the other order on Shift+Tab.

@@ -10,13 +10,15 @@ namespace dorvan {
 // the one that was in front before, then to the one before that; Shift+Tab the other way.
 class WindowTabs : public QObject {
 public:
-    // For each window, which has just been added: the area's own filter has to come behind.
-    WindowTabs(QMdiArea& area, QObject* window);
+    // To be called after each window that is added to the area: its own filter has to come behind.
+    static void ComeFirst(QMdiArea& area);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    explicit WindowTabs(QMdiArea& area);
+
     QMdiArea& area_;
 };
 

@@ -17,7 +17,7 @@ namespace dorvan::test {
 namespace {
 
 constexpr int LookForDialogs = 10;     // milliseconds
-constexpr int LongestActivation = 30; // s
+constexpr int LongestActivation = 30;  // s
 constexpr int LongestUnanswered = 300; // looks, until a dialog counts as unexpected
 
 std::string MakeSettingsFolder(const QTemporaryDir& folder) {

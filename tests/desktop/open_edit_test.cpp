@@ -31,8 +31,7 @@ protected:
     }
     // A window manager gives the focus back of its own accord; offscreen there is none.
     void BackFromDialog() {
-        if (QGuiApplication::platformName() != "xcb")
-            QApplication::setActiveWindow(desktop.mainWindow.get());
+        if (QGuiApplication::platformName() != "xcb") QApplication::setActiveWindow(desktop.mainWindow.get());
     }
     void ClickOnCell(int row, int column) {
         ClickOn(*SheetGrid().viewport(), PlaceOf(SheetGrid(), row, column));
